@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+/// A child process whose output is gathered beside the main thread.
+namespace velmora::ChildProcess {
+
+/// How a run came out.
+struct Outcome {
+    /// Set when the process could not be started: the system's description of why.
+    QString startFailure;
+    /// Standard output and standard error in one channel, in the order written.
+    QByteArray output;
+    /// More than `outputLimit` bytes arrived; `output` ends at a character boundary before it.
+    bool truncated = false;
+};
+
+/// Bytes of output kept of one run.
+inline constexpr qsizetype outputLimit = 64 * 1024 * 1024;
+
+/// Starts `program` with `arguments`; environment, working directory and standard input are
+/// inherited. `completion` is called once, on the main thread, when the process has ended (a
+/// background grandchild that keeps the channel open delays nothing) or could not be started. There
+/// is no time limit. The process outlives this one.
+void run(
+    const QString& program, const QStringList& arguments,
+    std::function<void(const Outcome&)> completion);
+
+} // namespace velmora::ChildProcess

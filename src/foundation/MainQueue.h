@@ -1,0 +1,12 @@
+#pragma once
+
+#include <functional>
+
+/// Submission of work to the main thread's event loop.
+namespace velmora::MainQueue {
+
+/// Runs `task` on the main thread in a later turn of its event loop, in order of submission.
+/// Callable from any thread. Without an application object the task is dropped.
+void submit(std::function<void()> task);
+
+} // namespace velmora::MainQueue

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <memory>
+#include <optional>
+
+class QSettings;
+
+namespace velmora {
+
+/// The user's stored settings, values by key. Each write reaches the disk before it returns and
+/// replaces the old file whole, so that a crash leaves the old values or the new ones. A write that
+/// fails (full disk, read-only folder) is silent: what was stored stays, the value read back is the
+/// new one. Main thread only.
+class UserDefaults {
+public:
+    /// The process-wide store, "velmora/velmora.conf" in the user's configuration folder.
+    static UserDefaults& standard();
+
+    /// A store of its own in `file`.
+    explicit UserDefaults(const QString& file);
+    ~UserDefaults();
+
+    /// The bytes under `key`; absent when there are none.
+    std::optional<QByteArray> data(const QString& key) const;
+    void setData(const QString& key, const QByteArray& value);
+
+    /// The Boolean under `key`; false when there is none.
+    bool boolean(const QString& key) const;
+    void setBoolean(const QString& key, bool value);
+
+private:
+    void write(const QString& key, const QVariant& value);
+
+    std::unique_ptr<QSettings> settings_;
+};
+
+} // namespace velmora

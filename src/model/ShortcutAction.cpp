@@ -1,0 +1,1 @@
+#include "model/ShortcutAction.h"

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <variant>
+
+namespace velmora {
+
+/// Launch an application, known by display name and, where known, its bundle identifier.
+struct LaunchApp {
+    QString name;
+    std::optional<QString> bundleId;
+    bool operator==(const LaunchApp&) const = default;
+};
+
+/// Open a URL given as text; it is not parsed or validated here.
+struct OpenUrl {
+    QString url;
+    bool operator==(const OpenUrl&) const = default;
+};
+
+/// Run one shell command line.
+struct ExecuteShellCommand {
+    QString command;
+    bool operator==(const ExecuteShellCommand&) const = default;
+};
+
+/// Synthesise a key combination, given in the vocabulary of key and modifier names.
+struct PressKeyCombo {
+    QStringList modifiers; ///< ordered; the order counts for equality
+    QString key;
+    bool operator==(const PressKeyCombo&) const = default;
+};
+
+/// What a button or a mouse binding does. The index of the alternative is the case tag, 0 to 3.
+using ShortcutAction = std::variant<LaunchApp, OpenUrl, ExecuteShellCommand, PressKeyCombo>;
+
+/// Agrees with equality.
+size_t qHash(const ShortcutAction& action, size_t seed = 0) noexcept;
+
+/// One localized line that describes the action to the user.
+QString displayName(const ShortcutAction& action);
+
+} // namespace velmora

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Workspace.h"
+
+namespace velmora {
+
+/// The workspace over desktop entries and default handlers, by way of GIO.
+class FreedesktopWorkspace : public Workspace {
+public:
+    std::optional<QString> applicationLocation(const QString& identifier) const override;
+    QStringList applicationLocations(const QString& identifier) const override;
+    void openApplication(
+        const QString& location, const OpenConfiguration& configuration,
+        OpenCompletion completion) override;
+    bool openUrl(const QUrl& url) override;
+};
+
+} // namespace velmora

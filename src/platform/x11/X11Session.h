@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+
+namespace velmora {
+
+class Accessibility;
+class KeyboardEvents;
+class PanelWindows;
+class Screens;
+class WindowActivation;
+
+/// The services of an X11 session over one connection of their own beside Qt's.
+class X11Session {
+public:
+    /// Connects to the display that the environment names; nothing when that fails. Needs no
+    /// application object; the services do.
+    static std::unique_ptr<X11Session> create();
+    ~X11Session();
+
+    Accessibility& accessibility();
+    KeyboardEvents& keyboardEvents();
+    PanelWindows& panelWindows();
+    Screens& screens();
+    WindowActivation& windowActivation();
+
+private:
+    X11Session();
+
+    struct Services;
+    std::unique_ptr<Services> services_;
+};
+
+} // namespace velmora

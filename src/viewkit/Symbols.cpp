@@ -1,0 +1,1 @@
+#include "viewkit/Symbols.h"

@@ -1,0 +1,93 @@
+#include "support/TestDisplay.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora::test {
+namespace {
+
+/// Ends `process` and waits for it.
+void end(QProcess& process)
+{
+    if (process.state() == QProcess::NotRunning)
+        return;
+    process.terminate();
+    if (!process.waitForFinished(3000)) {
+        process.kill();
+        process.waitForFinished(3000);
+    }
+}
+
+} // namespace
+
+TestDisplay::TestDisplay(int width, int height)
+{
+    // Xvfb picks a free number and writes it to the pipe once it accepts clients.
+    int pipe[2];
+    if (::pipe(pipe) != 0)
+        qFatal("pipe failed");
+    auto xvfb = std::make_unique<QProcess>();
+    xvfb->setProcessChannelMode(QProcess::SeparateChannels);
+    xvfb->setStandardErrorFile(QProcess::nullDevice());
+    xvfb->start(
+        u"Xvfb"_s,
+        {u"-displayfd"_s, QString::number(pipe[1]), u"-noreset"_s, u"-screen"_s, u"0"_s,
+         u"%1x%2x24"_s.arg(width).arg(height), u"-nolisten"_s, u"tcp"_s});
+    ::close(pipe[1]);
+    QByteArray number;
+    char byte = 0;
+    pollfd descriptor{pipe[0], POLLIN, 0};
+    while (::poll(&descriptor, 1, 10000) > 0 && ::read(pipe[0], &byte, 1) == 1 && byte != '\n')
+        number += byte;
+    ::close(pipe[0]);
+    if (number.isEmpty())
+        qFatal("Xvfb did not start");
+    name_ = u':' + QString::fromLatin1(number);
+    qputenv("DISPLAY", name_.toLatin1());
+    processes_.push_back(std::move(xvfb));
+}
+
+TestDisplay::~TestDisplay()
+{
+    // Clients before the server.
+    while (!processes_.empty()) {
+        end(*processes_.back());
+        processes_.pop_back();
+    }
+}
+
+QProcess& TestDisplay::start(const QString& program, const QStringList& arguments)
+{
+    auto process = std::make_unique<QProcess>();
+    process->start(program, arguments);
+    if (!process->waitForStarted())
+        qFatal("%s did not start", qPrintable(program));
+    processes_.push_back(std::move(process));
+    return *processes_.back();
+}
+
+QProcess& TestDisplay::startWindowManager(const QString& program)
+{
+    QProcess& process = start(program);
+    const bool running = waitFor([this] {
+        return run(u"xprop"_s, {u"-root"_s, u"_NET_SUPPORTING_WM_CHECK"_s}).contains("window id");
+    });
+    if (!running)
+        qFatal("%s did not take over", qPrintable(program));
+    return process;
+}
+
+QByteArray TestDisplay::run(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished();
+    return process.readAllStandardOutput();
+}
+
+} // namespace velmora::test

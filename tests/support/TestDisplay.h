@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <memory>
+#include <vector>
+
+namespace velmora::test {
+
+/// A virtual X display of its own on a free number, ended with the object. Sets DISPLAY.
+class TestDisplay {
+public:
+    /// Size in pixels. Aborts the test program when Xvfb does not start.
+    explicit TestDisplay(int width = 1512, int height = 982);
+    ~TestDisplay();
+
+    /// ":<number>".
+    const QString& name() const { return name_; }
+
+    /// Starts `program` on this display and ends it with the object; waits until it runs.
+    QProcess& start(const QString& program, const QStringList& arguments = {});
+
+    /// Starts a window manager ("openbox", "xfwm4", …) and waits until it has taken over.
+    QProcess& startWindowManager(const QString& program);
+
+    /// Runs `program` to its end and gives its standard output.
+    QByteArray run(const QString& program, const QStringList& arguments);
+
+private:
+    QString name_;
+    std::vector<std::unique_ptr<QProcess>> processes_;
+};
+
+/// Polls `condition` every few milliseconds, running this thread's event loop, until it holds or
+/// `milliseconds` have passed.
+template<typename Condition>
+bool waitFor(Condition condition, int milliseconds = 10000);
+
+} // namespace velmora::test
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QThread>
+
+template<typename Condition>
+bool velmora::test::waitFor(Condition condition, int milliseconds)
+{
+    const QDeadlineTimer deadline(milliseconds);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        if (QCoreApplication::instance())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        QThread::msleep(2);
+    }
+    return true;
+}
