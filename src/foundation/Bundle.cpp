@@ -8,8 +8,7 @@ using namespace Qt::StringLiterals;
 namespace velmora::Bundle {
 namespace {
 
-std::optional<QString> firstFolder(std::initializer_list<QString> candidates)
-{
+std::optional<QString> firstFolder(std::initializer_list<QString> candidates) {
     const QString base = QCoreApplication::applicationDirPath();
     for (const QString& candidate : candidates) {
         const QFileInfo folder(base + u'/' + candidate);
@@ -21,13 +20,11 @@ std::optional<QString> firstFolder(std::initializer_list<QString> candidates)
 
 } // namespace
 
-std::optional<QString> resourcePath()
-{
+std::optional<QString> resourcePath() {
     return firstFolder({u"resources"_s, u"../share/velmora"_s});
 }
 
-std::optional<QString> path(const QString& name, const QString& type, const QString& directory)
-{
+std::optional<QString> path(const QString& name, const QString& type, const QString& directory) {
     const auto base = resourcePath();
     if (!base)
         return std::nullopt;
@@ -35,8 +32,7 @@ std::optional<QString> path(const QString& name, const QString& type, const QStr
     return QFileInfo(candidate).isFile() ? std::optional(candidate) : std::nullopt;
 }
 
-std::optional<QString> helperPath()
-{
+std::optional<QString> helperPath() {
     return firstFolder({u"libexec"_s, u"../lib/velmora"_s});
 }
 

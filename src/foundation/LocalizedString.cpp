@@ -8,13 +8,11 @@ using namespace Qt::StringLiterals;
 
 namespace velmora {
 
-QString localizedString(const char* key)
-{
+QString localizedString(const char* key) {
     return qtTrId(key);
 }
 
-void installLocalizedStrings()
-{
+void installLocalizedStrings() {
     const auto install = [](const QString& file) {
         auto* translator = new QTranslator(QCoreApplication::instance());
         if (translator->load(file))

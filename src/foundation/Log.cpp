@@ -9,15 +9,13 @@ namespace velmora::Log {
 namespace {
 
 std::mutex mutex;
-Sink& currentSink()
-{
+Sink& currentSink() {
     static Sink sink;
     return sink;
 }
 
 /// Writes everything, whatever its size. A reader that went away is not our failure: give up.
-void writeAll(int descriptor, const QByteArray& bytes)
-{
+void writeAll(int descriptor, const QByteArray& bytes) {
     const char* next = bytes.constData();
     qsizetype left = bytes.size();
     while (left > 0) {
@@ -33,8 +31,7 @@ void writeAll(int descriptor, const QByteArray& bytes)
 
 } // namespace
 
-void write(const QString& line)
-{
+void write(const QString& line) {
     const std::scoped_lock lock(mutex);
     if (const Sink& sink = currentSink()) {
         sink(line);
@@ -45,14 +42,12 @@ void write(const QString& line)
     writeAll(STDERR_FILENO, bytes);
 }
 
-void setSink(Sink sink)
-{
+void setSink(Sink sink) {
     const std::scoped_lock lock(mutex);
     currentSink() = std::move(sink);
 }
 
-void writeDiagnostic(const QString& line)
-{
+void writeDiagnostic(const QString& line) {
     writeAll(STDOUT_FILENO, line.toUtf8() + '\n');
 }
 

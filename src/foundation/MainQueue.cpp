@@ -4,8 +4,7 @@
 
 namespace velmora::MainQueue {
 
-void submit(std::function<void()> task)
-{
+void submit(std::function<void()> task) {
     if (QCoreApplication* application = QCoreApplication::instance())
         QMetaObject::invokeMethod(application, std::move(task), Qt::QueuedConnection);
 }

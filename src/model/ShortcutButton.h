@@ -38,8 +38,7 @@ private:
     QUuid id_;
 };
 
-inline size_t qHash(const ShortcutButton& button, size_t seed = 0) noexcept
-{
+inline size_t qHash(const ShortcutButton& button, size_t seed = 0) noexcept {
     return qHash(button.id(), seed);
 }
 

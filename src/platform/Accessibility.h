@@ -24,8 +24,7 @@ private:
     bool prompted_ = false;
 };
 
-inline bool Accessibility::isProcessTrustedWithPrompt()
-{
+inline bool Accessibility::isProcessTrustedWithPrompt() {
     const bool trusted = isProcessTrusted();
     if (!trusted && !prompted_ && promptHandler_) {
         prompted_ = true;

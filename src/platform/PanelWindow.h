@@ -39,8 +39,7 @@ public:
 
     /// A window over `contentRect` (points, bottom-left origin at the primary screen's lower-left
     /// corner). `styleMask` bits: 0x80 non-activating panel, 0x8000 full-size content view.
-    virtual std::unique_ptr<PanelWindow>
-    create(const QRectF& contentRect, unsigned styleMask) = 0;
+    virtual std::unique_ptr<PanelWindow> create(const QRectF& contentRect, unsigned styleMask) = 0;
 };
 
 } // namespace velmora

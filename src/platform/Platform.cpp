@@ -7,14 +7,12 @@ namespace {
 const Platform* currentPlatform = nullptr;
 }
 
-const Platform& Platform::current()
-{
+const Platform& Platform::current() {
     Q_ASSERT(currentPlatform);
     return *currentPlatform;
 }
 
-void Platform::setCurrent(const Platform& platform)
-{
+void Platform::setCurrent(const Platform& platform) {
     currentPlatform = &platform;
 }
 

@@ -9,7 +9,7 @@
 namespace velmora {
 
 /// How an application is opened; the default has nothing to set.
-struct OpenConfiguration { };
+struct OpenConfiguration {};
 
 /// The installed applications and default handlers of the session (NSWorkspace).
 class Workspace {

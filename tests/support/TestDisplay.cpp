@@ -12,8 +12,7 @@ namespace velmora::test {
 namespace {
 
 /// Ends `process` and waits for it.
-void end(QProcess& process)
-{
+void end(QProcess& process) {
     if (process.state() == QProcess::NotRunning)
         return;
     process.terminate();
@@ -25,8 +24,7 @@ void end(QProcess& process)
 
 } // namespace
 
-TestDisplay::TestDisplay(int width, int height)
-{
+TestDisplay::TestDisplay(int width, int height) {
     // Xvfb picks a free number and writes it to the pipe once it accepts clients.
     int pipe[2];
     if (::pipe(pipe) != 0)
@@ -35,9 +33,8 @@ TestDisplay::TestDisplay(int width, int height)
     xvfb->setProcessChannelMode(QProcess::SeparateChannels);
     xvfb->setStandardErrorFile(QProcess::nullDevice());
     xvfb->start(
-        u"Xvfb"_s,
-        {u"-displayfd"_s, QString::number(pipe[1]), u"-noreset"_s, u"-screen"_s, u"0"_s,
-         u"%1x%2x24"_s.arg(width).arg(height), u"-nolisten"_s, u"tcp"_s});
+        u"Xvfb"_s, {u"-displayfd"_s, QString::number(pipe[1]), u"-noreset"_s, u"-screen"_s, u"0"_s,
+                    u"%1x%2x24"_s.arg(width).arg(height), u"-nolisten"_s, u"tcp"_s});
     ::close(pipe[1]);
     QByteArray number;
     char byte = 0;
@@ -52,8 +49,7 @@ TestDisplay::TestDisplay(int width, int height)
     processes_.push_back(std::move(xvfb));
 }
 
-TestDisplay::~TestDisplay()
-{
+TestDisplay::~TestDisplay() {
     // Clients before the server.
     while (!processes_.empty()) {
         end(*processes_.back());
@@ -61,8 +57,7 @@ TestDisplay::~TestDisplay()
     }
 }
 
-QProcess& TestDisplay::start(const QString& program, const QStringList& arguments)
-{
+QProcess& TestDisplay::start(const QString& program, const QStringList& arguments) {
     auto process = std::make_unique<QProcess>();
     process->start(program, arguments);
     if (!process->waitForStarted())
@@ -71,8 +66,7 @@ QProcess& TestDisplay::start(const QString& program, const QStringList& argument
     return *processes_.back();
 }
 
-QProcess& TestDisplay::startWindowManager(const QString& program)
-{
+QProcess& TestDisplay::startWindowManager(const QString& program) {
     QProcess& process = start(program);
     const bool running = waitFor([this] {
         return run(u"xprop"_s, {u"-root"_s, u"_NET_SUPPORTING_WM_CHECK"_s}).contains("window id");
@@ -82,8 +76,7 @@ QProcess& TestDisplay::startWindowManager(const QString& program)
     return process;
 }
 
-QByteArray TestDisplay::run(const QString& program, const QStringList& arguments)
-{
+QByteArray TestDisplay::run(const QString& program, const QStringList& arguments) {
     QProcess process;
     process.start(program, arguments);
     process.waitForFinished();

@@ -43,8 +43,7 @@ bool waitFor(Condition condition, int milliseconds = 10000);
 #include <QThread>
 
 template<typename Condition>
-bool velmora::test::waitFor(Condition condition, int milliseconds)
-{
+bool velmora::test::waitFor(Condition condition, int milliseconds) {
     const QDeadlineTimer deadline(milliseconds);
     while (!condition()) {
         if (deadline.hasExpired())

@@ -4,8 +4,7 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
-int main(int argc, char** argv)
-{
+int main(int argc, char** argv) {
     const QTemporaryDir home;
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", (home.path() + QStringLiteral("/config")).toUtf8());

@@ -1,0 +1,97 @@
+#include "platform/x11/X11Connection.h"
+
+#include "foundation/Log.h"
+
+#include <QAbstractEventDispatcher>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+
+std::unique_ptr<X11Connection> X11Connection::open() {
+    int screenNumber = 0;
+    xcb_connection_t* connection = xcb_connect(nullptr, &screenNumber);
+    if (xcb_connection_has_error(connection)) {
+        xcb_disconnect(connection);
+        return nullptr;
+    }
+    xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
+    while (screenNumber-- > 0 && screens.rem > 1)
+        xcb_screen_next(&screens);
+    return std::unique_ptr<X11Connection>(new X11Connection(connection, *screens.data));
+}
+
+X11Connection::X11Connection(xcb_connection_t* connection, const xcb_screen_t& screen)
+    : connection_(connection), screen_(&screen) {}
+
+X11Connection::~X11Connection() {
+    QObject::disconnect(aboutToBlock_);
+    notifier_.reset();
+    xcb_disconnect(connection_);
+}
+
+xcb_atom_t X11Connection::atom(const QByteArray& name) {
+    const auto known = atoms_.constFind(name);
+    if (known != atoms_.constEnd())
+        return *known;
+    const auto cookie =
+        xcb_intern_atom(connection_, false, static_cast<uint16_t>(name.size()), name.constData());
+    const XcbOwned<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(connection_, cookie, nullptr));
+    const xcb_atom_t atom = reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+    atoms_.insert(name, atom);
+    return atom;
+}
+
+void X11Connection::Subscription::end() {
+    // Emptied rather than erased: a listener may end its own subscription during delivery.
+    if (connection_)
+        *position_ = nullptr;
+    connection_ = nullptr;
+}
+
+X11Connection::Subscription& X11Connection::Subscription::operator=(Subscription&& other) noexcept {
+    if (this == &other)
+        return *this;
+    end();
+    connection_ = std::exchange(other.connection_, nullptr);
+    position_ = other.position_;
+    return *this;
+}
+
+X11Connection::Subscription X11Connection::subscribe(Listener listener) {
+    return {*this, listeners_.insert(listeners_.end(), std::move(listener))};
+}
+
+void X11Connection::startDelivery() {
+    notifier_ = std::make_unique<QSocketNotifier>(
+        xcb_get_file_descriptor(connection_), QSocketNotifier::Read);
+    QObject::connect(
+        notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { deliverEvents(); });
+    aboutToBlock_ = QObject::connect(
+        QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+        [this] { deliverEvents(); });
+}
+
+void X11Connection::deliverEvents() {
+    if (delivering_)
+        return;
+    delivering_ = true;
+    while (const XcbOwned<xcb_generic_event_t> event{xcb_poll_for_event(connection_)}) {
+        for (auto listener = listeners_.begin(); listener != listeners_.end(); ++listener) {
+            // A copy: the listener may end its own subscription while it runs.
+            if (const Listener current = *listener)
+                current(*event);
+        }
+    }
+    listeners_.remove_if([](const Listener& listener) { return !listener; });
+    delivering_ = false;
+    xcb_flush(connection_);
+    if (xcb_connection_has_error(connection_)) {
+        Log::write(u"The X server went away; Velmora ends."_s);
+        std::_Exit(EXIT_FAILURE);
+    }
+}
+
+} // namespace velmora

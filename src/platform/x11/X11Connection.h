@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QSocketNotifier>
+#include <functional>
+#include <list>
+#include <memory>
+#include <xcb/xcb.h>
+
+namespace velmora {
+
+/// xcb hands out replies, events and errors that the caller frees.
+struct Freed {
+    void operator()(void* pointer) const { ::free(pointer); }
+};
+template<typename T>
+using XcbOwned = std::unique_ptr<T, Freed>;
+
+/// Our own connection to the X server, beside Qt's. Main thread only. When the server goes away the
+/// process ends with one line.
+class X11Connection {
+public:
+    /// Connects to the display that the environment names; nothing when that fails.
+    static std::unique_ptr<X11Connection> open();
+    ~X11Connection();
+    X11Connection(const X11Connection&) = delete;
+    X11Connection& operator=(const X11Connection&) = delete;
+
+    operator xcb_connection_t*() const { return connection_; }
+    const xcb_screen_t& screen() const { return *screen_; }
+    xcb_window_t root() const { return screen_->root; }
+
+    /// The atom called `name`, asked for once.
+    xcb_atom_t atom(const QByteArray& name);
+
+    /// Called for each event, and each error of an unchecked request, on the main thread.
+    using Listener = std::function<void(const xcb_generic_event_t& event)>;
+
+    /// Keeps a listener registered; destroying it ends that.
+    class Subscription {
+    public:
+        Subscription() = default;
+        Subscription(X11Connection& connection, std::list<Listener>::iterator position)
+            : connection_(&connection), position_(position) {}
+        Subscription(Subscription&& other) noexcept { *this = std::move(other); }
+        Subscription& operator=(Subscription&& other) noexcept;
+        ~Subscription() { end(); }
+
+    private:
+        void end();
+
+        X11Connection* connection_ = nullptr;
+        std::list<Listener>::iterator position_;
+    };
+    [[nodiscard]] Subscription subscribe(Listener listener);
+
+    /// Starts delivery of events; needs the application object. Call once.
+    void startDelivery();
+
+    /// Delivers what has arrived. A reply on this connection can queue events without waking the
+    /// notifier: delivery also runs each time before the event loop sleeps.
+    void deliverEvents();
+
+private:
+    X11Connection(xcb_connection_t* connection, const xcb_screen_t& screen);
+
+    xcb_connection_t* connection_;
+    const xcb_screen_t* screen_;
+    QHash<QByteArray, xcb_atom_t> atoms_;
+    std::list<Listener> listeners_;
+    std::unique_ptr<QSocketNotifier> notifier_;
+    QMetaObject::Connection aboutToBlock_;
+    bool delivering_ = false;
+};
+
+} // namespace velmora
