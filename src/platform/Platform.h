@@ -3,6 +3,8 @@
 namespace velmora {
 
 class Accessibility;
+class Appearance;
+class EventTaps;
 class KeyboardEvents;
 class PanelWindows;
 class Screens;
@@ -14,6 +16,8 @@ class Workspace;
 /// says otherwise.
 struct Platform {
     Accessibility& accessibility;
+    Appearance& appearance;
+    EventTaps& eventTaps;
     KeyboardEvents& keyboardEvents;
     PanelWindows& panelWindows;
     Screens& screens;
