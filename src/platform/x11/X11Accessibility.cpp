@@ -2,7 +2,7 @@
 
 #include "platform/x11/X11Connection.h"
 
-#include <QtEnvironmentVariables>
+#include <QtGlobal>
 #include <cstdint>
 #include <xcb/xinput.h>
 
