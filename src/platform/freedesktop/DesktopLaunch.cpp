@@ -65,13 +65,13 @@ std::variant<Entry, QString> inTerminal(const Entry& entry) {
 }
 
 /// Asks the session bus to activate the application and waits for the answer.
-Failure activate(const Entry& entry, GList* urls, GAppLaunchContext* launchContext) {
+Failure activate(const Entry& entry, GList* urls) {
     // Answers arrive through the thread's default context, whoever runs the main thread's.
     const GioPointer<GMainContext> mainContext(g_main_context_new());
     g_main_context_push_thread_default(mainContext.get());
     GioPointer<GAsyncResult> result;
     g_app_info_launch_uris_async(
-        G_APP_INFO(entry.get()), urls, launchContext, nullptr,
+        G_APP_INFO(entry.get()), urls, nullptr, nullptr,
         [](GObject*, GAsyncResult* arrived, gpointer target) {
             static_cast<GioPointer<GAsyncResult>*>(target)->reset(
                 G_ASYNC_RESULT(g_object_ref(arrived)));
@@ -87,18 +87,13 @@ Failure activate(const Entry& entry, GList* urls, GAppLaunchContext* launchConte
 }
 
 Failure launch(Entry entry, GList* urls) {
-    const GioPointer<GAppLaunchContext> context(g_app_launch_context_new());
-    // Whoever started us has used these up; they must not count for what we start.
-    for (const char* variable : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
-        g_app_launch_context_unsetenv(context.get(), variable);
-
     // GIO connects by itself; we hold the shared connection meanwhile so that losing the bus does
     // not end this process, as it would by default.
     const GioPointer<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
     if (bus)
         g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     if (bus && g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE))
-        return activate(entry, urls, context.get());
+        return activate(entry, urls);
 
     if (g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_TERMINAL)) {
         auto changed = inTerminal(entry);
@@ -106,6 +101,11 @@ Failure launch(Entry entry, GList* urls) {
             return *failure;
         entry = std::get<Entry>(std::move(changed));
     }
+    const GioPointer<GAppLaunchContext> context(g_app_launch_context_new());
+    // Whoever started us has used these up; they must not count for what we start.
+    for (const char* variable : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
+        g_app_launch_context_unsetenv(context.get(), variable);
+
     // Without G_SPAWN_DO_NOT_REAP_CHILD the application becomes init's child: nothing to wait for.
     // In a session of its own, Ctrl+C in the terminal that we were started from does not reach it.
     GioError error;
