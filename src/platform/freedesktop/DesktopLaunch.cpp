@@ -23,7 +23,7 @@ QString whyUnusable(const QString& location) {
     const GioPointer<GKeyFile> file(g_key_file_new());
     GioError error;
     if (!g_key_file_load_from_file(
-            file.get(), QFile::encodeName(location).constData(), G_KEY_FILE_NONE, &error))
+            file.get(), QFile::encodeName(location).constData(), G_KEY_FILE_NONE, error.out()))
         return error.message();
     for (const char* key : {G_KEY_FILE_DESKTOP_KEY_TRY_EXEC, G_KEY_FILE_DESKTOP_KEY_EXEC}) {
         const GioPointer<gchar> command(
@@ -50,7 +50,7 @@ std::variant<Entry, QString> inTerminal(const Entry& entry) {
     GioError error;
     if (!g_key_file_load_from_file(
             file.get(), g_desktop_app_info_get_filename(entry.get()), G_KEY_FILE_KEEP_TRANSLATIONS,
-            &error))
+            error.out()))
         return error.message();
     const char* command = g_app_info_get_commandline(G_APP_INFO(entry.get()));
     g_key_file_set_string(
@@ -81,7 +81,7 @@ Failure activate(const Entry& entry, GList* urls) {
         g_main_context_iteration(mainContext.get(), TRUE);
     g_main_context_pop_thread_default(mainContext.get());
     GioError error;
-    if (!g_app_info_launch_uris_finish(G_APP_INFO(entry.get()), result.get(), &error))
+    if (!g_app_info_launch_uris_finish(G_APP_INFO(entry.get()), result.get(), error.out()))
         return error.message();
     return std::nullopt;
 }
@@ -111,7 +111,7 @@ Failure launch(Entry entry, GList* urls) {
     GioError error;
     const bool started = g_desktop_app_info_launch_uris_as_manager(
         entry.get(), urls, context.get(), G_SPAWN_SEARCH_PATH, [](gpointer) { ::setsid(); },
-        nullptr, nullptr, nullptr, &error);
+        nullptr, nullptr, nullptr, error.out());
     if (!started)
         return error.message();
     return std::nullopt;
@@ -129,7 +129,7 @@ Failure openApplication(const QString& location) {
 Failure openUrl(const QByteArray& url) {
     const GioPointer<GFile> file(g_file_new_for_uri(url.constData()));
     GioError error;
-    GAppInfo* handler = g_file_query_default_handler(file.get(), nullptr, &error);
+    GAppInfo* handler = g_file_query_default_handler(file.get(), nullptr, error.out());
     if (!handler)
         return error.message();
     QByteArray text = url;

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QTranslator>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
