@@ -3,6 +3,7 @@
 namespace velmora {
 
 class Accessibility;
+class Appearance;
 class KeyboardEvents;
 class PanelWindows;
 class Screens;
@@ -14,6 +15,7 @@ class Workspace;
 /// says otherwise.
 struct Platform {
     Accessibility& accessibility;
+    Appearance& appearance;
     KeyboardEvents& keyboardEvents;
     PanelWindows& panelWindows;
     Screens& screens;

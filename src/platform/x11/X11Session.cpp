@@ -1,19 +1,32 @@
 #include "platform/x11/X11Session.h"
 
+#include "platform/x11/X11Accessibility.h"
 #include "platform/x11/X11Keyboard.h"
 #include "platform/x11/X11KeyboardEvents.h"
+#include "platform/x11/X11PanelWindows.h"
+#include "platform/x11/X11Screens.h"
+#include "platform/x11/X11WindowActivation.h"
 
 namespace velmora {
 
 /// Built when first asked for, by when the application object is there.
 struct X11Session::Services {
     explicit Services(X11Connection& connection)
-        : keyboard(connection), keyboardEvents(connection, keyboard) {
+        : accessibility(connection),
+          keyboard(connection),
+          keyboardEvents(connection, keyboard),
+          panelWindows(connection),
+          screens(connection),
+          windowActivation(connection) {
         connection.startDelivery();
     }
 
+    X11Accessibility accessibility;
     X11Keyboard keyboard;
     X11KeyboardEvents keyboardEvents;
+    X11PanelWindows panelWindows;
+    X11Screens screens;
+    X11WindowActivation windowActivation;
 };
 
 std::unique_ptr<X11Session> X11Session::create() {
@@ -34,8 +47,24 @@ X11Session::Services& X11Session::services() {
     return *services_;
 }
 
+Accessibility& X11Session::accessibility() {
+    return services().accessibility;
+}
+
 KeyboardEvents& X11Session::keyboardEvents() {
     return services().keyboardEvents;
+}
+
+PanelWindows& X11Session::panelWindows() {
+    return services().panelWindows;
+}
+
+Screens& X11Session::screens() {
+    return services().screens;
+}
+
+WindowActivation& X11Session::windowActivation() {
+    return services().windowActivation;
 }
 
 } // namespace velmora

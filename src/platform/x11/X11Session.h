@@ -5,6 +5,7 @@
 namespace velmora {
 
 class Accessibility;
+class EventTaps;
 class KeyboardEvents;
 class PanelWindows;
 class Screens;
@@ -20,6 +21,7 @@ public:
     ~X11Session();
 
     Accessibility& accessibility();
+    EventTaps& eventTaps();
     KeyboardEvents& keyboardEvents();
     PanelWindows& panelWindows();
     Screens& screens();

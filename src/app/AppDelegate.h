@@ -1,0 +1,40 @@
+#pragma once
+
+#include "overlay/OverlayController.h"
+#include "viewkit/MenuModel.h"
+
+#include <QList>
+#include <QObject>
+
+namespace velmora {
+
+/// The composition root: owns the long-lived controllers and brings them up in a fixed order.
+/// Construction shows nothing and installs nothing. Main thread only.
+class AppDelegate : public QObject {
+    Q_OBJECT
+public:
+    AppDelegate();
+
+    /// Installs the main menu, then starts the services, at once or after the user has agreed to
+    /// the terms. Call once, from the running event loop.
+    void applicationDidFinishLaunching();
+
+    void setupOverlay();
+
+    void toggleOverlayMenu();
+    void quitApp();
+
+    OverlayController overlayController;
+
+private:
+    void checkTermsAndStart();
+    void startServices();
+    /// From the first window on.
+    void followDesktopAppearance();
+    void setupMainMenu();
+
+    QList<MenuModel> mainMenu_;
+    bool followsAppearance_ = false;
+};
+
+} // namespace velmora

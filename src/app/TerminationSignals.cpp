@@ -1,0 +1,42 @@
+#include "app/TerminationSignals.h"
+
+#include <QCoreApplication>
+#include <csignal>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+namespace velmora {
+namespace {
+
+volatile std::sig_atomic_t signalDescriptor = -1;
+
+void wake(int) {
+    const int savedError = errno;
+    const eventfd_t one = 1;
+    // The counter cannot overflow: the first signal already ends the event loop.
+    [[maybe_unused]] const ssize_t written = ::write(signalDescriptor, &one, sizeof one);
+    errno = savedError;
+}
+
+} // namespace
+
+TerminationSignals::TerminationSignals()
+    : descriptor_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
+      notifier_(descriptor_, QSocketNotifier::Read) {
+    signalDescriptor = descriptor_;
+    QObject::connect(&notifier_, &QSocketNotifier::activated, [] { QCoreApplication::quit(); });
+    struct sigaction action = {};
+    action.sa_handler = wake;
+    action.sa_flags = SA_RESTART;
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        ::sigaction(signal, &action, nullptr);
+}
+
+TerminationSignals::~TerminationSignals() {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        ::signal(signal, SIG_DFL);
+    notifier_.setEnabled(false);
+    ::close(descriptor_);
+}
+
+} // namespace velmora

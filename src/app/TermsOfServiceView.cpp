@@ -1,0 +1,121 @@
+#include "app/TermsOfServiceView.h"
+
+#include "foundation/LocalizedString.h"
+#include "foundation/UserDefaults.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+namespace {
+
+constexpr int childSpacing = 20;
+constexpr int defaultPadding = 16;
+constexpr int titleFontSize = 22;
+constexpr int buttonLabelWidth = 80;
+constexpr double cornerRadius = 8;
+
+/// The body of the terms in a vertically scrolling area with a rounded, bordered background.
+class TermsText : public QScrollArea {
+public:
+    TermsText() {
+        setObjectName(u"termsText"_s);
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        // The border is painted by this widget; the viewport keeps inside it.
+        setViewportMargins(2, 2, 0, 2);
+        viewport()->setAutoFillBackground(false);
+
+        //: Terms of Service Content
+        auto* text = new QLabel(localizedString("tos.content"));
+        text->setTextFormat(Qt::PlainText);
+        text->setWordWrap(true);
+        text->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+        text->setMargin(defaultPadding);
+        text->setAutoFillBackground(false);
+        setWidget(text);
+        setAccessibleName(localizedString("tos.title"));
+    }
+
+protected:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            QPainter painter(this);
+            painter.setRenderHint(QPainter::Antialiasing);
+            const bool focused = hasFocus();
+            painter.setBrush(palette().base());
+            painter.setPen(
+                focused ? QPen(palette().highlight().color(), 2)
+                        : QPen(QColor(128, 128, 128, 77), 1)); // gray at opacity 0.3
+            const double inset = focused ? 1 : 0.5;
+            painter.drawRoundedRect(
+                QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
+            return true;
+        }
+        if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+            update();
+        return QScrollArea::event(event);
+    }
+};
+
+/// A button whose label is at least `buttonLabelWidth` points wide.
+QPushButton* answerButton(const QString& label) {
+    auto* button = new QPushButton(label);
+    button->setMinimumWidth(buttonLabelWidth + 2 * defaultPadding);
+    return button;
+}
+
+} // namespace
+
+const QString TermsOfServiceView::agreementKey = u"hasAgreedToToS_v1"_s;
+
+TermsOfServiceView::TermsOfServiceView(UserDefaults& defaults, std::function<void()> onAgree) {
+    //: Terms of Service Title
+    auto* title = new QLabel(localizedString("tos.title"));
+    title->setTextFormat(Qt::PlainText);
+    title->setAlignment(Qt::AlignCenter);
+    QFont titleFont = title->font();
+    titleFont.setPixelSize(titleFontSize);
+    title->setFont(titleFont);
+
+    //: Quit Button
+    QPushButton* quit = answerButton(localizedString("tos.quit"));
+    quit->setShortcut(QKeySequence(u"Ctrl+Q"_s));
+    connect(quit, &QPushButton::clicked, this, [] { QCoreApplication::quit(); });
+
+    //: Agree Button
+    QPushButton* agree = answerButton(localizedString("tos.agree"));
+    agree->setDefault(true);
+    connect(agree, &QPushButton::clicked, this, [&defaults, onAgree = std::move(onAgree)] {
+        defaults.setBoolean(agreementKey, true);
+        onAgree();
+    });
+
+    auto* answers = new QHBoxLayout;
+    answers->setSpacing(childSpacing);
+    answers->addStretch();
+    answers->addWidget(quit);
+    answers->addWidget(agree);
+    answers->addStretch();
+    answers->setContentsMargins(0, 0, 0, defaultPadding);
+
+    auto* stack = new QVBoxLayout(this);
+    stack->setContentsMargins(defaultPadding, 2 * defaultPadding, defaultPadding, defaultPadding);
+    stack->setSpacing(childSpacing);
+    stack->addWidget(title);
+    stack->addWidget(new TermsText, 1);
+    stack->addLayout(answers);
+    setMinimumSize(400, 300);
+    agree->setFocus();
+}
+
+} // namespace velmora

@@ -1,0 +1,27 @@
+#include "app/VelmoraApp.h"
+
+#include "app/AppDelegate.h"
+#include "app/TerminationSignals.h"
+#include "foundation/HelperPath.h"
+#include "foundation/LocalizedString.h"
+
+#include <QApplication>
+#include <QTimer>
+
+namespace velmora {
+
+std::unique_ptr<AppDelegate> VelmoraApp::appDelegate;
+
+int VelmoraApp::main() {
+    QApplication::setQuitOnLastWindowClosed(false);
+    const TerminationSignals terminationSignals;
+    appendHelperPath();
+    installLocalizedStrings();
+    appDelegate = std::make_unique<AppDelegate>();
+    QTimer::singleShot(0, appDelegate.get(), &AppDelegate::applicationDidFinishLaunching);
+    const int status = QApplication::exec();
+    appDelegate.reset();
+    return status;
+}
+
+} // namespace velmora

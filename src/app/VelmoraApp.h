@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+
+namespace velmora {
+
+class AppDelegate;
+
+/// The application: holds the one delegate and runs the event loop. Never instantiated.
+class VelmoraApp {
+public:
+    VelmoraApp() = delete;
+
+    /// The one delegate, for the life of the process.
+    static std::unique_ptr<AppDelegate> appDelegate;
+
+    /// Runs the application on the current platform; returns its exit status when the event loop
+    /// ends. The application object must exist.
+    static int main();
+};
+
+} // namespace velmora

@@ -1,0 +1,150 @@
+#include "platform/freedesktop/FreedesktopAppearance.h"
+
+#include <QFileInfo>
+#include <gio/gio.h>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+namespace {
+
+constexpr auto portalName = "org.freedesktop.portal.Desktop";
+constexpr auto portalPath = "/org/freedesktop/portal/desktop";
+constexpr auto portalInterface = "org.freedesktop.portal.Settings";
+constexpr auto portalNamespace = "org.freedesktop.appearance";
+constexpr auto portalKey = "color-scheme";
+constexpr unsigned portalPrefersDark = 1;
+
+constexpr auto gnomeSchema = "org.gnome.desktop.interface";
+constexpr auto gnomeKey = "color-scheme";
+
+/// Asking for a bus that is not there would start one that outlives us.
+bool hasSessionBus() {
+    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
+           QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + u"/bus"_s);
+}
+
+/// The number inside `value`, through any nesting of variants.
+std::optional<unsigned> unwrapped(GVariant* value) {
+    if (g_variant_is_of_type(value, G_VARIANT_TYPE_UINT32))
+        return g_variant_get_uint32(value);
+    if (!g_variant_is_of_type(value, G_VARIANT_TYPE_VARIANT))
+        return std::nullopt;
+    GVariant* inner = g_variant_get_variant(value);
+    const auto number = unwrapped(inner);
+    g_variant_unref(inner);
+    return number;
+}
+
+} // namespace
+
+/// What the answers come from. Handlers run on the main thread, from GLib's main context.
+struct FreedesktopAppearance::Sources {
+    std::function<void(bool)> handler;
+    GSettings* gnome = nullptr;
+    GDBusConnection* bus = nullptr;
+    GCancellable* cancellable = g_cancellable_new();
+    unsigned subscription = 0;
+    bool portalAnswered = false;
+
+    ~Sources() {
+        g_cancellable_cancel(cancellable);
+        g_object_unref(cancellable);
+        if (bus) {
+            g_dbus_connection_signal_unsubscribe(bus, subscription);
+            g_object_unref(bus);
+        }
+        if (gnome) {
+            g_signal_handlers_disconnect_by_data(gnome, this);
+            g_object_unref(gnome);
+        }
+    }
+
+    void readGnome() {
+        if (portalAnswered)
+            return;
+        char* value = g_settings_get_string(gnome, gnomeKey);
+        handler(g_strcmp0(value, "prefer-dark") == 0);
+        g_free(value);
+    }
+
+    void portalSays(unsigned preference) {
+        portalAnswered = true;
+        handler(preference == portalPrefersDark);
+    }
+
+    void openGnome() {
+        GSettingsSchemaSource* source = g_settings_schema_source_get_default();
+        GSettingsSchema* schema =
+            source ? g_settings_schema_source_lookup(source, gnomeSchema, true) : nullptr;
+        if (!schema)
+            return;
+        if (g_settings_schema_has_key(schema, gnomeKey)) {
+            gnome = g_settings_new_full(schema, nullptr, nullptr);
+            const GCallback changed = G_CALLBACK(+[](GSettings*, const char*, gpointer self) {
+                static_cast<Sources*>(self)->readGnome();
+            });
+            g_signal_connect(gnome, "changed::color-scheme", changed, this);
+            readGnome();
+        }
+        g_settings_schema_unref(schema);
+    }
+
+    void openPortal() {
+        g_bus_get(
+            G_BUS_TYPE_SESSION, cancellable,
+            [](GObject*, GAsyncResult* result, gpointer self) {
+                // A cancelled call answers after `self` has gone: look at the result only.
+                if (GDBusConnection* connection = g_bus_get_finish(result, nullptr))
+                    static_cast<Sources*>(self)->askPortal(connection);
+            },
+            this);
+    }
+
+    void askPortal(GDBusConnection* connection) {
+        bus = connection;
+        subscription = g_dbus_connection_signal_subscribe(
+            bus, portalName, portalInterface, "SettingChanged", portalPath, portalNamespace,
+            G_DBUS_SIGNAL_FLAGS_NONE,
+            [](GDBusConnection*, const char*, const char*, const char*, const char*,
+               GVariant* parameters, gpointer self) {
+                const char* key = nullptr;
+                GVariant* value = nullptr;
+                g_variant_get(parameters, "(&s&sv)", nullptr, &key, &value);
+                const auto preference = unwrapped(value);
+                if (g_strcmp0(key, portalKey) == 0 && preference)
+                    static_cast<Sources*>(self)->portalSays(*preference);
+                g_variant_unref(value);
+            },
+            this, nullptr);
+        g_dbus_connection_call(
+            bus, portalName, portalPath, portalInterface, "Read",
+            g_variant_new("(ss)", portalNamespace, portalKey), G_VARIANT_TYPE("(v)"),
+            G_DBUS_CALL_FLAGS_NONE, -1, cancellable,
+            [](GObject* source, GAsyncResult* result, gpointer self) {
+                GVariant* reply =
+                    g_dbus_connection_call_finish(G_DBUS_CONNECTION(source), result, nullptr);
+                if (!reply)
+                    return;
+                GVariant* value = g_variant_get_child_value(reply, 0);
+                if (const auto preference = unwrapped(value))
+                    static_cast<Sources*>(self)->portalSays(*preference);
+                g_variant_unref(value);
+                g_variant_unref(reply);
+            },
+            this);
+    }
+};
+
+FreedesktopAppearance::FreedesktopAppearance() = default;
+FreedesktopAppearance::~FreedesktopAppearance() = default;
+
+void FreedesktopAppearance::observe(std::function<void(bool prefersDark)> handler) {
+    sources_ = std::make_unique<Sources>();
+    sources_->handler = std::move(handler);
+    sources_->openGnome();
+    if (hasSessionBus())
+        sources_->openPortal();
+}
+
+} // namespace velmora

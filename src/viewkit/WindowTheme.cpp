@@ -1,0 +1,151 @@
+#include "viewkit/WindowTheme.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora::WindowTheme {
+namespace {
+
+/// The colours that differ between the schemes.
+struct Colors {
+    QColor window;
+    QColor base;
+    QColor text;
+    QColor secondaryText;
+    QColor border;
+    QColor button;
+    QColor buttonHover;
+    QColor buttonPressed;
+    QColor accent;
+    QColor accentHover;
+    QColor scrollHandle;
+};
+
+// Text on window and on accent keeps a contrast of at least 4.5 to 1 in both.
+const Colors lightColors{
+    .window = QColor(0xf5f5f7),
+    .base = QColor(0xffffff),
+    .text = QColor(0x1d1d1f),
+    .secondaryText = QColor(0x66666b),
+    .border = QColor(0xcfcfd4),
+    .button = QColor(0xffffff),
+    .buttonHover = QColor(0xf0f0f3),
+    .buttonPressed = QColor(0xe2e2e7),
+    .accent = QColor(0x0a62cf),
+    .accentHover = QColor(0x0856b8),
+    .scrollHandle = QColor(0xb4b4ba),
+};
+const Colors darkColors{
+    .window = QColor(0x1f1f22),
+    .base = QColor(0x29292d),
+    .text = QColor(0xf2f2f4),
+    .secondaryText = QColor(0xa6a6ad),
+    .border = QColor(0x4a4a50),
+    .button = QColor(0x38383d),
+    .buttonHover = QColor(0x424248),
+    .buttonPressed = QColor(0x303034),
+    .accent = QColor(0x2a72dc),
+    .accentHover = QColor(0x3a7fe4),
+    .scrollHandle = QColor(0x66666d),
+};
+
+/// Announces a change of scheme to the windows that follow it.
+class Scheme : public QObject {
+public:
+    ColorScheme current = ColorScheme::light;
+    QList<QWidget*> followers;
+};
+
+Scheme& scheme() {
+    static auto* instance = new Scheme;
+    return *instance;
+}
+
+QPalette palette(const Colors& colors) {
+    QPalette palette;
+    palette.setColor(QPalette::Window, colors.window);
+    palette.setColor(QPalette::WindowText, colors.text);
+    palette.setColor(QPalette::Base, colors.base);
+    palette.setColor(QPalette::AlternateBase, colors.window);
+    palette.setColor(QPalette::Text, colors.text);
+    palette.setColor(QPalette::PlaceholderText, colors.secondaryText);
+    palette.setColor(QPalette::Button, colors.button);
+    palette.setColor(QPalette::ButtonText, colors.text);
+    palette.setColor(QPalette::Highlight, colors.accent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Mid, colors.border);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, colors.secondaryText);
+    return palette;
+}
+
+QString styleSheet(const Colors& colors) {
+    QString sheet = uR"(
+QPushButton {
+    background: @button; color: @text; border: 1px solid @border; border-radius: 6px;
+    padding: 4px 14px; min-height: 18px;
+}
+QPushButton:hover { background: @hover; }
+QPushButton:pressed { background: @pressed; }
+QPushButton:default { background: @accent; color: white; border-color: @accent; }
+QPushButton:default:hover { background: @accenthover; border-color: @accenthover; }
+QPushButton:focus { border: 2px solid @accent; padding: 3px 13px; }
+QPushButton:default:focus { border: 2px solid @text; }
+QPushButton:disabled { color: @secondary; background: @window; }
+QScrollBar:vertical { background: transparent; width: 12px; margin: 4px 2px; }
+QScrollBar::handle:vertical { background: @scroll; border-radius: 4px; min-height: 28px; }
+QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+)"_s;
+    const std::initializer_list<std::pair<QLatin1StringView, QString>> values = {
+        {"@accenthover"_L1, colors.accentHover.name()},
+        {"@button"_L1, colors.button.name()},
+        {"@text"_L1, colors.text.name()},
+        {"@border"_L1, colors.border.name()},
+        {"@hover"_L1, colors.buttonHover.name()},
+        {"@pressed"_L1, colors.buttonPressed.name()},
+        {"@accent"_L1, colors.accent.name()},
+        {"@secondary"_L1, colors.secondaryText.name()},
+        {"@window"_L1, colors.window.name()},
+        {"@scroll"_L1, colors.scrollHandle.name()},
+    };
+    for (const auto& [name, value] : values)
+        sheet.replace(name, value);
+    return sheet;
+}
+
+void apply(QWidget& window) {
+    const Colors& colors = scheme().current == ColorScheme::dark ? darkColors : lightColors;
+    QFont font = window.font();
+    font.setPixelSize(fontSize);
+    window.setFont(font);
+    window.setPalette(palette(colors));
+    window.setStyleSheet(styleSheet(colors));
+}
+
+} // namespace
+
+void setColorScheme(ColorScheme newScheme) {
+    if (scheme().current == newScheme)
+        return;
+    scheme().current = newScheme;
+    for (QWidget* window : scheme().followers)
+        apply(*window);
+}
+
+ColorScheme colorScheme() {
+    return scheme().current;
+}
+
+void follow(QWidget& window) {
+    scheme().followers.append(&window);
+    QObject::connect(&window, &QObject::destroyed, &scheme(), [window = &window] {
+        scheme().followers.removeOne(window);
+    });
+    apply(window);
+}
+
+} // namespace velmora::WindowTheme
