@@ -33,9 +33,11 @@ X11KeyboardEvents::X11KeyboardEvents(X11Connection& connection, const X11Keyboar
     : connection_(connection), keyboard_(keyboard) {}
 
 X11KeyboardEvents::~X11KeyboardEvents() {
-    if (!pressed_.empty())
-        release(pressed_.back(), 0);
-    xcb_flush(connection_);
+    if (pressed_.empty())
+        return;
+    release(pressed_.back(), 0);
+    // The connection may be closed next, and a server drops what it has not read by then.
+    askBefore();
 }
 
 std::unique_ptr<EventSource> X11KeyboardEvents::createEventSource(EventSourceState) {

@@ -2,6 +2,7 @@
 // is like afterwards.
 
 #include "platform/KeyboardEvents.h"
+#include "platform/x11/KeyPositions.h"
 #include "platform/x11/X11Session.h"
 #include "support/Desktop.h"
 #include "support/Driver.h"
@@ -13,6 +14,7 @@
 #include <QTimer>
 #include <csignal>
 #include <gmock/gmock.h>
+#include <set>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -172,6 +174,39 @@ TEST_F(Keyboard, FollowsAKeyboardWhosePositionsMove) {
     EXPECT_TRUE(waitFor([&] { return pressed() == moved; }));
     setKeycodes(u"evdev"_s);
     EXPECT_TRUE(waitFor([&] { return pressed() == usual; }));
+}
+
+TEST_F(Keyboard, NamesEveryKeyOfThisKeyboardOnce) {
+    const KeyPositions positions = KeyPositions::read(client);
+    std::set<uint8_t> keycodes;
+    int codes = 0;
+    for (KeyCode code = 0; code < 128; ++code) {
+        if (const auto keycode = positions.keycode(code)) {
+            ++codes;
+            keycodes.insert(*keycode);
+            EXPECT_EQ(positions.position(*keycode), code);
+        }
+    }
+    EXPECT_EQ(keycodes.size(), codes);
+    EXPECT_GE(codes, 104); // a full ANSI keyboard
+}
+
+TEST_F(Keyboard, FindsTheModifierBitsOfAnUnusualMap) {
+    const auto xmodmap = [](const QStringList& changes) {
+        QProcess process;
+        process.start(u"xmodmap"_s, changes);
+        ASSERT_TRUE(process.waitForFinished());
+        ASSERT_EQ(process.exitCode(), 0);
+    };
+    // Super changes places with the empty Mod3.
+    xmodmap({u"-e"_s, u"clear mod4"_s, u"-e"_s, u"add mod3 = Super_L Super_R"_s});
+    Service other;
+    for (const bool keyDown : {true, false})
+        EXPECT_TRUE(other.post(8, keyDown, kCGEventFlagMaskCommand));
+    other.currentFlags();
+    constexpr uint16_t mod3 = 32;
+    EXPECT_THAT(seen(), ElementsAreArray(pressAndRelease({8, "AB03"}, mod3)));
+    xmodmap({u"-e"_s, u"clear mod3"_s, u"-e"_s, u"add mod4 = Super_L Super_R"_s});
 }
 
 TEST_F(Keyboard, LeavesLocksAndTheGroupAsTheyWere) {
