@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -41,8 +42,9 @@ public:
         text->setWordWrap(true);
         text->setAlignment(Qt::AlignLeading | Qt::AlignTop);
         text->setMargin(defaultPadding);
-        text->setAutoFillBackground(false);
         setWidget(text);
+        // setWidget() turned it on; the rounded ground shows through.
+        text->setAutoFillBackground(false);
         setAccessibleName(localizedString("tos.title"));
     }
 
@@ -95,6 +97,11 @@ TermsOfServiceView::TermsOfServiceView(UserDefaults& defaults, std::function<voi
     //: Agree Button
     QPushButton* agree = answerButton(localizedString("tos.agree"));
     agree->setDefault(true);
+    // Outside a QDialog a default button looks the part but does not hear Return.
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        connect(
+            new QShortcut(QKeySequence(key), this), &QShortcut::activated, agree,
+            &QPushButton::click);
     connect(agree, &QPushButton::clicked, this, [&defaults, onAgree = std::move(onAgree)] {
         defaults.setBoolean(agreementKey, true);
         onAgree();
@@ -115,7 +122,7 @@ TermsOfServiceView::TermsOfServiceView(UserDefaults& defaults, std::function<voi
     stack->addWidget(new TermsText, 1);
     stack->addLayout(answers);
     setMinimumSize(400, 300);
-    agree->setFocus();
+    setFocusProxy(agree);
 }
 
 } // namespace velmora
