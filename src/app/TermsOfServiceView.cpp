@@ -1,9 +1,10 @@
 #include "app/TermsOfServiceView.h"
 
+#include "foundation/ActionMessages.h"
 #include "foundation/LocalizedString.h"
 #include "foundation/UserDefaults.h"
 
-#include <QCoreApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -92,7 +93,8 @@ TermsOfServiceView::TermsOfServiceView(UserDefaults& defaults, std::function<voi
     //: Quit Button
     QPushButton* quit = answerButton(localizedString("tos.quit"));
     quit->setShortcut(QKeySequence(u"Ctrl+Q"_s));
-    connect(quit, &QPushButton::clicked, this, [] { QCoreApplication::quit(); });
+    connect(
+        quit, &QPushButton::clicked, this, [] { ActionMessages::shared().send(u"terminate:"_s); });
 
     //: Agree Button
     QPushButton* agree = answerButton(localizedString("tos.agree"));
