@@ -101,7 +101,7 @@ void store(const QTemporaryDir& home, qsizetype count, const ShortcutAction& act
     QDir().mkpath(home.path() + u"/velmora"_s);
     QSettings settings(home.path() + u"/velmora/velmora.conf"_s, QSettings::IniFormat);
     settings.setValue(u"hasAgreedToToS_v1"_s, true);
-    settings.setValue(u"SavedShortcuts"_s, encoded(buttons));
+    settings.setValue(u"SavedShortcuts"_s, encodedList(buttons));
 }
 
 /// The time that the stamp program left in `file`, once it is there, in nanoseconds.

@@ -1,6 +1,9 @@
 #include "viewkit/ToolTip.h"
 
+#include "viewkit/Theme.h"
+
 #include <QHelpEvent>
+#include <QPalette>
 #include <QTextBoundaryFinder>
 #include <QToolTip>
 
@@ -28,6 +31,18 @@ qsizetype lineEnd(const QString& text, qsizetype start) {
     return limit;
 }
 
+/// The look of all tool tips, which belongs to the application: set on the first one.
+void applyLook() {
+    static const bool once [[maybe_unused]] = [] {
+        QPalette palette = QToolTip::palette();
+        palette.setColor(QPalette::ToolTipBase, QColor(0x26, 0x26, 0x2b));
+        palette.setColor(QPalette::ToolTipText, QColor(0xf2, 0xf2, 0xf4));
+        QToolTip::setPalette(palette);
+        QToolTip::setFont(Theme::systemFont(12));
+        return true;
+    }();
+}
+
 } // namespace
 
 QString markup(const QString& text) {
@@ -46,6 +61,7 @@ QString markup(const QString& text) {
 }
 
 void show(const QHelpEvent& event, QWidget* view, const QString& text) {
+    applyLook();
     if (text.isEmpty())
         QToolTip::hideText();
     else

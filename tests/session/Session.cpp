@@ -27,7 +27,7 @@ Session::Session(const Options& options) : options_(options) {
     if (options.agreed)
         settings.setValue(u"hasAgreedToToS_v1"_s, true);
     if (options.shortcuts)
-        settings.setValue(u"SavedShortcuts"_s, encoded(*options.shortcuts));
+        settings.setValue(u"SavedShortcuts"_s, encodedList(*options.shortcuts));
 }
 
 Session::~Session() {

@@ -19,10 +19,10 @@ public:
     struct Options {
         QSize screen{1512, 982}; ///< pixels
         int topInset = 0;        ///< the cut-out's height in pixels; 0 for none
-        QString windowManager = QStringLiteral("openbox"); ///< empty for none
-        bool agreed = true;                                ///< the terms were agreed to before
-        std::optional<QList<ShortcutButton>> shortcuts;    ///< stored before the start
-        QStringList environment; ///< more "NAME=value", or "NAME" to take one away
+        QString windowManager = QStringLiteral("openbox");   ///< empty for none
+        bool agreed = true;                                  ///< the terms were agreed to before
+        std::optional<QList<ShortcutButton>> shortcuts = {}; ///< stored before the start
+        QStringList environment = {}; ///< more "NAME=value", or "NAME" to take one away
     };
     explicit Session(const Options& options);
     Session() : Session(Options{}) {}

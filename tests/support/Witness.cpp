@@ -9,6 +9,10 @@
 namespace velmora::test {
 
 Witness::Witness(const QRect& geometry) : window_(xcb_generate_id(client_)) {
+    // As toolkits do; other clients would see the group as a modifier.
+    xkb_x11_setup_xkb_extension(
+        client_, XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
+        XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, nullptr, nullptr);
     const uint32_t values[] = {
         client_.screen().white_pixel,
         XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE | XCB_EVENT_MASK_BUTTON_PRESS |
@@ -112,9 +116,6 @@ void Witness::clear() {
 }
 
 QString Witness::typed() {
-    xkb_x11_setup_xkb_extension(
-        client_, XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
-        XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, nullptr, nullptr);
     xkb_context* context = xkb_context_new(XKB_CONTEXT_NO_FLAGS);
     xkb_keymap* keymap = xkb_x11_keymap_new_from_device(
         context, client_, xkb_x11_get_core_keyboard_device_id(client_),

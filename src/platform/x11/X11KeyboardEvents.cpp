@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 #include <xcb/xtest.h>
 
 namespace velmora {
@@ -32,16 +33,20 @@ X11KeyboardEvents::X11KeyboardEvents(X11Connection& connection, const X11Keyboar
     : connection_(connection), keyboard_(keyboard) {}
 
 X11KeyboardEvents::~X11KeyboardEvents() {
-    if (!pressed_.empty())
-        release(pressed_.front(), 0);
-    xcb_flush(connection_);
+    if (pressed_.empty())
+        return;
+    release(pressed_.back(), 0);
+    // The connection may be closed next, and a server drops what it has not read by then.
+    askBefore();
 }
 
 std::unique_ptr<EventSource> X11KeyboardEvents::createEventSource(EventSourceState) {
     if (!keyboard_.isAvailable() || !hasExtension(connection_, xcb_test_id))
         return nullptr;
-    if (!trial_)
+    if (!lateSwitcher_) {
+        lateSwitcher_ = std::make_unique<LateSwitcher>(connection_);
         trial_ = ChordTrial::open();
+    }
     releaseAbandoned();
     return std::make_unique<EventSource>();
 }
@@ -83,6 +88,9 @@ X11KeyboardEvents::Before X11KeyboardEvents::askBefore() const {
 }
 
 void X11KeyboardEvents::press(xcb_keycode_t keycode, uint8_t mask) {
+    // One key at a time: none can be forgotten.
+    if (!pressed_.empty())
+        release(pressed_.back(), 0);
     // A combination without modifiers leaves no switcher open, whoever takes it.
     std::optional<ChordTrial::Question> question;
     if (mask && trial_)
@@ -97,15 +105,12 @@ void X11KeyboardEvents::press(xcb_keycode_t keycode, uint8_t mask) {
         // A key that is down already, say that of the hot key, would swallow the press.
         if (isDown(before.keymap, keycode))
             SyntheticKeys::release(connection_, keycode);
-        pressed_.push_back(keycode);
         if (taken)
-            std::ranges::copy(keyboard_.modifiers().keysFor(mask), std::back_inserter(pressed_));
+            pressed_ = keyboard_.modifiers().keysFor(mask);
+        pressed_.push_back(keycode);
         notePressed();
-        for (const xcb_keycode_t pressed : pressed_) {
-            if (pressed != keycode)
-                SyntheticKeys::press(connection_, pressed);
-        }
-        SyntheticKeys::press(connection_, keycode);
+        for (const xcb_keycode_t pressed : pressed_)
+            SyntheticKeys::press(connection_, pressed);
     }
     if (taken)
         heldWhilePressed_ = std::move(held);
@@ -119,18 +124,21 @@ void X11KeyboardEvents::release(xcb_keycode_t keycode, uint8_t mask) {
     std::erase_if(held, [&](xcb_keycode_t key) {
         return key == keycode || std::ranges::find(pressed_, key) != pressed_.end();
     });
+    auto modifiers = std::exchange(pressed_, {});
+    std::erase(modifiers, keycode);
+    std::optional<xcb_grab_keyboard_cookie_t> switcher;
     {
         // Real modifier keys give the state by themselves.
-        const bool real = pressed_.size() > 1;
-        const ExactModifiers exact(connection_, real ? 0 : mask, before.locked, held);
+        const ExactModifiers exact(connection_, modifiers.empty() ? mask : 0, before.locked, held);
         SyntheticKeys::release(connection_, keycode);
-        for (const xcb_keycode_t pressed : pressed_) {
-            if (pressed != keycode)
-                SyntheticKeys::release(connection_, pressed);
-        }
-        pressed_.clear();
+        if (!modifiers.empty())
+            switcher = lateSwitcher_->askWhetherHeld();
+        for (const xcb_keycode_t modifier : modifiers)
+            SyntheticKeys::release(connection_, modifier);
         notePressed();
     }
+    if (switcher && !lateSwitcher_->isHeld(*switcher))
+        lateSwitcher_->watch(std::move(modifiers));
     held.insert(held.end(), heldWhilePressed_.begin(), heldWhilePressed_.end());
     heldWhilePressed_.clear();
     restore(held);

@@ -2,6 +2,7 @@
 
 #include "platform/KeyboardEvents.h"
 #include "platform/x11/ChordTrial.h"
+#include "platform/x11/LateSwitcher.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11Keyboard.h"
 
@@ -38,7 +39,9 @@ private:
     X11Connection& connection_;
     const X11Keyboard& keyboard_;
     std::unique_ptr<ChordTrial> trial_;
-    std::vector<xcb_keycode_t> pressed_;          ///< what is down in the user's place
+    std::unique_ptr<LateSwitcher> lateSwitcher_; ///< there from the first event source on
+    std::vector<xcb_keycode_t>
+        pressed_; ///< what is down in the user's place: modifiers, then the key
     std::vector<xcb_keycode_t> heldWhilePressed_; ///< the user's keys to restore at the release
 };
 

@@ -7,6 +7,7 @@
 #include <xcb/shape.h>
 
 namespace velmora {
+
 X11PanelWindow::X11PanelWindow(X11Connection& connection, const QRect& frame)
     : connection_(connection) {
     window_.setWindowFlags(
@@ -72,6 +73,9 @@ void X11PanelWindow::orderFrontRegardless() {
 
 void X11PanelWindow::setContentView(QWidget* view) {
     window_.layout()->addWidget(view);
+    // At once, so that the first thing painted is the content in its place.
+    window_.layout()->activate();
+    view->show();
 }
 
 void X11PanelWindow::applyShapes() {

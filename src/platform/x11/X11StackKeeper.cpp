@@ -3,7 +3,6 @@
 #include "platform/x11/WindowQueries.h"
 
 #include <algorithm>
-#include <array>
 #include <span>
 
 namespace velmora {
