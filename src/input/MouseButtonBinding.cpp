@@ -37,11 +37,15 @@ QString MouseButtonBinding::buttonDisplayName() const {
     }
 }
 
-QJsonObject encoded(const MouseButtonBinding& binding) {
-    return {
-        {u"id"_s, encoded(binding.id())},
-        {u"buttonNumber"_s, static_cast<qint64>(binding.buttonNumber)},
-        {u"action"_s, encoded(binding.action)}};
+void write(JsonWriter& writer, const MouseButtonBinding& binding) {
+    writer.beginObject();
+    writer.member("id"_L1);
+    write(writer, binding.id());
+    writer.member("buttonNumber"_L1);
+    writer.integer(binding.buttonNumber);
+    writer.member("action"_L1);
+    write(writer, binding.action);
+    writer.endObject();
 }
 
 MouseButtonBinding readMouseButtonBinding(const JsonReader& binding) {

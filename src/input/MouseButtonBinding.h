@@ -35,7 +35,7 @@ inline size_t qHash(const MouseButtonBinding& binding, size_t seed = 0) noexcept
 }
 
 /// The stored JSON form, for encodedList() and decodedList().
-QJsonObject encoded(const MouseButtonBinding& binding);
+void write(JsonWriter& writer, const MouseButtonBinding& binding);
 /// Throws a DecodingError when `binding` is not the stored form of a binding.
 MouseButtonBinding readMouseButtonBinding(const JsonReader& binding);
 
