@@ -1,1 +1,41 @@
 #include "platform/x11/X11Session.h"
+
+#include "platform/x11/X11Keyboard.h"
+#include "platform/x11/X11KeyboardEvents.h"
+
+namespace velmora {
+
+/// Built when first asked for, by when the application object is there.
+struct X11Session::Services {
+    explicit Services(X11Connection& connection)
+        : keyboard(connection), keyboardEvents(connection, keyboard) {
+        connection.startDelivery();
+    }
+
+    X11Keyboard keyboard;
+    X11KeyboardEvents keyboardEvents;
+};
+
+std::unique_ptr<X11Session> X11Session::create() {
+    auto connection = X11Connection::open();
+    if (!connection)
+        return nullptr;
+    return std::unique_ptr<X11Session>(new X11Session(std::move(connection)));
+}
+
+X11Session::X11Session(std::unique_ptr<X11Connection> connection)
+    : connection_(std::move(connection)) {}
+
+X11Session::~X11Session() = default;
+
+X11Session::Services& X11Session::services() {
+    if (!services_)
+        services_ = std::make_unique<Services>(*connection_);
+    return *services_;
+}
+
+KeyboardEvents& X11Session::keyboardEvents() {
+    return services().keyboardEvents;
+}
+
+} // namespace velmora
