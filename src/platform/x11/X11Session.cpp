@@ -1,5 +1,6 @@
 #include "platform/x11/X11Session.h"
 
+#include "platform/x11/X11EventTaps.h"
 #include "platform/x11/X11Keyboard.h"
 #include "platform/x11/X11KeyboardEvents.h"
 
@@ -8,11 +9,14 @@ namespace velmora {
 /// Built when first asked for, by when the application object is there.
 struct X11Session::Services {
     explicit Services(X11Connection& connection)
-        : keyboard(connection), keyboardEvents(connection, keyboard) {
+        : keyboard(connection),
+          eventTaps(connection, keyboard),
+          keyboardEvents(connection, keyboard) {
         connection.startDelivery();
     }
 
     X11Keyboard keyboard;
+    X11EventTaps eventTaps;
     X11KeyboardEvents keyboardEvents;
 };
 
@@ -32,6 +36,10 @@ X11Session::Services& X11Session::services() {
     if (!services_)
         services_ = std::make_unique<Services>(*connection_);
     return *services_;
+}
+
+EventTaps& X11Session::eventTaps() {
+    return services().eventTaps;
 }
 
 KeyboardEvents& X11Session::keyboardEvents() {
