@@ -1,11 +1,14 @@
 #include "app/AppDelegate.h"
 
+#include "actions/ActionEngine.h"
 #include "app/MainMenu.h"
 #include "app/TermsOfServiceView.h"
 #include "app/TermsOfServiceWindow.h"
 #include "foundation/ActionMessages.h"
 #include "foundation/UserDefaults.h"
+#include "model/ShortcutManager.h"
 #include "overlay/ContentView.h"
+#include "overlay/ScreenManager.h"
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
@@ -18,7 +21,8 @@ using namespace Qt::StringLiterals;
 
 namespace velmora {
 
-AppDelegate::AppDelegate() = default;
+AppDelegate::AppDelegate()
+    : overlayController(ScreenManager::shared(), Platform::current().panelWindows) {}
 
 void AppDelegate::applicationDidFinishLaunching() {
     setupMainMenu();
@@ -61,7 +65,9 @@ void AppDelegate::startServices() {
 }
 
 void AppDelegate::setupOverlay() {
-    overlayController.setup(std::make_unique<ContentView>());
+    overlayController.setup(std::make_unique<ContentView>(
+        ShortcutManager::shared(), [] { return ScreenManager::shared().hasNotch(); },
+        [](const ShortcutAction& action) { ActionEngine::shared().execute(action); }));
 }
 
 void AppDelegate::toggleOverlayMenu() {

@@ -29,7 +29,6 @@ int main(int argc, char** argv) {
     const Platform platform{
         .accessibility = session->accessibility(),
         .appearance = appearance,
-        .eventTaps = session->eventTaps(),
         .keyboardEvents = session->keyboardEvents(),
         .panelWindows = session->panelWindows(),
         .screens = session->screens(),

@@ -1,23 +1,35 @@
 #include "platform/x11/X11Session.h"
 
+#include "platform/x11/X11Accessibility.h"
 #include "platform/x11/X11EventTaps.h"
 #include "platform/x11/X11Keyboard.h"
 #include "platform/x11/X11KeyboardEvents.h"
+#include "platform/x11/X11PanelWindows.h"
+#include "platform/x11/X11Screens.h"
+#include "platform/x11/X11WindowActivation.h"
 
 namespace velmora {
 
 /// Built when first asked for, by when the application object is there.
 struct X11Session::Services {
     explicit Services(X11Connection& connection)
-        : keyboard(connection),
+        : accessibility(connection),
+          keyboard(connection),
           eventTaps(connection, keyboard),
-          keyboardEvents(connection, keyboard) {
+          keyboardEvents(connection, keyboard),
+          panelWindows(connection),
+          screens(connection),
+          windowActivation(connection) {
         connection.startDelivery();
     }
 
+    X11Accessibility accessibility;
     X11Keyboard keyboard;
     X11EventTaps eventTaps;
     X11KeyboardEvents keyboardEvents;
+    X11PanelWindows panelWindows;
+    X11Screens screens;
+    X11WindowActivation windowActivation;
 };
 
 std::unique_ptr<X11Session> X11Session::create() {
@@ -38,12 +50,26 @@ X11Session::Services& X11Session::services() {
     return *services_;
 }
 
+Accessibility& X11Session::accessibility() {
+    return services().accessibility;
 EventTaps& X11Session::eventTaps() {
     return services().eventTaps;
 }
 
 KeyboardEvents& X11Session::keyboardEvents() {
     return services().keyboardEvents;
+}
+
+PanelWindows& X11Session::panelWindows() {
+    return services().panelWindows;
+}
+
+Screens& X11Session::screens() {
+    return services().screens;
+}
+
+WindowActivation& X11Session::windowActivation() {
+    return services().windowActivation;
 }
 
 } // namespace velmora
