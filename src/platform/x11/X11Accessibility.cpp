@@ -2,7 +2,6 @@
 
 #include "platform/x11/X11Connection.h"
 
-#include <QtEnvironmentVariables>
 #include <cstdint>
 #include <xcb/xinput.h>
 

@@ -52,6 +52,8 @@ X11Session::Services& X11Session::services() {
 
 Accessibility& X11Session::accessibility() {
     return services().accessibility;
+}
+
 EventTaps& X11Session::eventTaps() {
     return services().eventTaps;
 }

@@ -1,7 +1,5 @@
 #include "X11World.h"
 
-#include "support/TestDisplay.h"
-
 #include <QHash>
 #include <QKeyEvent>
 #include <gtest/gtest.h>
@@ -10,17 +8,21 @@
 namespace velmora::test {
 namespace {
 
-xcb_input_device_id_t masterKeyboard(const XClient& client) {
+/// The first device of a type that is not XTEST's.
+xcb_input_device_id_t device(const XClient& client, xcb_input_device_type_t type) {
     Reply<xcb_input_xi_query_version_reply_t>(xcb_input_xi_query_version_reply(
         client, xcb_input_xi_query_version(client, 2, 2), nullptr));
     const Reply<xcb_input_xi_query_device_reply_t> reply(xcb_input_xi_query_device_reply(
-        client, xcb_input_xi_query_device(client, XCB_INPUT_DEVICE_ALL_MASTER), nullptr));
-    for (auto device = xcb_input_xi_query_device_infos_iterator(reply.get()); device.rem;
-         xcb_input_xi_device_info_next(&device)) {
-        if (device.data->type == XCB_INPUT_DEVICE_TYPE_MASTER_KEYBOARD)
-            return device.data->deviceid;
+        client, xcb_input_xi_query_device(client, XCB_INPUT_DEVICE_ALL), nullptr));
+    for (auto info = xcb_input_xi_query_device_infos_iterator(reply.get()); info.rem;
+         xcb_input_xi_device_info_next(&info)) {
+        const QByteArray name(
+            xcb_input_xi_device_info_name(info.data),
+            xcb_input_xi_device_info_name_length(info.data));
+        if (info.data->type == type && !name.contains("XTEST"))
+            return info.data->deviceid;
     }
-    return 0;
+    qFatal("the display lacks a device");
 }
 
 std::vector<QByteArray> modifierKeys(EventFlags flags) {
@@ -38,10 +40,21 @@ std::vector<QByteArray> modifierKeys(EventFlags flags) {
 
 } // namespace
 
-bool OtherProgram::takeChord(uint8_t keycode) {
+void replaceWindowManager(const QString& program) {
+    const XClient client;
+    const auto owner = [&client] {
+        return client.property(client.root(), "_NET_SUPPORTING_WM_CHECK");
+    };
+    const auto before = owner();
+    display().start(program, {QStringLiteral("--replace")});
+    ASSERT_TRUE(waitFor([&] { return !owner().empty() && owner() != before; }));
+}
+
+bool OtherProgram::takeChord(uint8_t keycode, uint32_t also) {
+    const uint32_t required = XCB_MOD_MASK_1 | also;
     std::vector<uint32_t> states;
     for (uint32_t state = 0; state <= 0xff; ++state) {
-        if (state & XCB_MOD_MASK_1)
+        if ((state & required) == required)
             states.push_back(state);
     }
     const uint32_t mask = XCB_INPUT_XI_EVENT_MASK_KEY_PRESS;
@@ -50,9 +63,10 @@ bool OtherProgram::takeChord(uint8_t keycode) {
             client_,
             xcb_input_xi_passive_grab_device(
                 client_, XCB_CURRENT_TIME, client_.root(), XCB_CURSOR_NONE, keycode,
-                masterKeyboard(client_), static_cast<uint16_t>(states.size()), 1,
-                XCB_INPUT_GRAB_TYPE_KEYCODE, XCB_INPUT_GRAB_MODE_22_ASYNC,
-                XCB_INPUT_GRAB_MODE_22_ASYNC, XCB_INPUT_GRAB_OWNER_NO_OWNER, &mask, states.data()),
+                device(client_, XCB_INPUT_DEVICE_TYPE_MASTER_KEYBOARD),
+                static_cast<uint16_t>(states.size()), 1, XCB_INPUT_GRAB_TYPE_KEYCODE,
+                XCB_INPUT_GRAB_MODE_22_ASYNC, XCB_INPUT_GRAB_MODE_22_ASYNC,
+                XCB_INPUT_GRAB_OWNER_NO_OWNER, &mask, states.data()),
             nullptr));
     return reply && reply->num_modifiers == 0;
 }
@@ -123,6 +137,36 @@ void X11World::click(std::int64_t number, const TapUnderTest& tap) {
     driver.pressButton(xButton(number));
     waitForPress(before, tap);
     driver.releaseButton(xButton(number));
+}
+
+bool X11World::isAnyButtonDown() const {
+    const Reply<xcb_input_xi_query_pointer_reply_t> reply(xcb_input_xi_query_pointer_reply(
+        client,
+        xcb_input_xi_query_pointer(
+            client, client.root(), device(client, XCB_INPUT_DEVICE_TYPE_MASTER_POINTER)),
+        nullptr));
+    const uint32_t* buttons = xcb_input_xi_query_pointer_buttons(reply.get());
+    return std::any_of(
+        buttons, buttons + xcb_input_xi_query_pointer_buttons_length(reply.get()),
+        [](uint32_t bits) { return bits != 0; });
+}
+
+void X11World::replugKeyboard() {
+    const xcb_input_device_id_t keyboard = device(client, XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD);
+    const xcb_input_device_id_t master = device(client, XCB_INPUT_DEVICE_TYPE_MASTER_KEYBOARD);
+    // One change as the protocol lays it out, with its device's new master or none.
+    struct Change {
+        xcb_input_hierarchy_change_t header;
+        uint16_t device;
+        uint16_t master;
+    };
+    for (const Change& change :
+         {Change{{XCB_INPUT_HIERARCHY_CHANGE_TYPE_DETACH_SLAVE, 2}, keyboard, 0},
+          Change{{XCB_INPUT_HIERARCHY_CHANGE_TYPE_ATTACH_SLAVE, 2}, keyboard, master}}) {
+        const Reply<xcb_generic_error_t> error(xcb_request_check(
+            client, xcb_input_xi_change_hierarchy_checked(client, 1, &change.header)));
+        EXPECT_FALSE(error);
+    }
 }
 
 std::vector<std::int64_t> X11World::reachedFront() {

@@ -4,15 +4,22 @@
 #include "platform/x11/X11Session.h"
 #include "support/Desktop.h"
 #include "support/Driver.h"
+#include "support/TestDisplay.h"
 #include "support/Witness.h"
 
 namespace velmora::test {
 
+/// The display that all tests of this program share.
+TestDisplay& display();
+/// Starts `program` in place of the display's window manager and waits until it has taken over.
+void replaceWindowManager(const QString& program);
+
 /// Another program that takes what it is told to; letting go of it is dying.
 class OtherProgram {
 public:
-    /// Option+M whatever is locked or held, as XInput 2 clients do; false when refused.
-    bool takeChord(uint8_t keycode);
+    /// A key with Option and `also` (modifier bits), whatever else is locked or held, as XInput 2
+    /// clients do; false when any of it is refused.
+    bool takeChord(uint8_t keycode, uint32_t also = 0);
     /// An X button with any modifiers.
     bool takeButton(uint8_t button);
     bool takeKeyboard();
@@ -43,6 +50,12 @@ public:
     void holdKeyboardElsewhere(bool hold) override;
     bool isKeyboardFree() override { return test::isKeyboardFree(client); }
     QWidget& focusedView() override;
+
+    /// Takes the physical keyboard out of the session and puts it back.
+    void replugKeyboard();
+
+    /// Of all buttons, those that the core protocol does not tell about included.
+    bool isAnyButtonDown() const;
 
     /// Waits until one more press than before has arrived at the tap or at the front.
     void waitForPress(size_t before, const TapUnderTest& tap);

@@ -42,7 +42,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(
     Session, Taps,
     testing::Values(WorldKind{"fake", makeFakeWorld}, WorldKind{"x11", makeX11World}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& kind) { return kind.param.name; });
 
 TEST_P(Taps, AChordIsTakenAndNothingElse) {
     makeEnabled(optionM);
