@@ -46,7 +46,10 @@ void replaceWindowManager(const QString& program) {
         return client.property(client.root(), "_NET_SUPPORTING_WM_CHECK");
     };
     const auto before = owner();
-    display().start(program, {QStringLiteral("--replace")});
+    // xfwm4 reads its settings over a bus, and ends without them.
+    display().start(
+        QStringLiteral("dbus-run-session"),
+        {QStringLiteral("--"), program, QStringLiteral("--replace")});
     ASSERT_TRUE(waitFor([&] { return !owner().empty() && owner() != before; }));
 }
 
