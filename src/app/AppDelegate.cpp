@@ -34,7 +34,7 @@ void AppDelegate::setupMainMenu() {
     ActionMessages& messages = ActionMessages::shared();
     messages.setHandler(u"toggleOverlayMenu"_s, [this] { toggleOverlayMenu(); });
     messages.setHandler(u"quitApp"_s, [this] { quitApp(); });
-    messages.setHandler(u"terminate:"_s, [] { QCoreApplication::quit(); });
+    messages.setHandler(u"terminate:"_s, [this] { quitApp(); });
 }
 
 void AppDelegate::checkTermsAndStart() {
@@ -75,7 +75,8 @@ void AppDelegate::toggleOverlayMenu() {
 }
 
 void AppDelegate::quitApp() {
-    QCoreApplication::quit();
+    // Not quit(): that asks every window first, and the terms window refuses to close.
+    QCoreApplication::exit();
 }
 
 } // namespace velmora

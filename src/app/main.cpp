@@ -21,7 +21,6 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     QApplication::setApplicationName(u"velmora"_s);
-    QApplication::setApplicationDisplayName(u"Velmora"_s);
     QApplication::setDesktopFileName(u"velmora"_s);
     const QApplication application(argc, argv);
     FreedesktopAppearance appearance;

@@ -36,7 +36,8 @@ void applyLook() {
     static const bool once [[maybe_unused]] = [] {
         QPalette palette = QToolTip::palette();
         palette.setColor(QPalette::ToolTipBase, QColor(0x26, 0x26, 0x2b));
-        palette.setColor(QPalette::ToolTipText, QColor(0xf2, 0xf2, 0xf4));
+        // Also the colour of the frame; the text brings its own.
+        palette.setColor(QPalette::ToolTipText, QColor(0x55, 0x55, 0x5d));
         QToolTip::setPalette(palette);
         QToolTip::setFont(Theme::systemFont(12));
         return true;
@@ -57,7 +58,7 @@ QString markup(const QString& text) {
             start = end;
         } while (start < paragraph.size());
     }
-    return u"<p style='white-space:pre'>"_s + lines.join(u"<br/>"_s) + u"</p>"_s;
+    return u"<p style='white-space:pre; color:#f2f2f4'>"_s + lines.join(u"<br/>"_s) + u"</p>"_s;
 }
 
 void show(const QHelpEvent& event, QWidget* view, const QString& text) {

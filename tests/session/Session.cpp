@@ -49,6 +49,8 @@ void Session::launch() {
     environment.insert(u"XDG_CACHE_HOME"_s, home() + u"/.cache"_s);
     // Without it Qt starts a bus daemon that outlives the program.
     environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"disabled:"_s);
+    // Qt warns when it is missing.
+    environment.insert(u"XDG_RUNTIME_DIR"_s, home());
     environment.insert(u"LANG"_s, u"C.UTF-8"_s);
     for (const QString& name :
          {u"QT_QPA_PLATFORM"_s, u"LC_ALL"_s, u"WAYLAND_DISPLAY"_s, u"XDG_SESSION_TYPE"_s})
@@ -107,12 +109,13 @@ std::vector<QRect> Session::buttons() {
         return {};
     const QImage image = screenshot(*client_, window->geometry);
     const int row = image.height() / 2;
-    // The bar's own colour is darker than this on a black desktop, a button's background lighter.
-    constexpr int buttonLightness = 0x28;
+    // A button's background is this much lighter than the bar above it.
+    constexpr int contrast = 12;
     std::vector<QRect> found;
     int start = -1;
     for (int x = 0; x <= image.width(); ++x) {
-        const bool inside = x < image.width() && qGray(image.pixel(x, row)) >= buttonLightness / 2;
+        const bool inside =
+            x < image.width() && qGray(image.pixel(x, row)) - qGray(image.pixel(x, 0)) >= contrast;
         if (inside && start < 0)
             start = x;
         if (!inside && start >= 0) {

@@ -31,8 +31,9 @@ bool LateSwitcher::isHeld(xcb_grab_keyboard_cookie_t question) {
     return reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
 }
 
-void LateSwitcher::watch(std::vector<xcb_keycode_t> modifiers) {
+void LateSwitcher::watch(std::vector<xcb_keycode_t> modifiers, xcb_keycode_t inert) {
     modifiers_ = std::move(modifiers);
+    inert_ = inert;
     checksLeft_ = 5;
     timer_.start();
 }
@@ -51,6 +52,10 @@ void LateSwitcher::check() {
     timer_.stop();
     for (const xcb_keycode_t keycode : modifiers_)
         SyntheticKeys::press(connection_, keycode);
+    if (inert_ != 0) {
+        SyntheticKeys::press(connection_, inert_);
+        SyntheticKeys::release(connection_, inert_);
+    }
     for (const xcb_keycode_t keycode : modifiers_)
         SyntheticKeys::release(connection_, keycode);
     xcb_flush(connection_);

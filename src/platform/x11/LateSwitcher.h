@@ -24,8 +24,9 @@ public:
     bool isHeld(xcb_grab_keyboard_cookie_t question);
 
     /// Watches for half a second for a client that takes the keyboard although no key is down, and
-    /// then taps `modifiers`.
-    void watch(std::vector<xcb_keycode_t> modifiers);
+    /// then taps `modifiers`, with the key `inert` (0 for none) inside: a modifier tapped alone
+    /// means something of its own to some window managers.
+    void watch(std::vector<xcb_keycode_t> modifiers, xcb_keycode_t inert);
 
 private:
     void check();
@@ -33,6 +34,7 @@ private:
     X11Connection& connection_;
     xcb_window_t window_; ///< never mapped: it cannot get a grab
     std::vector<xcb_keycode_t> modifiers_;
+    xcb_keycode_t inert_ = 0;
     int checksLeft_ = 0;
     QTimer timer_;
 };

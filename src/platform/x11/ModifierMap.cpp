@@ -64,6 +64,11 @@ ModifierMap ModifierMap::read(xcb_connection_t* connection) {
     find(map.alt_, XKB_KEY_Alt_L, XKB_KEY_Alt_R);
     find(map.super_, XKB_KEY_Super_L, XKB_KEY_Super_R);
     find(map.numLock_, XKB_KEY_Num_Lock, XKB_KEY_Num_Lock);
+    for (int keycode = setup->max_keycode; keycode >= setup->min_keycode; --keycode) {
+        const auto candidate = static_cast<xcb_keycode_t>(keycode);
+        if (std::ranges::all_of(symbolsOf(candidate), [](auto symbol) { return symbol == 0; }))
+            map.silentKey_ = candidate;
+    }
     return map;
 }
 

@@ -39,11 +39,15 @@ public:
     /// holding it.
     bool isLockKey(xcb_keycode_t keycode) const;
 
+    /// A key that types nothing and does nothing; 0 when there is none.
+    xcb_keycode_t silentKey() const { return silentKey_; }
+
 private:
     Rows rows_;
     uint8_t alt_ = XCB_MOD_MASK_1;
     uint8_t super_ = XCB_MOD_MASK_4;
     uint8_t numLock_ = XCB_MOD_MASK_2;
+    xcb_keycode_t silentKey_ = 0;
 };
 
 /// Whether `keycode` is down in a key map as the server reports it.

@@ -137,8 +137,13 @@ void X11KeyboardEvents::release(xcb_keycode_t keycode, uint8_t mask) {
             SyntheticKeys::release(connection_, modifier);
         notePressed();
     }
-    if (switcher && !lateSwitcher_->isHeld(*switcher))
-        lateSwitcher_->watch(std::move(modifiers));
+    if (switcher) {
+        // A keyboard frozen by a synchronous grab shows the key as down: then the grab says
+        // nothing.
+        const bool frozen = isDown(askBefore().keymap, keycode);
+        if (!lateSwitcher_->isHeld(*switcher) || frozen)
+            lateSwitcher_->watch(std::move(modifiers), keyboard_.modifiers().silentKey());
+    }
     held.insert(held.end(), heldWhilePressed_.begin(), heldWhilePressed_.end());
     heldWhilePressed_.clear();
     restore(held);

@@ -51,7 +51,7 @@ public:
     }
     KeyboardEvents& events() override { return session_->keyboardEvents(); }
     Posted posted() override {
-        witness_.waitForInput(14); // the four held keys, and C with them let go and back
+        witness_.waitForInput(22); // the held keys are let go and pressed again around C, twice
         Posted posted;
         for (const Witness::Event& event : witness_.keys()) {
             if (event.detail != driver_.keycode("AB03"))
