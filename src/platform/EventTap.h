@@ -24,6 +24,11 @@ enum class EventType : std::uint32_t {
     tapDisabledByUserInput = 0xFFFFFFFF, ///< another client holds what the tap wants
 };
 
+/// Whether the session says with `type` that it switched a tap off.
+constexpr bool isTapDisabled(EventType type) {
+    return type == EventType::tapDisabledByTimeout || type == EventType::tapDisabledByUserInput;
+}
+
 /// The bit of `type` in an event mask.
 constexpr std::uint64_t eventMaskBit(EventType type) {
     return std::uint64_t(1) << static_cast<std::uint32_t>(type);
