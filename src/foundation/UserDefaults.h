@@ -1,18 +1,18 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSettings>
 #include <QString>
-#include <memory>
+#include <QVariantMap>
 #include <optional>
-
-class QSettings;
 
 namespace velmora {
 
 /// The user's stored settings, values by key. Each write reaches the disk before it returns and
 /// replaces the old file whole, so that a crash leaves the old values or the new ones. A write that
-/// fails (full disk, read-only folder) is silent: what was stored stays, the value read back is the
-/// new one. Main thread only.
+/// fails (full disk, read-only folder, unreadable file) is silent: what was stored stays, the value
+/// read back is the new one, and the next write tries again. A file that does not parse is copied
+/// to "<file>.unreadable" before it is replaced. Main thread only.
 class UserDefaults {
 public:
     /// The process-wide store, "velmora/velmora.conf" in the user's configuration folder.
@@ -20,7 +20,6 @@ public:
 
     /// A store of its own in `file`.
     explicit UserDefaults(const QString& file);
-    ~UserDefaults();
 
     /// The bytes under `key`; absent when there are none.
     std::optional<QByteArray> data(const QString& key) const;
@@ -31,9 +30,15 @@ public:
     void setBoolean(const QString& key, bool value);
 
 private:
+    QVariant value(const QString& key) const;
     void write(const QString& key, const QVariant& value);
+    bool prepareFile();
 
-    std::unique_ptr<QSettings> settings_;
+    const QString file_;
+    QSettings settings_;
+    /// Values that may not be written yet because the file's own bytes are not safe.
+    QVariantMap pending_;
+    bool keptAside_ = false;
 };
 
 } // namespace velmora

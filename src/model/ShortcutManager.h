@@ -45,7 +45,7 @@ Q_SIGNALS:
 private:
     void createDefaultShortcuts();
     void loadShortcuts();
-    void setShortcuts(QList<ShortcutButton> shortcuts);
+    bool holds(qsizetype index) const;
 
     UserDefaults& defaults_;
     QList<ShortcutButton> shortcuts_;

@@ -1,40 +1,47 @@
 #pragma once
 
+#include "model/JsonReader.h"
 #include "model/ShortcutButton.h"
 
 #include <QByteArray>
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QList>
-#include <QString>
-#include <QStringList>
+#include <QJsonDocument>
 #include <variant>
 
-/// The stored JSON form of actions and buttons. Pure functions of the value; a failure to read is
-/// reported, never replaced by a default.
+/// The stored JSON form of actions and of lists of records. Pure functions of the value; a failure
+/// to read is reported, never replaced by a default.
 namespace velmora {
-
-/// Why stored data does not read.
-struct DecodingError {
-    enum class Kind { typeMismatch, keyNotFound, valueNotFound, dataCorrupted };
-    Kind kind;
-    /// Members and indices ("Index 2") from the outermost value to the offending one.
-    QStringList codingPath;
-    QString description;
-};
 
 /// A value or the error that kept it from being read.
 template<typename T>
 using Decoded = std::variant<T, DecodingError>;
 
+/// The canonical text of an id, upper-case.
+QString encoded(const QUuid& id);
 QJsonObject encoded(const ShortcutAction& action);
 QJsonObject encoded(const ShortcutButton& button);
-/// UTF-8 text of the array of buttons, compact.
-QByteArray encoded(const QList<ShortcutButton>& buttons);
 
-/// Reads an action object that stands at `codingPath` of the whole text.
-Decoded<ShortcutAction> decodedAction(const QJsonValue& value, const QStringList& codingPath);
-Decoded<ShortcutButton> decodedButton(const QJsonValue& value, const QStringList& codingPath);
-Decoded<QList<ShortcutButton>> decodedButtons(const QByteArray& json);
+/// UTF-8 text of the array of records, compact. A record type brings its own encoded().
+template<typename Record>
+QByteArray encodedList(const QList<Record>& records) {
+    QJsonArray array;
+    for (const Record& record : records)
+        array.append(encoded(record));
+    return QJsonDocument(array).toJson(QJsonDocument::Compact);
+}
+
+/// For record readers: these throw a DecodingError.
+ShortcutAction readAction(const JsonReader& action);
+ShortcutButton readButton(const JsonReader& button);
+
+/// Reads a whole text as an array of records; one that does not read fails the list.
+template<typename Record>
+Decoded<QList<Record>>
+decodedList(const QByteArray& json, Record (*readRecord)(const JsonReader& record)) {
+    try {
+        return JsonReader(parsedJson(json)).list(readRecord);
+    } catch (const DecodingError& error) {
+        return error;
+    }
+}
 
 } // namespace velmora

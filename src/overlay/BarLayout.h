@@ -1,0 +1,30 @@
+#pragma once
+
+#include "overlay/ButtonRow.h"
+
+#include <QWidget>
+
+namespace velmora {
+
+/// One way to arrange the buttons in the bar.
+class BarLayout : public QWidget {
+    Q_OBJECT
+public:
+    BarLayout(ExecuteAction action, QWidget* parent)
+        : QWidget(parent), execute(std::move(action)) {}
+
+    /// Shows the buttons, given in store order.
+    virtual void setShortcuts(const QList<ShortcutButton>& shortcuts) = 0;
+
+    static constexpr int verticalPadding = 4;
+    static constexpr int trailingPadding = 12;
+
+protected:
+    /// Those of `shortcuts` that belong to `side`, in their order.
+    static QList<ShortcutButton>
+    group(const QList<ShortcutButton>& shortcuts, ButtonAlignment side);
+
+    const ExecuteAction execute;
+};
+
+} // namespace velmora

@@ -1,0 +1,145 @@
+#include "overlay/DraggableNSScrollView.h"
+
+#include <QEvent>
+#include <QLineF>
+#include <QWheelEvent>
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+using namespace std::chrono_literals;
+
+namespace velmora {
+namespace {
+
+/// Points that one notch of a wheel (120 units) scrolls.
+constexpr double wheelNotch = 48;
+
+} // namespace
+
+DraggableNSScrollView::DraggableNSScrollView(QWidget* parent) : QWidget(parent) {
+    decelerationTimer_.setTimerType(Qt::PreciseTimer);
+    decelerationTimer_.setInterval(16ms);
+    decelerationTimer_.callOnTimeout(this, [this] { handleDecelerationStep(); });
+    setupEventMonitor();
+}
+
+void DraggableNSScrollView::setupEventMonitor() {
+    mouseEventMonitor_.emplace([this](const LocalMouseEvent& event) { handleMouseEvent(event); });
+}
+
+void DraggableNSScrollView::setAlignment(Alignment alignment) {
+    alignment_ = alignment;
+    scrollToPoint(offset_);
+}
+
+void DraggableNSScrollView::setDocumentView(QWidget* view) {
+    delete documentView_;
+    documentView_ = view;
+    view->setParent(this);
+    view->installEventFilter(this);
+    view->resize(view->width(), height());
+    view->show();
+    scrollToPoint(0);
+}
+
+double DraggableNSScrollView::maxOffset() const {
+    return documentView_ ? std::max(documentView_->width() - width(), 0) : 0;
+}
+
+void DraggableNSScrollView::handleMouseEvent(const LocalMouseEvent& event) {
+    using Kind = LocalMouseEvent::Kind;
+    if (!event.window || event.window != window())
+        return;
+    const QPointF point = mapFrom(event.window, event.locationInWindow);
+    if (!QRectF(rect()).contains(point))
+        return;
+    switch (event.kind) {
+    case Kind::leftMouseDown:
+        stopDeceleration();
+        mouseDownPoint_ = point;
+        lastDragPoint_ = point;
+        isDraggingMode_ = false;
+        break;
+    case Kind::leftMouseDragged:
+        if (QLineF(mouseDownPoint_, point).length() > dragThreshold)
+            isDraggingMode_ = true;
+        if (isDraggingMode_)
+            scrollBy(point.x() - lastDragPoint_.x());
+        lastDragPoint_ = point;
+        break;
+    case Kind::leftMouseUp:
+        if (isDraggingMode_)
+            startDeceleration(point.x() - lastDragPoint_.x());
+        isDraggingMode_ = false;
+        break;
+    }
+}
+
+void DraggableNSScrollView::scrollBy(double deltaX) {
+    if (documentView_)
+        scrollToPoint(offset_ - deltaX);
+}
+
+void DraggableNSScrollView::startDeceleration(double initialVelocity) {
+    stopDeceleration();
+    if (std::abs(initialVelocity) < 1.0)
+        return;
+    currentVelocity_ = initialVelocity;
+    decelerationTimer_.start();
+}
+
+void DraggableNSScrollView::stopDeceleration() {
+    decelerationTimer_.stop();
+}
+
+void DraggableNSScrollView::handleDecelerationStep() {
+    if (!documentView_)
+        return stopDeceleration();
+    currentVelocity_ *= friction;
+    if (std::abs(currentVelocity_) < minVelocity)
+        return stopDeceleration();
+    const double target = offset_ - currentVelocity_;
+    if (target < 0 || target > maxOffset()) {
+        currentVelocity_ = 0;
+        stopDeceleration();
+    }
+    scrollToPoint(target);
+}
+
+void DraggableNSScrollView::scrollToPoint(double x) {
+    offset_ = std::max(std::min(x, maxOffset()), 0.0);
+    if (!documentView_)
+        return;
+    const int slack = std::max(width() - documentView_->width(), 0);
+    const int leading = alignment_ == Alignment::trailing ? slack : 0;
+    const QPoint position(leading - static_cast<int>(std::lround(offset_)), 0);
+    if (position == documentView_->pos())
+        return;
+    documentView_->move(position);
+    Q_EMIT scrolled();
+}
+
+void DraggableNSScrollView::wheelEvent(QWheelEvent* event) {
+    // A touchpad reports pixels, a wheel notches; a plain wheel scrolls the strip sideways.
+    const bool precise = !event->pixelDelta().isNull();
+    const QPoint delta = precise ? event->pixelDelta() : event->angleDelta();
+    const int along = std::abs(delta.x()) > std::abs(delta.y()) ? delta.x() : delta.y();
+    stopDeceleration();
+    scrollBy(precise ? along : along * wheelNotch / 120);
+    event->accept();
+}
+
+void DraggableNSScrollView::resizeEvent(QResizeEvent*) {
+    if (documentView_)
+        documentView_->resize(documentView_->width(), height());
+    scrollToPoint(offset_);
+}
+
+bool DraggableNSScrollView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == documentView_ && event->type() == QEvent::Resize)
+        scrollToPoint(offset_);
+    return false;
+}
+
+} // namespace velmora

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QPointF>
+#include <functional>
+#include <memory>
+
+class QObject;
+class QWidget;
+
+namespace velmora {
+
+/// What an application-local monitor of the left mouse button sees.
+struct LocalMouseEvent {
+    enum class Kind { leftMouseDown, leftMouseUp, leftMouseDragged };
+    Kind kind;
+    QWidget* window;          ///< the top-level widget that the event is for; null when unknown
+    QPointF locationInWindow; ///< points, origin at the window's top left
+};
+
+/// Watches the left mouse button in all windows of the application, before any view, and passes
+/// every event on. Drags are reported at most once per 16 ms; motion still pending at the release
+/// is not reported. Ends with the object. Main thread only.
+class LocalMouseMonitor {
+public:
+    /// The handler must not destroy the monitor.
+    using Handler = std::function<void(const LocalMouseEvent&)>;
+
+    explicit LocalMouseMonitor(Handler handler);
+    LocalMouseMonitor(LocalMouseMonitor&&) noexcept;
+    LocalMouseMonitor& operator=(LocalMouseMonitor&&) noexcept;
+    ~LocalMouseMonitor();
+
+private:
+    class Filter;
+    std::unique_ptr<Filter> filter_;
+};
+
+} // namespace velmora

@@ -1,0 +1,26 @@
+#include "viewkit/Theme.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace velmora::Theme {
+
+QFont systemFont(int size, QFont::Weight weight) {
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(size);
+    font.setWeight(weight);
+    return font;
+}
+
+bool isDark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() <
+           palette.color(QPalette::WindowText).lightness();
+}
+
+QColor secondaryText(const QPalette& palette) {
+    QColor colour = palette.color(QPalette::WindowText);
+    colour.setAlphaF(0.6F);
+    return colour;
+}
+
+} // namespace velmora::Theme
