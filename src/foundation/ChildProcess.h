@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <optional>
 
 /// A child process whose output is gathered beside the main thread.
 namespace velmora::ChildProcess {
@@ -12,9 +12,10 @@ namespace velmora::ChildProcess {
 struct Outcome {
     /// Set when the process could not be started: the system's description of why.
     QString startFailure;
-    /// Standard output and standard error in one channel, in the order written.
-    QByteArray output;
-    /// More than `outputLimit` bytes arrived; `output` ends at a character boundary before it.
+    /// Standard output and standard error in one channel, in the order written, until the process
+    /// ended. Absent when the bytes are not UTF-8, whether kept or not.
+    std::optional<QString> output;
+    /// More than `outputLimit` bytes arrived; `output` ends at the last character boundary in it.
     bool truncated = false;
 };
 
@@ -22,9 +23,10 @@ struct Outcome {
 inline constexpr qsizetype outputLimit = 64 * 1024 * 1024;
 
 /// Starts `program` with `arguments`; environment, working directory and standard input are
-/// inherited. `completion` is called once, on the main thread, when the process has ended (a
-/// background grandchild that keeps the channel open delays nothing) or could not be started. There
-/// is no time limit. The process outlives this one.
+/// inherited. `completion` is called once, on the main thread in a later turn of its event loop,
+/// when the process has ended (a background grandchild that keeps the channel open delays nothing)
+/// or could not be started. There is no time limit. The process outlives this one. Main thread
+/// only.
 void run(
     const QString& program, const QStringList& arguments,
     std::function<void(const Outcome&)> completion);

@@ -1,0 +1,140 @@
+#include "platform/freedesktop/DesktopLaunch.h"
+
+#include "platform/freedesktop/GioPointer.h"
+#include "platform/freedesktop/TerminalCommand.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <unistd.h>
+#include <variant>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora::DesktopLaunch {
+namespace {
+
+using Failure = std::optional<QString>;
+using Entry = GioPointer<GDesktopAppInfo>;
+
+/// Why GIO does not accept the file as an application: it only says that it does not.
+QString whyUnusable(const QString& location) {
+    if (QFileInfo(location).isDir())
+        return u"“%1” is a folder, not a desktop entry"_s.arg(location);
+    const GioPointer<GKeyFile> file(g_key_file_new());
+    GioError error;
+    if (!g_key_file_load_from_file(
+            file.get(), QFile::encodeName(location).constData(), G_KEY_FILE_NONE, &error))
+        return error.message();
+    for (const char* key : {G_KEY_FILE_DESKTOP_KEY_TRY_EXEC, G_KEY_FILE_DESKTOP_KEY_EXEC}) {
+        const GioPointer<gchar> command(
+            g_key_file_get_string(file.get(), G_KEY_FILE_DESKTOP_GROUP, key, nullptr));
+        gchar** arguments = nullptr;
+        if (!command || !g_shell_parse_argv(command.get(), nullptr, &arguments, nullptr))
+            continue;
+        const GioPointer<gchar*> owner(arguments);
+        const GioPointer<gchar> program(g_find_program_in_path(arguments[0]));
+        if (!program)
+            return u"The program “%1” does not exist or is not executable"_s.arg(
+                QString::fromUtf8(arguments[0]));
+    }
+    return u"“%1” describes no application that can be started"_s.arg(location);
+}
+
+/// The same entry with its command run in the user's terminal emulator. GIO has a list of terminals
+/// of its own that lacks Debian's x-terminal-emulator and does not report that none is there.
+std::variant<Entry, QString> inTerminal(const Entry& entry) {
+    const auto terminal = terminalCommand();
+    if (!terminal)
+        return u"No terminal emulator is installed"_s;
+    const GioPointer<GKeyFile> file(g_key_file_new());
+    GioError error;
+    if (!g_key_file_load_from_file(
+            file.get(), g_desktop_app_info_get_filename(entry.get()), G_KEY_FILE_KEEP_TRANSLATIONS,
+            &error))
+        return error.message();
+    const char* command = g_app_info_get_commandline(G_APP_INFO(entry.get()));
+    g_key_file_set_string(
+        file.get(), G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_EXEC,
+        (*terminal + u' ' + QString::fromUtf8(command)).toUtf8().constData());
+    g_key_file_set_boolean(
+        file.get(), G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_TERMINAL, FALSE);
+    Entry changed(g_desktop_app_info_new_from_keyfile(file.get()));
+    if (!changed)
+        return whyUnusable(QString::fromUtf8(g_desktop_app_info_get_filename(entry.get())));
+    return changed;
+}
+
+/// Asks the session bus to activate the application and waits for the answer.
+Failure activate(const Entry& entry, GList* urls, GAppLaunchContext* launchContext) {
+    // Answers arrive through the thread's default context, whoever runs the main thread's.
+    const GioPointer<GMainContext> mainContext(g_main_context_new());
+    g_main_context_push_thread_default(mainContext.get());
+    GioPointer<GAsyncResult> result;
+    g_app_info_launch_uris_async(
+        G_APP_INFO(entry.get()), urls, launchContext, nullptr,
+        [](GObject*, GAsyncResult* arrived, gpointer target) {
+            static_cast<GioPointer<GAsyncResult>*>(target)->reset(
+                G_ASYNC_RESULT(g_object_ref(arrived)));
+        },
+        &result);
+    while (!result)
+        g_main_context_iteration(mainContext.get(), TRUE);
+    g_main_context_pop_thread_default(mainContext.get());
+    GioError error;
+    if (!g_app_info_launch_uris_finish(G_APP_INFO(entry.get()), result.get(), &error))
+        return error.message();
+    return std::nullopt;
+}
+
+Failure launch(Entry entry, GList* urls) {
+    const GioPointer<GAppLaunchContext> context(g_app_launch_context_new());
+    // Whoever started us has used these up; they must not count for what we start.
+    for (const char* variable : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
+        g_app_launch_context_unsetenv(context.get(), variable);
+
+    // GIO connects by itself; we hold the shared connection meanwhile so that losing the bus does
+    // not end this process, as it would by default.
+    const GioPointer<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
+    if (bus)
+        g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
+    if (bus && g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE))
+        return activate(entry, urls, context.get());
+
+    if (g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_TERMINAL)) {
+        auto changed = inTerminal(entry);
+        if (const auto* failure = std::get_if<QString>(&changed))
+            return *failure;
+        entry = std::get<Entry>(std::move(changed));
+    }
+    // Without G_SPAWN_DO_NOT_REAP_CHILD the application becomes init's child: nothing to wait for.
+    // In a session of its own, Ctrl+C in the terminal that we were started from does not reach it.
+    GioError error;
+    const bool started = g_desktop_app_info_launch_uris_as_manager(
+        entry.get(), urls, context.get(), G_SPAWN_SEARCH_PATH, [](gpointer) { ::setsid(); },
+        nullptr, nullptr, nullptr, &error);
+    if (!started)
+        return error.message();
+    return std::nullopt;
+}
+
+} // namespace
+
+Failure openApplication(const QString& location) {
+    Entry entry(g_desktop_app_info_new_from_filename(QFile::encodeName(location).constData()));
+    if (!entry)
+        return whyUnusable(location);
+    return launch(std::move(entry), nullptr);
+}
+
+Failure openUrl(const QByteArray& url) {
+    const GioPointer<GFile> file(g_file_new_for_uri(url.constData()));
+    GioError error;
+    GAppInfo* handler = g_file_query_default_handler(file.get(), nullptr, &error);
+    if (!handler)
+        return error.message();
+    QByteArray text = url;
+    GList urls{text.data(), nullptr, nullptr};
+    return launch(Entry(G_DESKTOP_APP_INFO(handler)), &urls);
+}
+
+} // namespace velmora::DesktopLaunch

@@ -1,0 +1,41 @@
+#pragma once
+
+// Ownership of what GLib hands out. For the source files of this folder only.
+
+#include <QString>
+#include <gio/gdesktopappinfo.h>
+#include <gio/gio.h>
+#include <memory>
+
+namespace velmora {
+
+/// Gives a GLib object, text or list back when it goes.
+struct GioDelete {
+    void operator()(GDesktopAppInfo* object) const { g_object_unref(object); }
+    void operator()(GAppInfo* object) const { g_object_unref(object); }
+    void operator()(GAppLaunchContext* object) const { g_object_unref(object); }
+    void operator()(GAsyncResult* object) const { g_object_unref(object); }
+    void operator()(GDBusConnection* object) const { g_object_unref(object); }
+    void operator()(GFile* object) const { g_object_unref(object); }
+    void operator()(GKeyFile* file) const { g_key_file_free(file); }
+    void operator()(GMainContext* context) const { g_main_context_unref(context); }
+    void operator()(GError* error) const { g_error_free(error); }
+    void operator()(gchar* text) const { g_free(text); }
+    void operator()(gchar** texts) const { g_strfreev(texts); }
+};
+
+template<typename T>
+using GioPointer = std::unique_ptr<T, GioDelete>;
+
+/// Receives the error of one GLib call: pass it as the GError** argument.
+class GioError {
+public:
+    ~GioError() { g_clear_error(&error_); }
+    GError** operator&() { return &error_; } // NOLINT: stands for the GError* inside
+    QString message() const { return error_ ? QString::fromUtf8(error_->message) : QString(); }
+
+private:
+    GError* error_ = nullptr;
+};
+
+} // namespace velmora

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/KeyboardEvents.h"
+
+#include <vector>
+
+namespace velmora::test {
+
+/// Keyboard events that are recorded instead of posted; each step can be made to fail.
+class FakeKeyboardEvents : public KeyboardEvents {
+public:
+    bool hasSource = true;
+    bool createsKeyDown = true;
+    bool createsKeyUp = true;
+
+    int sourcesAsked = 0;
+    std::vector<KeyboardEvent> posted;
+
+    std::unique_ptr<EventSource> createEventSource(EventSourceState) override {
+        ++sourcesAsked;
+        return hasSource ? std::make_unique<EventSource>() : nullptr;
+    }
+
+    std::optional<KeyboardEvent>
+    createKeyboardEvent(EventSource&, KeyCode keyCode, bool keyDown) override {
+        if (!(keyDown ? createsKeyDown : createsKeyUp))
+            return std::nullopt;
+        // As if the user held every modifier.
+        return KeyboardEvent{keyCode, keyDown, 0x1E0000};
+    }
+
+    void post(EventTapLocation, const KeyboardEvent& event) override { posted.push_back(event); }
+};
+
+} // namespace velmora::test
