@@ -1,11 +1,14 @@
 #include "app/AppDelegate.h"
 
+#include "actions/ActionEngine.h"
 #include "app/MainMenu.h"
 #include "app/TermsOfServiceView.h"
 #include "app/TermsOfServiceWindow.h"
 #include "foundation/ActionMessages.h"
 #include "foundation/UserDefaults.h"
+#include "model/ShortcutManager.h"
 #include "overlay/ContentView.h"
+#include "overlay/ScreenManager.h"
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
@@ -18,7 +21,8 @@ using namespace Qt::StringLiterals;
 
 namespace velmora {
 
-AppDelegate::AppDelegate() = default;
+AppDelegate::AppDelegate()
+    : overlayController(ScreenManager::shared(), Platform::current().panelWindows) {}
 
 void AppDelegate::applicationDidFinishLaunching() {
     setupMainMenu();
@@ -30,7 +34,7 @@ void AppDelegate::setupMainMenu() {
     ActionMessages& messages = ActionMessages::shared();
     messages.setHandler(u"toggleOverlayMenu"_s, [this] { toggleOverlayMenu(); });
     messages.setHandler(u"quitApp"_s, [this] { quitApp(); });
-    messages.setHandler(u"terminate:"_s, [] { QCoreApplication::quit(); });
+    messages.setHandler(u"terminate:"_s, [this] { quitApp(); });
 }
 
 void AppDelegate::checkTermsAndStart() {
@@ -61,7 +65,9 @@ void AppDelegate::startServices() {
 }
 
 void AppDelegate::setupOverlay() {
-    overlayController.setup(std::make_unique<ContentView>());
+    overlayController.setup(std::make_unique<ContentView>(
+        ShortcutManager::shared(), [] { return ScreenManager::shared().hasNotch(); },
+        [](const ShortcutAction& action) { ActionEngine::shared().execute(action); }));
 }
 
 void AppDelegate::toggleOverlayMenu() {
@@ -69,7 +75,8 @@ void AppDelegate::toggleOverlayMenu() {
 }
 
 void AppDelegate::quitApp() {
-    QCoreApplication::quit();
+    // Not quit(): that asks every window first, and the terms window refuses to close.
+    QCoreApplication::exit();
 }
 
 } // namespace velmora

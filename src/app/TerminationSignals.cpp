@@ -24,7 +24,7 @@ TerminationSignals::TerminationSignals()
     : descriptor_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
       notifier_(descriptor_, QSocketNotifier::Read) {
     signalDescriptor = descriptor_;
-    QObject::connect(&notifier_, &QSocketNotifier::activated, [] { QCoreApplication::quit(); });
+    QObject::connect(&notifier_, &QSocketNotifier::activated, [] { QCoreApplication::exit(); });
     struct sigaction action = {};
     action.sa_handler = wake;
     action.sa_flags = SA_RESTART;

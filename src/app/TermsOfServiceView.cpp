@@ -1,14 +1,16 @@
 #include "app/TermsOfServiceView.h"
 
+#include "foundation/ActionMessages.h"
 #include "foundation/LocalizedString.h"
 #include "foundation/UserDefaults.h"
 
-#include <QCoreApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -41,8 +43,9 @@ public:
         text->setWordWrap(true);
         text->setAlignment(Qt::AlignLeading | Qt::AlignTop);
         text->setMargin(defaultPadding);
-        text->setAutoFillBackground(false);
         setWidget(text);
+        // setWidget() turned it on; the rounded ground shows through.
+        text->setAutoFillBackground(false);
         setAccessibleName(localizedString("tos.title"));
     }
 
@@ -90,11 +93,17 @@ TermsOfServiceView::TermsOfServiceView(UserDefaults& defaults, std::function<voi
     //: Quit Button
     QPushButton* quit = answerButton(localizedString("tos.quit"));
     quit->setShortcut(QKeySequence(u"Ctrl+Q"_s));
-    connect(quit, &QPushButton::clicked, this, [] { QCoreApplication::quit(); });
+    connect(
+        quit, &QPushButton::clicked, this, [] { ActionMessages::shared().send(u"terminate:"_s); });
 
     //: Agree Button
     QPushButton* agree = answerButton(localizedString("tos.agree"));
     agree->setDefault(true);
+    // Outside a QDialog a default button looks the part but does not hear Return.
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        connect(
+            new QShortcut(QKeySequence(key), this), &QShortcut::activated, agree,
+            &QPushButton::click);
     connect(agree, &QPushButton::clicked, this, [&defaults, onAgree = std::move(onAgree)] {
         defaults.setBoolean(agreementKey, true);
         onAgree();
@@ -115,7 +124,7 @@ TermsOfServiceView::TermsOfServiceView(UserDefaults& defaults, std::function<voi
     stack->addWidget(new TermsText, 1);
     stack->addLayout(answers);
     setMinimumSize(400, 300);
-    agree->setFocus();
+    setFocusProxy(agree);
 }
 
 } // namespace velmora

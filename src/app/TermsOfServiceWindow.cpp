@@ -52,7 +52,9 @@ void TermsOfServiceWindow::show(std::function<void()> onAgree) {
         WindowTheme::follow(*window_);
         auto* layout = new QVBoxLayout(window_.get());
         layout->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(new TermsOfServiceView(defaults_, [this] { handleAgree(); }));
+        auto* view = new TermsOfServiceView(defaults_, [this] { handleAgree(); });
+        layout->addWidget(view);
+        view->setFocus();
         window_->setFixedSize(contentSize.expandedTo(window_->minimumSizeHint()));
         if (const QScreen* screen = QGuiApplication::primaryScreen()) {
             QRect frame = window_->rect();

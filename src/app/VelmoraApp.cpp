@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/TerminationSignals.h"
+#include "foundation/HelperPath.h"
 #include "foundation/LocalizedString.h"
 
 #include <QApplication>
@@ -14,6 +15,7 @@ std::unique_ptr<AppDelegate> VelmoraApp::appDelegate;
 int VelmoraApp::main() {
     QApplication::setQuitOnLastWindowClosed(false);
     const TerminationSignals terminationSignals;
+    appendHelperPath();
     installLocalizedStrings();
     appDelegate = std::make_unique<AppDelegate>();
     QTimer::singleShot(0, appDelegate.get(), &AppDelegate::applicationDidFinishLaunching);

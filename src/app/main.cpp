@@ -21,7 +21,6 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     QApplication::setApplicationName(u"velmora"_s);
-    QApplication::setApplicationDisplayName(u"Velmora"_s);
     QApplication::setDesktopFileName(u"velmora"_s);
     const QApplication application(argc, argv);
     FreedesktopAppearance appearance;
@@ -29,7 +28,6 @@ int main(int argc, char** argv) {
     const Platform platform{
         .accessibility = session->accessibility(),
         .appearance = appearance,
-        .eventTaps = session->eventTaps(),
         .keyboardEvents = session->keyboardEvents(),
         .panelWindows = session->panelWindows(),
         .screens = session->screens(),

@@ -12,23 +12,32 @@ constexpr std::array caseNames = {
     "launchApp"_L1, "openURL"_L1, "executeShellCommand"_L1, "pressKeyCombo"_L1};
 static_assert(caseNames.size() == std::variant_size_v<ShortcutAction>);
 
-QJsonObject associatedValues(const LaunchApp& action) {
-    QJsonObject values{{u"name"_s, action.name}};
+void writeMember(JsonWriter& writer, QLatin1StringView name, const QString& value) {
+    writer.member(name);
+    writer.string(value);
+}
+
+void writeValues(JsonWriter& writer, const LaunchApp& action) {
+    writeMember(writer, "name"_L1, action.name);
     if (action.bundleId)
-        values.insert("bundleId"_L1, *action.bundleId);
-    return values;
+        writeMember(writer, "bundleId"_L1, *action.bundleId);
 }
 
-QJsonObject associatedValues(const OpenUrl& action) {
-    return {{u"url"_s, action.url}};
+void writeValues(JsonWriter& writer, const OpenUrl& action) {
+    writeMember(writer, "url"_L1, action.url);
 }
 
-QJsonObject associatedValues(const ExecuteShellCommand& action) {
-    return {{u"command"_s, action.command}};
+void writeValues(JsonWriter& writer, const ExecuteShellCommand& action) {
+    writeMember(writer, "command"_L1, action.command);
 }
 
-QJsonObject associatedValues(const PressKeyCombo& action) {
-    return {{u"modifiers"_s, QJsonArray::fromStringList(action.modifiers)}, {u"key"_s, action.key}};
+void writeValues(JsonWriter& writer, const PressKeyCombo& action) {
+    writer.member("modifiers"_L1);
+    writer.beginArray();
+    for (const QString& modifier : action.modifiers)
+        writer.string(modifier);
+    writer.endArray();
+    writeMember(writer, "key"_L1, action.key);
 }
 
 ShortcutAction readAssociatedValues(QLatin1StringView caseName, const JsonReader& values) {
@@ -58,22 +67,29 @@ ButtonAlignment readAlignment(const JsonReader& alignment) {
 
 } // namespace
 
-QString encoded(const QUuid& id) {
-    return id.toString(QUuid::WithoutBraces).toUpper();
+void write(JsonWriter& writer, const QUuid& id) {
+    writer.string(id.toString(QUuid::WithoutBraces).toUpper());
 }
 
-QJsonObject encoded(const ShortcutAction& action) {
-    const auto values = [](const auto& alternative) { return associatedValues(alternative); };
-    return {{caseNames.at(action.index()), std::visit(values, action)}};
+void write(JsonWriter& writer, const ShortcutAction& action) {
+    writer.beginObject();
+    writer.member(caseNames.at(action.index()));
+    writer.beginObject();
+    std::visit([&](const auto& alternative) { writeValues(writer, alternative); }, action);
+    writer.endObject();
+    writer.endObject();
 }
 
-QJsonObject encoded(const ShortcutButton& button) {
-    return {
-        {u"id"_s, encoded(button.id())},
-        {u"title"_s, button.title},
-        {u"icon"_s, button.icon},
-        {u"action"_s, encoded(button.action)},
-        {u"alignment"_s, rawValue(button.alignment)}};
+void write(JsonWriter& writer, const ShortcutButton& button) {
+    writer.beginObject();
+    writer.member("id"_L1);
+    write(writer, button.id());
+    writeMember(writer, "title"_L1, button.title);
+    writeMember(writer, "icon"_L1, button.icon);
+    writer.member("action"_L1);
+    write(writer, button.action);
+    writeMember(writer, "alignment"_L1, rawValue(button.alignment));
+    writer.endObject();
 }
 
 ShortcutAction readAction(const JsonReader& action) {

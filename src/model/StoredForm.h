@@ -1,10 +1,10 @@
 #pragma once
 
 #include "model/JsonReader.h"
+#include "model/JsonWriter.h"
 #include "model/ShortcutButton.h"
 
 #include <QByteArray>
-#include <QJsonDocument>
 #include <variant>
 
 /// The stored JSON form of actions and of lists of records. Pure functions of the value; a failure
@@ -15,18 +15,20 @@ namespace velmora {
 template<typename T>
 using Decoded = std::variant<T, DecodingError>;
 
-/// The canonical text of an id, upper-case.
-QString encoded(const QUuid& id);
-QJsonObject encoded(const ShortcutAction& action);
-QJsonObject encoded(const ShortcutButton& button);
+/// The canonical text, upper-case.
+void write(JsonWriter& writer, const QUuid& id);
+void write(JsonWriter& writer, const ShortcutAction& action);
+void write(JsonWriter& writer, const ShortcutButton& button);
 
-/// UTF-8 text of the array of records, compact. A record type brings its own encoded().
+/// UTF-8 text of the array of records, compact. A record type brings its own write().
 template<typename Record>
 QByteArray encodedList(const QList<Record>& records) {
-    QJsonArray array;
+    JsonWriter writer;
+    writer.beginArray();
     for (const Record& record : records)
-        array.append(encoded(record));
-    return QJsonDocument(array).toJson(QJsonDocument::Compact);
+        write(writer, record);
+    writer.endArray();
+    return writer.text();
 }
 
 /// For record readers: these throw a DecodingError.

@@ -37,6 +37,7 @@ void ButtonRow::setRootView(const RootView& content) {
 ShortcutButtonView* ButtonRow::makeButton(const ShortcutButton& shortcut, const RootView& content) {
     auto* button = new ShortcutButtonView(shortcut, this);
     button->setDragThreshold(content.dragThreshold);
+    button->setTitleWidthLimit(titleWidthLimit_);
     connect(button, &ShortcutButtonView::clicked, this, [button, execute = content.execute] {
         // A copy: the action may outlive the button.
         const ShortcutAction action = button->shortcut().action;
@@ -46,11 +47,17 @@ ShortcutButtonView* ButtonRow::makeButton(const ShortcutButton& shortcut, const 
     return button;
 }
 
-int ButtonRow::naturalHeight() const {
-    return buttons_.isEmpty() ? 0 : buttons_.first()->sizeHint().height();
+int ButtonRow::naturalWidth() const {
+    int width = menuButton_ ? menuButton_->sizeHint().width() + spacing : 0;
+    for (const ShortcutButtonView* button : buttons_)
+        width += button->naturalWidth() + spacing;
+    return std::max(width - spacing, 0);
 }
 
 void ButtonRow::setTitleWidthLimit(int limit) {
+    if (limit == titleWidthLimit_)
+        return;
+    titleWidthLimit_ = limit;
     for (ShortcutButtonView* button : std::as_const(buttons_))
         button->setTitleWidthLimit(limit);
     layOut();

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QWidget>
 #include <functional>
+#include <limits>
 #include <optional>
 
 namespace velmora {
@@ -37,9 +38,11 @@ public:
 
     /// The buttons in order.
     const QList<ShortcutButtonView*>& buttons() const { return buttons_; }
-    int naturalHeight() const;
+    /// Width in points with every title unshortened.
+    int naturalWidth() const;
 
-    /// Limits every title to that width in points and takes the width that results.
+    /// Limits every title, also later ones, to that width in points and takes the width that
+    /// results.
     void setTitleWidthLimit(int limit);
 
 protected:
@@ -52,6 +55,7 @@ private:
 
     MenuButton* menuButton_ = nullptr;
     QList<ShortcutButtonView*> buttons_;
+    int titleWidthLimit_ = std::numeric_limits<int>::max();
 };
 
 } // namespace velmora

@@ -1,8 +1,11 @@
 #include "overlay/DraggableNSScrollView.h"
 
-#include <QEvent>
+#include <QCursor>
+#include <QGuiApplication>
 #include <QLineF>
+#include <QMouseEvent>
 #include <QWheelEvent>
+#include <QWindow>
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -52,7 +55,10 @@ void DraggableNSScrollView::handleMouseEvent(const LocalMouseEvent& event) {
     if (!event.window || event.window != window())
         return;
     const QPointF point = mapFrom(event.window, event.locationInWindow);
-    if (!QRectF(rect()).contains(point))
+    // QRectF::contains() counts the far edges in; the point right of the last one is outside.
+    const bool inside =
+        point.x() >= 0 && point.x() < width() && point.y() >= 0 && point.y() < height();
+    if (!inside)
         return;
     switch (event.kind) {
     case Kind::leftMouseDown:
@@ -117,7 +123,17 @@ void DraggableNSScrollView::scrollToPoint(double x) {
     if (position == documentView_->pos())
         return;
     documentView_->move(position);
-    Q_EMIT scrolled();
+    refreshHover();
+}
+
+void DraggableNSScrollView::refreshHover() {
+    if (!underMouse() || QGuiApplication::mouseButtons() != Qt::NoButton)
+        return;
+    const QPointF global = QCursor::pos();
+    const QPointF local = window()->mapFromGlobal(global);
+    QMouseEvent rest(
+        QEvent::MouseMove, local, local, global, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window()->windowHandle(), &rest);
 }
 
 void DraggableNSScrollView::wheelEvent(QWheelEvent* event) {

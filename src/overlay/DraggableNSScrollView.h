@@ -4,6 +4,7 @@
 
 #include <QTimer>
 #include <QWidget>
+#include <optional>
 
 namespace velmora {
 
@@ -50,10 +51,6 @@ public:
     /// strip change nothing.
     void handleMouseEvent(const LocalMouseEvent& event);
 
-Q_SIGNALS:
-    /// The content now stands elsewhere.
-    void scrolled();
-
 protected:
     void wheelEvent(QWheelEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -62,6 +59,8 @@ protected:
 private:
     void setupEventMonitor();
     void scrollToPoint(double x);
+    /// Lets the views below a resting pointer know that the content moved under it.
+    void refreshHover();
 
     QTimer decelerationTimer_;
     double currentVelocity_ = 0;

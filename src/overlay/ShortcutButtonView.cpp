@@ -6,6 +6,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
+#include <array>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -103,14 +104,17 @@ void ShortcutButtonView::setTitleWidthLimit(int limit) {
     update();
 }
 
+int ShortcutButtonView::labelWidth(int titleWidth) const {
+    const int symbol = hasSymbol_ ? Symbols::sideLength(symbolFontSize) : 0;
+    const int spacing = hasSymbol_ && titleWidth > 0 ? labelSpacing : 0;
+    return symbol + spacing + titleWidth + 2 * horizontalPadding;
+}
+
 QSize ShortcutButtonView::sizeHint() const {
     static const int height = std::max(
         Symbols::sideLength(symbolFontSize),
         static_cast<int>(std::ceil(titleFont().metrics.height())));
-    const int symbol = hasSymbol_ ? Symbols::sideLength(symbolFontSize) : 0;
-    const int spacing = hasSymbol_ && shownTitleWidth() > 0 ? labelSpacing : 0;
-    return {
-        symbol + spacing + shownTitleWidth() + 2 * horizontalPadding, height + 2 * verticalPadding};
+    return {labelWidth(shownTitleWidth()), height + 2 * verticalPadding};
 }
 
 QString ShortcutButtonView::help() const {
@@ -138,7 +142,7 @@ void ShortcutButtonView::paintEvent(QPaintEvent*) {
     if (shownTitleWidth() == 0)
         return;
     const auto& [font, metrics] = titleFont();
-    const QString shown = titleWidth_ < shownTitleWidth() + 1 && titleWidth_ < maximumTitleWidth
+    const QString shown = titleWidth_ <= titleWidthLimit_ && titleWidth_ < maximumTitleWidth
                               ? title_
                               : metrics.elidedText(title_, Qt::ElideRight, shownTitleWidth());
     painter.setFont(font);

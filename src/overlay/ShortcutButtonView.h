@@ -21,6 +21,8 @@ public:
     /// Gives the title at most `limit` points of width; it ends in an ellipsis if it needs more.
     void setTitleWidthLimit(int limit);
 
+    /// Width in points that the label asks for with its title unshortened.
+    int naturalWidth() const { return labelWidth(titleWidth_); }
     /// The size that the label asks for. The height is the same for every button.
     QSize sizeHint() const override;
     QString help() const override;
@@ -30,6 +32,7 @@ protected:
 
 private:
     void measure();
+    int labelWidth(int titleWidth) const;
     int shownTitleWidth() const { return std::min(titleWidth_, titleWidthLimit_); }
 
     ShortcutButton shortcut_;

@@ -51,15 +51,10 @@ void StandardLayout::layOut() {
         for (const ShortcutButtonView* button : row->buttons())
             titles.append(button->titleWidth());
     }
-    constexpr int unlimited = std::numeric_limits<int>::max();
-    left_->setTitleWidthLimit(unlimited);
-    right_->setTitleWidthLimit(unlimited);
-    const int excess = taken + left_->width() + right_->width() - width();
-    if (excess > 0) {
-        const int limit = titleWidthLimit(titles, excess);
-        left_->setTitleWidthLimit(limit);
-        right_->setTitleWidthLimit(limit);
-    }
+    const int excess = taken + left_->naturalWidth() + right_->naturalWidth() - width();
+    const int limit = titleWidthLimit(titles, excess);
+    left_->setTitleWidthLimit(limit);
+    right_->setTitleWidthLimit(limit);
     menuButton_->setGeometry({QPoint(0, (height() - menu.height()) / 2), menu});
     left_->setGeometry(leftX, 0, left_->width(), height());
     const int rightX =

@@ -4,7 +4,6 @@ namespace velmora {
 
 class Accessibility;
 class Appearance;
-class EventTaps;
 class KeyboardEvents;
 class PanelWindows;
 class Screens;
@@ -17,7 +16,6 @@ class Workspace;
 struct Platform {
     Accessibility& accessibility;
     Appearance& appearance;
-    EventTaps& eventTaps;
     KeyboardEvents& keyboardEvents;
     PanelWindows& panelWindows;
     Screens& screens;

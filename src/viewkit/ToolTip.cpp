@@ -1,6 +1,9 @@
 #include "viewkit/ToolTip.h"
 
+#include "viewkit/Theme.h"
+
 #include <QHelpEvent>
+#include <QPalette>
 #include <QTextBoundaryFinder>
 #include <QToolTip>
 
@@ -28,6 +31,19 @@ qsizetype lineEnd(const QString& text, qsizetype start) {
     return limit;
 }
 
+/// The look of all tool tips, which belongs to the application: set on the first one.
+void applyLook() {
+    static const bool once [[maybe_unused]] = [] {
+        QPalette palette = QToolTip::palette();
+        palette.setColor(QPalette::ToolTipBase, QColor(0x26, 0x26, 0x2b));
+        // Also the colour of the frame; the text brings its own.
+        palette.setColor(QPalette::ToolTipText, QColor(0x55, 0x55, 0x5d));
+        QToolTip::setPalette(palette);
+        QToolTip::setFont(Theme::systemFont(12));
+        return true;
+    }();
+}
+
 } // namespace
 
 QString markup(const QString& text) {
@@ -42,10 +58,11 @@ QString markup(const QString& text) {
             start = end;
         } while (start < paragraph.size());
     }
-    return u"<p style='white-space:pre'>"_s + lines.join(u"<br/>"_s) + u"</p>"_s;
+    return u"<p style='white-space:pre; color:#f2f2f4'>"_s + lines.join(u"<br/>"_s) + u"</p>"_s;
 }
 
 void show(const QHelpEvent& event, QWidget* view, const QString& text) {
+    applyLook();
     if (text.isEmpty())
         QToolTip::hideText();
     else

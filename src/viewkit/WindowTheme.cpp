@@ -92,7 +92,7 @@ QPushButton:hover { background: @hover; }
 QPushButton:pressed { background: @pressed; }
 QPushButton:default { background: @accent; color: white; border-color: @accent; }
 QPushButton:default:hover { background: @accenthover; border-color: @accenthover; }
-QPushButton:focus { border: 2px solid @accent; padding: 3px 13px; }
+QPushButton:focus { border: 2px solid @accent; padding: 3px 13px; outline: none; }
 QPushButton:default:focus { border: 2px solid @text; }
 QPushButton:disabled { color: @secondary; background: @window; }
 QLineEdit {

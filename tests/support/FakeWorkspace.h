@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QList>
+#include <utility>
 
 namespace velmora::test {
 

@@ -57,6 +57,11 @@ TestDisplay::~TestDisplay() {
     }
 }
 
+void TestDisplay::kill() {
+    processes_.front()->kill();
+    processes_.front()->waitForFinished();
+}
+
 QProcess& TestDisplay::start(const QString& program, const QStringList& arguments) {
     auto process = std::make_unique<QProcess>();
     process->start(program, arguments);

@@ -17,6 +17,9 @@ public:
     /// ":<number>".
     const QString& name() const { return name_; }
 
+    /// Ends the server at once, with its clients still connected.
+    void kill();
+
     /// Starts `program` on this display and ends it with the object; waits until it runs.
     QProcess& start(const QString& program, const QStringList& arguments = {});
 

@@ -23,7 +23,7 @@ QString whyUnusable(const QString& location) {
     const GioPointer<GKeyFile> file(g_key_file_new());
     GioError error;
     if (!g_key_file_load_from_file(
-            file.get(), QFile::encodeName(location).constData(), G_KEY_FILE_NONE, &error))
+            file.get(), QFile::encodeName(location).constData(), G_KEY_FILE_NONE, error.out()))
         return error.message();
     for (const char* key : {G_KEY_FILE_DESKTOP_KEY_TRY_EXEC, G_KEY_FILE_DESKTOP_KEY_EXEC}) {
         const GioPointer<gchar> command(
@@ -50,7 +50,7 @@ std::variant<Entry, QString> inTerminal(const Entry& entry) {
     GioError error;
     if (!g_key_file_load_from_file(
             file.get(), g_desktop_app_info_get_filename(entry.get()), G_KEY_FILE_KEEP_TRANSLATIONS,
-            &error))
+            error.out()))
         return error.message();
     const char* command = g_app_info_get_commandline(G_APP_INFO(entry.get()));
     g_key_file_set_string(
@@ -65,13 +65,13 @@ std::variant<Entry, QString> inTerminal(const Entry& entry) {
 }
 
 /// Asks the session bus to activate the application and waits for the answer.
-Failure activate(const Entry& entry, GList* urls, GAppLaunchContext* launchContext) {
+Failure activate(const Entry& entry, GList* urls) {
     // Answers arrive through the thread's default context, whoever runs the main thread's.
     const GioPointer<GMainContext> mainContext(g_main_context_new());
     g_main_context_push_thread_default(mainContext.get());
     GioPointer<GAsyncResult> result;
     g_app_info_launch_uris_async(
-        G_APP_INFO(entry.get()), urls, launchContext, nullptr,
+        G_APP_INFO(entry.get()), urls, nullptr, nullptr,
         [](GObject*, GAsyncResult* arrived, gpointer target) {
             static_cast<GioPointer<GAsyncResult>*>(target)->reset(
                 G_ASYNC_RESULT(g_object_ref(arrived)));
@@ -81,24 +81,19 @@ Failure activate(const Entry& entry, GList* urls, GAppLaunchContext* launchConte
         g_main_context_iteration(mainContext.get(), TRUE);
     g_main_context_pop_thread_default(mainContext.get());
     GioError error;
-    if (!g_app_info_launch_uris_finish(G_APP_INFO(entry.get()), result.get(), &error))
+    if (!g_app_info_launch_uris_finish(G_APP_INFO(entry.get()), result.get(), error.out()))
         return error.message();
     return std::nullopt;
 }
 
 Failure launch(Entry entry, GList* urls) {
-    const GioPointer<GAppLaunchContext> context(g_app_launch_context_new());
-    // Whoever started us has used these up; they must not count for what we start.
-    for (const char* variable : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
-        g_app_launch_context_unsetenv(context.get(), variable);
-
     // GIO connects by itself; we hold the shared connection meanwhile so that losing the bus does
     // not end this process, as it would by default.
     const GioPointer<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
     if (bus)
         g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     if (bus && g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE))
-        return activate(entry, urls, context.get());
+        return activate(entry, urls);
 
     if (g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_TERMINAL)) {
         auto changed = inTerminal(entry);
@@ -106,12 +101,17 @@ Failure launch(Entry entry, GList* urls) {
             return *failure;
         entry = std::get<Entry>(std::move(changed));
     }
+    const GioPointer<GAppLaunchContext> context(g_app_launch_context_new());
+    // Whoever started us has used these up; they must not count for what we start.
+    for (const char* variable : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
+        g_app_launch_context_unsetenv(context.get(), variable);
+
     // Without G_SPAWN_DO_NOT_REAP_CHILD the application becomes init's child: nothing to wait for.
     // In a session of its own, Ctrl+C in the terminal that we were started from does not reach it.
     GioError error;
     const bool started = g_desktop_app_info_launch_uris_as_manager(
         entry.get(), urls, context.get(), G_SPAWN_SEARCH_PATH, [](gpointer) { ::setsid(); },
-        nullptr, nullptr, nullptr, &error);
+        nullptr, nullptr, nullptr, error.out());
     if (!started)
         return error.message();
     return std::nullopt;
@@ -129,7 +129,7 @@ Failure openApplication(const QString& location) {
 Failure openUrl(const QByteArray& url) {
     const GioPointer<GFile> file(g_file_new_for_uri(url.constData()));
     GioError error;
-    GAppInfo* handler = g_file_query_default_handler(file.get(), nullptr, &error);
+    GAppInfo* handler = g_file_query_default_handler(file.get(), nullptr, error.out());
     if (!handler)
         return error.message();
     QByteArray text = url;

@@ -103,6 +103,8 @@ struct FreedesktopAppearance::Sources {
 
     void askPortal(GDBusConnection* connection) {
         bus = connection;
+        // Losing the bus must not end the program.
+        g_dbus_connection_set_exit_on_close(bus, false);
         subscription = g_dbus_connection_signal_subscribe(
             bus, portalName, portalInterface, "SettingChanged", portalPath, portalNamespace,
             G_DBUS_SIGNAL_FLAGS_NONE,

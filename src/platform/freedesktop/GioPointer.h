@@ -19,7 +19,6 @@ struct GioDelete {
     void operator()(GFile* object) const { g_object_unref(object); }
     void operator()(GKeyFile* file) const { g_key_file_free(file); }
     void operator()(GMainContext* context) const { g_main_context_unref(context); }
-    void operator()(GError* error) const { g_error_free(error); }
     void operator()(gchar* text) const { g_free(text); }
     void operator()(gchar** texts) const { g_strfreev(texts); }
 };
@@ -27,11 +26,11 @@ struct GioDelete {
 template<typename T>
 using GioPointer = std::unique_ptr<T, GioDelete>;
 
-/// Receives the error of one GLib call: pass it as the GError** argument.
+/// Receives the error of one GLib call: pass out() as its last argument.
 class GioError {
 public:
     ~GioError() { g_clear_error(&error_); }
-    GError** operator&() { return &error_; } // NOLINT: stands for the GError* inside
+    GError** out() { return &error_; }
     QString message() const { return error_ ? QString::fromUtf8(error_->message) : QString(); }
 
 private:

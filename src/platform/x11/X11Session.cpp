@@ -1,1 +1,70 @@
 #include "platform/x11/X11Session.h"
+
+#include "platform/x11/X11Accessibility.h"
+#include "platform/x11/X11Keyboard.h"
+#include "platform/x11/X11KeyboardEvents.h"
+#include "platform/x11/X11PanelWindows.h"
+#include "platform/x11/X11Screens.h"
+#include "platform/x11/X11WindowActivation.h"
+
+namespace velmora {
+
+/// Built when first asked for, by when the application object is there.
+struct X11Session::Services {
+    explicit Services(X11Connection& connection)
+        : accessibility(connection),
+          keyboard(connection),
+          keyboardEvents(connection, keyboard),
+          panelWindows(connection),
+          screens(connection),
+          windowActivation(connection) {
+        connection.startDelivery();
+    }
+
+    X11Accessibility accessibility;
+    X11Keyboard keyboard;
+    X11KeyboardEvents keyboardEvents;
+    X11PanelWindows panelWindows;
+    X11Screens screens;
+    X11WindowActivation windowActivation;
+};
+
+std::unique_ptr<X11Session> X11Session::create() {
+    auto connection = X11Connection::open();
+    if (!connection)
+        return nullptr;
+    return std::unique_ptr<X11Session>(new X11Session(std::move(connection)));
+}
+
+X11Session::X11Session(std::unique_ptr<X11Connection> connection)
+    : connection_(std::move(connection)) {}
+
+X11Session::~X11Session() = default;
+
+X11Session::Services& X11Session::services() {
+    if (!services_)
+        services_ = std::make_unique<Services>(*connection_);
+    return *services_;
+}
+
+Accessibility& X11Session::accessibility() {
+    return services().accessibility;
+}
+
+KeyboardEvents& X11Session::keyboardEvents() {
+    return services().keyboardEvents;
+}
+
+PanelWindows& X11Session::panelWindows() {
+    return services().panelWindows;
+}
+
+Screens& X11Session::screens() {
+    return services().screens;
+}
+
+WindowActivation& X11Session::windowActivation() {
+    return services().windowActivation;
+}
+
+} // namespace velmora

@@ -10,6 +10,7 @@ class KeyboardEvents;
 class PanelWindows;
 class Screens;
 class WindowActivation;
+class X11Connection;
 
 /// The services of an X11 session over one connection of their own beside Qt's.
 class X11Session {
@@ -27,9 +28,12 @@ public:
     WindowActivation& windowActivation();
 
 private:
-    X11Session();
+    explicit X11Session(std::unique_ptr<X11Connection> connection);
 
     struct Services;
+    Services& services();
+
+    std::unique_ptr<X11Connection> connection_;
     std::unique_ptr<Services> services_;
 };
 

@@ -5,13 +5,26 @@
 #include "support/LogCapture.h"
 #include "support/TestDisplay.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
 using velmora::test::waitFor;
 
 namespace {
+
+/// Gives every text of the catalogue a form with one placeholder.
+class Catalogue : public QTranslator {
+public:
+    Catalogue() { QCoreApplication::installTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* id, const char*, int) const override {
+        return QString::fromLatin1(id) + u" %1"_s;
+    }
+};
 
 class ActionEngineTest : public testing::Test {
 protected:
@@ -25,6 +38,7 @@ protected:
         return lines.sliced(1);
     }
 
+    Catalogue catalogue;
     test::LogCapture log;
     test::FakeWorkspace workspace;
     test::FakeKeyboardEvents keyboard;

@@ -1,6 +1,7 @@
 #include "actions/KeyNames.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;

@@ -176,13 +176,12 @@ TEST(StoredFormTest, WritesTheAgreedMembers) {
             QList{ShortcutButton(u"t"_s, u"i"_s, action, ButtonAlignment::right, id)});
     };
     const auto expected = [](const QByteArray& action) {
-        return R"([{"action":)" + action + R"(,"alignment":"right","icon":"i",)" + goodId +
-               R"(,"title":"t"}])";
+        return QByteArray("[{") + goodId + R"(,"title":"t","icon":"i","action":)" + action +
+               R"(,"alignment":"right"}])";
     };
-    // Members come out in alphabetical order, which readers do not rely on.
     EXPECT_EQ(
         written(LaunchApp{u"n"_s, u"b"_s}),
-        expected(R"({"launchApp":{"bundleId":"b","name":"n"}})"));
+        expected(R"({"launchApp":{"name":"n","bundleId":"b"}})"));
     EXPECT_EQ(written(LaunchApp{u"n"_s, std::nullopt}), expected(R"({"launchApp":{"name":"n"}})"));
     EXPECT_EQ(written(OpenUrl{u"u"_s}), expected(R"({"openURL":{"url":"u"}})"));
     EXPECT_EQ(
@@ -190,7 +189,7 @@ TEST(StoredFormTest, WritesTheAgreedMembers) {
         expected(R"({"executeShellCommand":{"command":"c"}})"));
     EXPECT_EQ(
         written(PressKeyCombo{{}, u"k"_s}),
-        expected(R"({"pressKeyCombo":{"key":"k","modifiers":[]}})"));
+        expected(R"({"pressKeyCombo":{"modifiers":[],"key":"k"}})"));
 }
 
 TEST(StoredFormTest, HostileTextsEndInAClearError) {

@@ -1,0 +1,64 @@
+#include "platform/x11/LateSwitcher.h"
+
+#include "platform/x11/SyntheticKeys.h"
+
+#include <algorithm>
+
+namespace velmora {
+
+LateSwitcher::LateSwitcher(X11Connection& connection)
+    : connection_(connection), window_(xcb_generate_id(connection)) {
+    xcb_create_window(
+        connection_, 0, window_, connection_.root(), 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+        XCB_COPY_FROM_PARENT, 0, nullptr);
+    timer_.setInterval(100);
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { check(); });
+}
+
+LateSwitcher::~LateSwitcher() {
+    xcb_destroy_window(connection_, window_);
+}
+
+xcb_grab_keyboard_cookie_t LateSwitcher::askWhetherHeld() {
+    return xcb_grab_keyboard(
+        connection_, false, window_, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+}
+
+bool LateSwitcher::isHeld(xcb_grab_keyboard_cookie_t question) {
+    // The server looks for another holder first, and then at the window, which refuses.
+    const XcbOwned<xcb_grab_keyboard_reply_t> reply(
+        xcb_grab_keyboard_reply(connection_, question, nullptr));
+    return reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
+}
+
+void LateSwitcher::watch(std::vector<xcb_keycode_t> modifiers, xcb_keycode_t inert) {
+    modifiers_ = std::move(modifiers);
+    inert_ = inert;
+    checksLeft_ = 5;
+    timer_.start();
+}
+
+void LateSwitcher::check() {
+    if (--checksLeft_ == 0)
+        timer_.stop();
+    const auto question = askWhetherHeld();
+    const auto keymapCookie = xcb_query_keymap(connection_);
+    const bool held = isHeld(question);
+    const XcbOwned<xcb_query_keymap_reply_t> keymap(
+        xcb_query_keymap_reply(connection_, keymapCookie, nullptr));
+    // While the user holds a key, its release is still to come.
+    if (!held || !keymap || std::ranges::any_of(keymap->keys, [](uint8_t byte) { return byte; }))
+        return;
+    timer_.stop();
+    for (const xcb_keycode_t keycode : modifiers_)
+        SyntheticKeys::press(connection_, keycode);
+    if (inert_ != 0) {
+        SyntheticKeys::press(connection_, inert_);
+        SyntheticKeys::release(connection_, inert_);
+    }
+    for (const xcb_keycode_t keycode : modifiers_)
+        SyntheticKeys::release(connection_, keycode);
+    xcb_flush(connection_);
+}
+
+} // namespace velmora

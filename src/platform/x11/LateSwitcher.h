@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/x11/X11Connection.h"
+
+#include <QTimer>
+#include <vector>
+
+namespace velmora {
+
+/// A window manager answers Alt+Tab with a switcher that holds the keyboard until the modifier is
+/// let go. One that is slow to answer does so after that has happened, and would hold the keyboard
+/// for ever. This lets go of the modifiers once more then.
+class LateSwitcher {
+public:
+    explicit LateSwitcher(X11Connection& connection);
+    ~LateSwitcher();
+    LateSwitcher(const LateSwitcher&) = delete;
+    LateSwitcher& operator=(const LateSwitcher&) = delete;
+
+    /// Asks, without side effect, whether another client holds the keyboard at this point of the
+    /// connection's requests.
+    xcb_grab_keyboard_cookie_t askWhetherHeld();
+    /// Waits for the answer.
+    bool isHeld(xcb_grab_keyboard_cookie_t question);
+
+    /// Watches for half a second for a client that takes the keyboard although no key is down, and
+    /// then taps `modifiers`, with the key `inert` (0 for none) inside: a modifier tapped alone
+    /// means something of its own to some window managers.
+    void watch(std::vector<xcb_keycode_t> modifiers, xcb_keycode_t inert);
+
+private:
+    void check();
+
+    X11Connection& connection_;
+    xcb_window_t window_; ///< never mapped: it cannot get a grab
+    std::vector<xcb_keycode_t> modifiers_;
+    xcb_keycode_t inert_ = 0;
+    int checksLeft_ = 0;
+    QTimer timer_;
+};
+
+} // namespace velmora

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/x11/KeyPositions.h"
+#include "platform/x11/ModifierMap.h"
+#include "platform/x11/X11Connection.h"
+
+#include <QTimer>
+
+namespace velmora {
+
+/// The session's core keyboard as it is now: read at the start, and again when its map changes or
+/// another keyboard takes over. Main thread; follows changes while the connection delivers events.
+class X11Keyboard {
+public:
+    explicit X11Keyboard(X11Connection& connection);
+
+    /// Whether the server has the XKB extension; without it no key is known.
+    bool isAvailable() const { return available_; }
+
+    const KeyPositions& positions() const { return positions_; }
+    const ModifierMap& modifiers() const { return modifiers_; }
+
+private:
+    void read();
+
+    X11Connection& connection_;
+    bool available_ = false;
+    KeyPositions positions_;
+    ModifierMap modifiers_;
+    QTimer changed_;
+    X11Connection::Subscription subscription_;
+};
+
+} // namespace velmora

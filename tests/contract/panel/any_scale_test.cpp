@@ -1,0 +1,130 @@
+// Runs at several scales: the panel covers the strip to the pixel, and insets turn into points.
+
+#include "contract/panel/PanelProbe.h"
+#include "contract/panel/SessionTest.h"
+#include "platform/x11/X11Accessibility.h"
+#include "platform/x11/X11PanelWindows.h"
+#include "platform/x11/X11Screens.h"
+
+#include <QGuiApplication>
+#include <cmath>
+#include <xcb/randr.h>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora::test {
+namespace {
+
+class AnyScale : public DisplayTest {
+protected:
+    ~AnyScale() override {
+        xcb_delete_property(client, client.root(), client.atom("_SAFE_AREA_INSETS"));
+        client.sync();
+    }
+
+    double top() const { return screens.mainScreen()->safeAreaInsets.top() * ratio; }
+
+    void setRootInsets(const std::vector<uint32_t>& values) {
+        xcb_change_property(
+            client, XCB_PROP_MODE_REPLACE, client.root(), client.atom("_SAFE_AREA_INSETS"),
+            XCB_ATOM_CARDINAL, 32, static_cast<uint32_t>(values.size()), values.data());
+        client.sync();
+    }
+
+    const double ratio = qGuiApp->devicePixelRatio();
+    QByteArray machine;
+    X11Screens screens{*connection, [this] { return machine; }};
+};
+
+TEST_F(AnyScale, FrameIsExactInPoints) {
+    const auto screen = screens.mainScreen();
+    ASSERT_TRUE(screen);
+    EXPECT_EQ(screen->frame.topLeft(), QPointF(0, 0));
+    EXPECT_DOUBLE_EQ(screen->frame.width(), displaySize.width() / ratio);
+    EXPECT_DOUBLE_EQ(screen->frame.height(), displaySize.height() / ratio);
+    EXPECT_EQ(screen->safeAreaInsets, QMarginsF());
+}
+
+TEST_F(AnyScale, OutputPropertyComesBeforeTheRootWindows) {
+    setRootInsets({32, 0, 0, 0});
+    EXPECT_DOUBLE_EQ(top(), 32);
+    setRootInsets({32, 0, 0});
+    EXPECT_EQ(top(), 0);
+    setRootInsets({5000, 0, 0, 0});
+    EXPECT_EQ(top(), 0);
+    setRootInsets({32, 0, 0, 0});
+
+    const Reply<xcb_randr_get_screen_resources_current_reply_t> resources(
+        xcb_randr_get_screen_resources_current_reply(
+            client, xcb_randr_get_screen_resources_current(client, client.root()), nullptr));
+    ASSERT_GT(resources->num_outputs, 0);
+    const xcb_randr_output_t output =
+        xcb_randr_get_screen_resources_current_outputs(resources.get())[0];
+    const xcb_atom_t property = client.atom("safe_area_insets");
+    const uint32_t insets[] = {48, 0, 0, 0};
+    xcb_randr_change_output_property(
+        client, output, property, XCB_ATOM_CARDINAL, 32, XCB_PROP_MODE_REPLACE, 4, insets);
+    client.sync();
+    EXPECT_DOUBLE_EQ(top(), 48);
+    xcb_randr_delete_output_property(client, output, property);
+    client.sync();
+    EXPECT_DOUBLE_EQ(top(), 32);
+}
+
+TEST_F(AnyScale, StripIsCoveredToThePixel) {
+    X11PanelWindows windows(*connection);
+    const QRectF frame = screens.mainScreen()->frame;
+    for (const int pixels : {36, 32}) {
+        const double height = pixels / ratio;
+        const auto panel =
+            windows.create({0, frame.height() - height, frame.width(), height}, 0x8080);
+        panel->setOpaque(false);
+        panel->orderFrontRegardless();
+        panel->setContentView(new GradientView);
+
+        const auto uncovered = [&] {
+            int count = 0;
+            const QImage strip = screenshot(client, QRect(0, 0, displaySize.width(), pixels));
+            for (int y = 0; y < strip.height(); ++y) {
+                for (int x = 0; x < strip.width(); ++x)
+                    count += !isGradient(strip.pixel(x, y));
+            }
+            return count;
+        };
+        EXPECT_TRUE(waitFor([&] { return uncovered() == 0; })) << uncovered();
+        // Less than a point more than asked for.
+        const int below = pixels + static_cast<int>(std::ceil(ratio));
+        EXPECT_FALSE(isGradient(pixel(client, {displaySize.width() / 2, below})));
+        const QString folder = qEnvironmentVariable("VELMORA_TEST_SCREENSHOTS");
+        if (!folder.isEmpty())
+            saveScreenshot(client, u"%1/strip-%2-%3.png"_s.arg(folder).arg(ratio).arg(pixels));
+    }
+}
+
+TEST_F(AnyScale, ScreenOfNoWidthShowsNothing) {
+    const auto mappedWindows = [this] {
+        const auto all = topWindows(client);
+        return std::count_if(all.begin(), all.end(), [](const auto& top) { return top.mapped; });
+    };
+    const auto before = mappedWindows();
+    X11PanelWindows windows(*connection);
+    const auto panel = windows.create({0, -24, 0, 24}, 0x8080);
+    panel->setIgnoresMouseEvents(false);
+    panel->orderFrontRegardless();
+    panel->setContentView(new GradientView);
+    panel->setAlphaValue(0);
+    panel->setAlphaValue(1);
+    QCoreApplication::processEvents();
+    client.sync();
+    EXPECT_EQ(mappedWindows(), before);
+}
+
+TEST_F(AnyScale, SessionOfThisServerIsTrusted) {
+    EXPECT_TRUE(X11Accessibility(*connection).isProcessTrusted());
+    qputenv("XDG_SESSION_TYPE", "wayland");
+    EXPECT_FALSE(X11Accessibility(*connection).isProcessTrusted());
+    qunsetenv("XDG_SESSION_TYPE");
+}
+
+} // namespace
+} // namespace velmora::test

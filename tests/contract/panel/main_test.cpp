@@ -1,0 +1,94 @@
+// The program's display and application, and the sessions that its tests run in.
+
+#include "contract/panel/SessionTest.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora::test {
+
+TestDisplay* display = nullptr;
+
+std::vector<const char*> sessions() {
+    std::vector<const char*> names{"none", "openbox", "xfwm4"};
+    if (!QStandardPaths::findExecutable(u"picom"_s).isEmpty())
+        names.push_back("openbox+picom");
+    return names;
+}
+
+namespace {
+
+/// A session bus for as long as the object lives: xfwm4 keeps its settings behind one.
+class SessionBus {
+public:
+    SessionBus() {
+        QProcess& bus = display->start(u"dbus-daemon"_s, {u"--session"_s, u"--print-address"_s});
+        EXPECT_TRUE(waitFor([&] {
+            bus.waitForReadyRead(10);
+            return bus.canReadLine();
+        }));
+        qputenv("DBUS_SESSION_BUS_ADDRESS", bus.readLine().trimmed());
+    }
+    ~SessionBus() { qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); }
+};
+
+QProcess& startXfwm4() {
+    const SessionBus bus;
+    // Strict about the focus: not its default, but the harder case.
+    display->run(
+        u"xfconf-query"_s, {u"-c"_s, u"xfwm4"_s, u"-p"_s, u"/general/prevent_focus_stealing"_s,
+                            u"-n"_s, u"-t"_s, u"bool"_s, u"-s"_s, u"true"_s});
+    return display->startWindowManager(u"xfwm4"_s);
+}
+
+} // namespace
+
+SessionTest::SessionTest() {
+    for (const QString& name : QString::fromLatin1(GetParam()).split(u'+')) {
+        if (name == u"none")
+            continue;
+        if (managers_.empty()) {
+            managers_.push_back(
+                name == u"xfwm4" ? &startXfwm4() : &display->startWindowManager(name));
+            continue;
+        }
+        managers_.push_back(&display->start(name, {u"--backend"_s, u"xrender"_s}));
+        const xcb_atom_t selection = client.atom("_NET_WM_CM_S0");
+        EXPECT_TRUE(waitFor([&] {
+            const Reply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
+                client, xcb_get_selection_owner(client, selection), nullptr));
+            return owner && owner->owner != XCB_NONE;
+        }));
+    }
+}
+
+SessionTest::~SessionTest() {
+    for (auto manager = managers_.rbegin(); manager != managers_.rend(); ++manager) {
+        (*manager)->terminate();
+        (*manager)->waitForFinished();
+    }
+    xcb_delete_property(client, client.root(), client.atom("_NET_SUPPORTING_WM_CHECK"));
+    EXPECT_TRUE(waitFor([this] { return !hasWindowManager(client); }));
+}
+
+} // namespace velmora::test
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QTemporaryDir home;
+    qputenv("HOME", home.path().toUtf8());
+    qputenv("XDG_CONFIG_HOME", (home.path() + u"/config"_s).toUtf8());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    qunsetenv("XDG_SESSION_TYPE");
+    qunsetenv("WAYLAND_DISPLAY");
+    velmora::test::TestDisplay display(
+        velmora::test::displaySize.width(), velmora::test::displaySize.height());
+    velmora::test::display = &display;
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,145 @@
+#include "session/Session.h"
+
+#include "model/StoredForm.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcessEnvironment>
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora::test {
+
+Session::Session(const Options& options) : options_(options) {
+    display_ = std::make_unique<TestDisplay>(options.screen.width(), options.screen.height());
+    if (!options.windowManager.isEmpty())
+        display_->startWindowManager(options.windowManager);
+    if (options.topInset > 0)
+        display_->run(
+            u"xprop"_s, {u"-root"_s, u"-f"_s, u"_SAFE_AREA_INSETS"_s, u"32c"_s, u"-set"_s,
+                         u"_SAFE_AREA_INSETS"_s, u"%1, 0, 0, 0"_s.arg(options.topInset)});
+    client_ = std::make_unique<XClient>();
+    driver_ = std::make_unique<Driver>();
+    QDir().mkpath(QFileInfo(settingsFile()).path());
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    if (options.agreed)
+        settings.setValue(u"hasAgreedToToS_v1"_s, true);
+    if (options.shortcuts)
+        settings.setValue(u"SavedShortcuts"_s, encodedList(*options.shortcuts));
+}
+
+Session::~Session() {
+    if (program_ && program_->state() != QProcess::NotRunning) {
+        program_->terminate();
+        if (!program_->waitForFinished(5000))
+            program_->kill();
+        program_->waitForFinished(5000);
+    }
+    driver_.reset();
+    client_.reset();
+}
+
+void Session::launch() {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"HOME"_s, home());
+    environment.insert(u"XDG_CONFIG_HOME"_s, home() + u"/.config"_s);
+    environment.insert(u"XDG_DATA_HOME"_s, home() + u"/.local/share"_s);
+    environment.insert(u"XDG_CACHE_HOME"_s, home() + u"/.cache"_s);
+    // Without it Qt starts a bus daemon that outlives the program.
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"disabled:"_s);
+    // Qt warns when it is missing.
+    environment.insert(u"XDG_RUNTIME_DIR"_s, home());
+    environment.insert(u"LANG"_s, u"C.UTF-8"_s);
+    for (const QString& name :
+         {u"QT_QPA_PLATFORM"_s, u"LC_ALL"_s, u"WAYLAND_DISPLAY"_s, u"XDG_SESSION_TYPE"_s})
+        environment.remove(name);
+    for (const QString& setting : options_.environment) {
+        const qsizetype equals = setting.indexOf(u'=');
+        if (equals < 0)
+            environment.remove(setting);
+        else
+            environment.insert(setting.left(equals), setting.mid(equals + 1));
+    }
+    program_ = std::make_unique<QProcess>();
+    program_->setProcessEnvironment(environment);
+    program_->start(QStringLiteral(VELMORA_PROGRAM), QStringList{});
+    if (!program_->waitForStarted())
+        qFatal("the program did not start");
+    if (options_.agreed && !waitFor([this] { return bar().has_value(); }))
+        qFatal("the bar did not come up:\n%s", qPrintable(log().join(u'\n')));
+}
+
+QString Session::settingsFile() const {
+    return home() + u"/.config/velmora/velmora.conf"_s;
+}
+
+QStringList Session::log() {
+    if (program_)
+        standardError_ += program_->readAllStandardError();
+    QStringList lines = QString::fromUtf8(standardError_).split(u'\n');
+    for (QString& line : lines) {
+        const qsizetype stampEnd = line.indexOf(u"] "_s);
+        if (stampEnd > 0 && line.contains(u" velmora["_s))
+            line = line.mid(stampEnd + 2);
+    }
+    if (!lines.isEmpty() && lines.last().isEmpty())
+        lines.removeLast();
+    return lines;
+}
+
+bool Session::waitForLog(const QString& line, int milliseconds) {
+    return waitFor([&] { return log().contains(line); }, milliseconds);
+}
+
+std::optional<TopWindow> Session::bar() {
+    // The program's override-redirect window that is as wide as the screen.
+    for (const TopWindow& window : topWindows(*client_)) {
+        if (window.overrideRedirect && window.mapped &&
+            window.geometry.width() == options_.screen.width())
+            return window;
+    }
+    return std::nullopt;
+}
+
+std::vector<QRect> Session::buttons() {
+    const auto window = bar();
+    if (!window)
+        return {};
+    const QImage image = screenshot(*client_, window->geometry);
+    const int row = image.height() / 2;
+    // A button's background is this much lighter than the bar above it.
+    constexpr int contrast = 12;
+    std::vector<QRect> found;
+    int start = -1;
+    for (int x = 0; x <= image.width(); ++x) {
+        const bool inside =
+            x < image.width() && qGray(image.pixel(x, row)) - qGray(image.pixel(x, 0)) >= contrast;
+        if (inside && start < 0)
+            start = x;
+        if (!inside && start >= 0) {
+            // Narrower things are the menu glyph's strokes.
+            if (x - start >= 20)
+                found.emplace_back(start, row - 4, x - start, 8);
+            start = -1;
+        }
+    }
+    return found;
+}
+
+QString Session::writeFile(const QString& relativePath, const QByteArray& text) {
+    const QString path = home() + u'/' + relativePath;
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        qFatal("cannot write %s", qPrintable(path));
+    return path;
+}
+
+QByteArray Session::readFile(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace velmora::test

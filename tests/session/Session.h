@@ -1,0 +1,70 @@
+#pragma once
+
+#include "model/ShortcutButton.h"
+#include "support/Desktop.h"
+#include "support/Driver.h"
+#include "support/TestDisplay.h"
+#include "support/Witness.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+#include <memory>
+#include <optional>
+
+namespace velmora::test {
+
+/// A desktop session with a home of its own, in which the real program runs.
+class Session {
+public:
+    struct Options {
+        QSize screen{1512, 982}; ///< pixels
+        int topInset = 0;        ///< the cut-out's height in pixels; 0 for none
+        QString windowManager = QStringLiteral("openbox");   ///< empty for none
+        bool agreed = true;                                  ///< the terms were agreed to before
+        std::optional<QList<ShortcutButton>> shortcuts = {}; ///< stored before the start
+        QStringList environment = {}; ///< more "NAME=value", or "NAME" to take one away
+    };
+    explicit Session(const Options& options);
+    Session() : Session(Options{}) {}
+    ~Session();
+
+    /// Starts the program; with `agreed`, waits until the bar is painted.
+    void launch();
+    QProcess& program() { return *program_; }
+
+    /// The home folder, and the file of the stored settings in it.
+    QString home() const { return home_.path(); }
+    QString settingsFile() const;
+
+    /// The log so far: standard error, without the time stamps.
+    QStringList log();
+    /// Waits for a log line that equals `line`.
+    bool waitForLog(const QString& line, int milliseconds = 10000);
+
+    /// The bar's window on the screen, if it is there.
+    std::optional<TopWindow> bar();
+
+    /// The places of the bar's buttons on the screen, left to right, found by their lighter
+    /// background. Pixels; without the menu button, which has none.
+    std::vector<QRect> buttons();
+
+    XClient& client() { return *client_; }
+    Driver& driver() { return *driver_; }
+    TestDisplay& display() { return *display_; }
+
+    /// Writes `text` into a file below home, making its folder.
+    QString writeFile(const QString& relativePath, const QByteArray& text);
+    /// The content of a file, empty when it is not there.
+    static QByteArray readFile(const QString& path);
+
+private:
+    Options options_;
+    QTemporaryDir home_;
+    std::unique_ptr<TestDisplay> display_;
+    std::unique_ptr<XClient> client_;
+    std::unique_ptr<Driver> driver_;
+    std::unique_ptr<QProcess> program_;
+    QByteArray standardError_;
+};
+
+} // namespace velmora::test

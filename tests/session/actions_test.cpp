@@ -1,0 +1,138 @@
+// Clicks on the bar's buttons: what each kind of action does, and what the log says about it.
+
+#include "session/Session.h"
+
+#include <QElapsedTimer>
+#include <QRegularExpression>
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using namespace velmora::test;
+using testing::ElementsAre;
+
+namespace {
+
+ShortcutButton button(const QString& title, const ShortcutAction& action) {
+    return {title, u"star"_s, action, ButtonAlignment::left};
+}
+
+/// A session whose bar has these buttons.
+Session::Options withButtons(const QList<ShortcutButton>& buttons) {
+    return {.topInset = 32, .shortcuts = buttons};
+}
+
+void click(Session& session, const QRect& place) {
+    session.driver().move(place.center().x(), place.center().y());
+    session.driver().click();
+}
+
+TEST(Actions, FourKindsRunByClickAndNeverTakeTheFocus) {
+    Session session(withButtons({
+        button(u"Launch"_s, LaunchApp{u"Marker"_s, u"velmora-marker"_s}),
+        button(u"Web"_s, OpenUrl{u"https://velmora.invalid/page?a=b"_s}),
+        button(u"Shell"_s, ExecuteShellCommand{u"print -u2 err; print out; exit 3"_s}),
+        button(u"Keys"_s, PressKeyCombo{{u"Command"_s, u"Shift"_s}, u"n"_s}),
+    }));
+    const QString launched = session.home() + u"/launched"_s;
+    const QString opened = session.home() + u"/opened"_s;
+    const auto entry = [](const QString& name, const QString& command, const QString& more) {
+        return u"[Desktop Entry]\nType=Application\nName=%1\nExec=%2\n%3\n"_s
+            .arg(name, command, more)
+            .toUtf8();
+    };
+    session.writeFile(
+        u".local/share/applications/velmora-marker.desktop"_s,
+        entry(u"Marker"_s, u"sh -c \"echo yes > '%1'\""_s.arg(launched), {}));
+    session.writeFile(
+        u".local/share/applications/velmora-browser.desktop"_s,
+        entry(
+            u"Browser"_s, u"sh -c \"echo \\\\\"\\\\$1\\\\\" > '%1'\" sh %u"_s.arg(opened),
+            u"MimeType=x-scheme-handler/https;"_s));
+    session.writeFile(
+        u".config/mimeapps.list"_s,
+        "[Default Applications]\nx-scheme-handler/https=velmora-browser.desktop\n");
+
+    Witness witness;
+    session.launch();
+    EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
+    const auto places = session.buttons();
+    ASSERT_EQ(places.size(), 4u);
+    const xcb_window_t active = activeWindow(session.client());
+    const xcb_window_t focus = inputFocus(session.client());
+    witness.clear();
+
+    click(session, places[0]);
+    EXPECT_TRUE(session.waitForLog(u"✅ Launched Marker via bundle ID"_s));
+    EXPECT_TRUE(waitFor([&] { return Session::readFile(launched) == "yes\n"; }));
+
+    click(session, places[1]);
+    EXPECT_TRUE(session.waitForLog(u"✅ Opened URL: https://velmora.invalid/page?a=b"_s));
+    EXPECT_TRUE(waitFor([&] {
+        return Session::readFile(opened) == "https://velmora.invalid/page?a=b\n";
+    })) << Session::readFile(opened).constData();
+
+    click(session, places[2]);
+    EXPECT_TRUE(session.waitForLog(u"✅ Executed shell command"_s));
+
+    EXPECT_TRUE(witness.keys().empty());
+    click(session, places[3]);
+    EXPECT_TRUE(session.waitForLog(u"✅ Key combo sent successfully"_s));
+    EXPECT_TRUE(waitFor([&] { return witness.keys().size() >= 2; }));
+    const auto keys = witness.keys();
+    ASSERT_EQ(keys.size(), 2u);
+    const uint8_t keyN = session.driver().keycode("AB06");
+    constexpr uint16_t exactly = XCB_MOD_MASK_4 | XCB_MOD_MASK_SHIFT;
+    EXPECT_EQ(keys[0].type, XCB_KEY_PRESS);
+    EXPECT_EQ(keys[0].detail, keyN);
+    EXPECT_EQ(keys[0].state, exactly);
+    EXPECT_EQ(keys[1].type, XCB_KEY_RELEASE);
+    EXPECT_EQ(keys[1].detail, keyN);
+    EXPECT_EQ(keys[1].state, exactly);
+
+    EXPECT_EQ(activeWindow(session.client()), active);
+    EXPECT_EQ(inputFocus(session.client()), focus);
+    EXPECT_THAT(
+        session.log(),
+        ElementsAre(
+            u"🚀 Executing action: Launch Marker"_s, u"✅ Launched Marker via bundle ID"_s,
+            u"🚀 Executing action: Open https://velmora.invalid/page?a=b"_s,
+            u"✅ Opened URL: https://velmora.invalid/page?a=b"_s,
+            u"🚀 Executing action: Run print -u2 err; print out; exit 3"_s,
+            // The text ends with its own line break.
+            u"📝 Command output: err"_s, u"out"_s, u""_s, u"✅ Executed shell command"_s,
+            u"🚀 Executing action: Press Command+Shift+n"_s, u"⌨️ Pressing: Command+Shift+n"_s,
+            u"📍 Key code: 0x2d"_s, u"  + Command"_s, u"  + Shift"_s,
+            u"📤 Posting key down event..."_s, u"📤 Posting key up event..."_s,
+            u"✅ Key combo sent successfully"_s));
+}
+
+TEST(Actions, ShellCommandsNeverHoldTheBar) {
+    Session session(withButtons({
+        button(u"Endless"_s, ExecuteShellCommand{u"sleep 20"_s}),
+        button(u"Silent"_s, ExecuteShellCommand{u"exec >&- 2>&-; sleep 20"_s}),
+        button(u"Background"_s, ExecuteShellCommand{u"sleep 60 & echo hi"_s}),
+        button(u"Million"_s, ExecuteShellCommand{u"seq 1000000"_s}),
+    }));
+    session.launch();
+    EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
+    const auto places = session.buttons();
+    ASSERT_EQ(places.size(), 4u);
+    for (const QRect& place : places)
+        click(session, place);
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_TRUE(waitFor([&] { return session.log().contains(u"📝 Command output: hi"_s); }, 8000));
+    EXPECT_TRUE(waitFor([&] { return session.log().contains(u"1000000"_s); }, 60000));
+    const QStringList log = session.log();
+    const qsizetype first = log.indexOf(u"📝 Command output: 1"_s);
+    ASSERT_GE(first, 0);
+    ASSERT_GT(log.size(), first + 1000000);
+    EXPECT_EQ(log[first + 499999], u"500000"_s);
+    EXPECT_EQ(log[first + 999999], u"1000000"_s);
+    EXPECT_EQ(log[first + 1000000], u""_s);
+    // Two have ended, two run on.
+    EXPECT_TRUE(waitFor([&] { return session.log().count(u"✅ Executed shell command"_s) == 2; }));
+}
+
+} // namespace

@@ -1,0 +1,108 @@
+// The bar on the screen: where it is, what happens when the session is not as it should be.
+
+#include "session/Session.h"
+
+#include <QSettings>
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using namespace velmora::test;
+
+namespace {
+
+TEST(Bar, LiesOverTheMenuBarStrip) {
+    struct Case {
+        int topInset;
+        QStringList environment;
+        QSize screen;
+        QRect bar;
+    };
+    const Case cases[] = {
+        {0, {}, {1512, 982}, {0, 0, 1512, 24}},
+        {32, {}, {1512, 982}, {0, 0, 1512, 32}},
+        {64, {u"QT_SCALE_FACTOR=2"_s}, {3024, 1964}, {0, 0, 3024, 64}},
+        {48, {u"QT_SCALE_FACTOR=1.5"_s}, {2268, 1473}, {0, 0, 2268, 48}},
+    };
+    for (const Case& given : cases) {
+        SCOPED_TRACE(given.bar.height());
+        Session session(
+            {.screen = given.screen, .topInset = given.topInset, .environment = given.environment});
+        session.launch();
+        ASSERT_TRUE(session.bar());
+        EXPECT_EQ(session.bar()->geometry, given.bar);
+        EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
+    }
+}
+
+TEST(Bar, ComesUpWithDefaultsWhateverIsStored) {
+    const QByteArray button =
+        R"({"id":"E621E1F8-C36C-495A-93FC-0C247A3E6E5F","title":"T","icon":"star",)"
+        R"("action":{"openURL":{"url":"u"}},"alignment":"left"})";
+    const QByteArray cases[] = {
+        "",
+        "[" + button,
+        "{}",
+        "[" + button + ",{\"id\":1}]",
+        "\xff\xfe\x00garbage",
+        QByteArray(100000, '['),
+        "[1e400]",
+    };
+    for (const QByteArray& stored : cases) {
+        SCOPED_TRACE(stored.left(40).toStdString());
+        Session session;
+        {
+            QSettings settings(session.settingsFile(), QSettings::IniFormat);
+            settings.setValue(u"SavedShortcuts"_s, stored);
+        }
+        session.launch();
+        EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
+        const QSettings settings(session.settingsFile(), QSettings::IniFormat);
+        EXPECT_TRUE(settings.value(u"SavedShortcuts"_s).toByteArray().contains("Safari"));
+        EXPECT_EQ(settings.value(u"SavedShortcuts.unreadable"_s).toByteArray(), stored);
+    }
+}
+
+TEST(Bar, ShowsTitlesOfAnyShape) {
+    const QString titles[] = {
+        u"🙂👩‍👩‍👧‍👦"_s,
+        u"שלום עולם"_s,
+        u"two\nlines\r\n"_s,
+        QString(10000, u'W'),
+        u""_s,
+        u"<b>&amp;%1"_s};
+    QList<ShortcutButton> buttons;
+    for (const QString& title : titles)
+        buttons.append({title, u"no.such.symbol"_s, OpenUrl{title}});
+    buttons.prepend({u"First"_s, u"star"_s, OpenUrl{u"x"_s}});
+    Session session({.topInset = 32, .shortcuts = buttons});
+    session.launch();
+    EXPECT_TRUE(waitFor([&] { return !session.buttons().empty(); }));
+    EXPECT_EQ(session.program().state(), QProcess::Running);
+}
+
+TEST(Bar, EndsQuietlyWithTheServer) {
+    Session session;
+    session.launch();
+    // Killed, not asked: what a crash of the server looks like.
+    session.display().kill();
+    EXPECT_TRUE(waitFor([&] { return session.program().state() == QProcess::NotRunning; }));
+    EXPECT_EQ(session.program().exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(session.log().size(), 1) << session.log().join(u'\n').toStdString();
+}
+
+TEST(Bar, SaysSoWithoutADisplay) {
+    Session session({.agreed = false, .environment = {u"DISPLAY"_s}});
+    session.launch();
+    EXPECT_TRUE(waitFor([&] { return session.program().state() == QProcess::NotRunning; }));
+    EXPECT_EQ(session.program().exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(session.log().size(), 1);
+}
+
+TEST(Bar, ComesUpWithoutHomeOrBus) {
+    Session session({.environment = {u"HOME"_s, u"DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"_s}});
+    session.launch();
+    EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
+}
+
+} // namespace

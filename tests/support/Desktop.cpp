@@ -1,0 +1,142 @@
+#include "support/Desktop.h"
+
+#include "support/TestDisplay.h"
+
+#include <algorithm>
+#define explicit explicitModifiers // a member's name in this header
+#include <xcb/xkb.h>
+#undef explicit
+
+using namespace Qt::StringLiterals;
+
+namespace velmora::test {
+namespace {
+
+xcb_window_t windowProperty(const XClient& client, const QByteArray& name) {
+    const auto values = client.property(client.root(), name);
+    return values.empty() ? 0 : values.front();
+}
+
+void useXkb(const XClient& client) {
+    Reply<xcb_xkb_use_extension_reply_t>(
+        xcb_xkb_use_extension_reply(client, xcb_xkb_use_extension(client, 1, 0), nullptr));
+}
+
+} // namespace
+
+bool hasWindowManager(const XClient& client) {
+    return windowProperty(client, "_NET_SUPPORTING_WM_CHECK") != 0;
+}
+
+xcb_window_t activeWindow(const XClient& client) {
+    return windowProperty(client, "_NET_ACTIVE_WINDOW");
+}
+
+xcb_window_t inputFocus(const XClient& client) {
+    const Reply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(client, xcb_get_input_focus(client), nullptr));
+    return reply->focus;
+}
+
+std::vector<TopWindow> topWindows(const XClient& client) {
+    const Reply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(client, xcb_query_tree(client, client.root()), nullptr));
+    const xcb_window_t* children = xcb_query_tree_children(tree.get());
+    std::vector<TopWindow> windows;
+    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
+        const xcb_window_t id = children[i];
+        const Reply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+            client, xcb_get_window_attributes(client, id), nullptr));
+        const Reply<xcb_get_geometry_reply_t> geometry(
+            xcb_get_geometry_reply(client, xcb_get_geometry(client, id), nullptr));
+        if (!attributes || !geometry)
+            continue; // gone meanwhile
+        const auto processId = client.property(id, "_NET_WM_PID");
+        windows.push_back(
+            {id, QRect(geometry->x, geometry->y, geometry->width, geometry->height),
+             attributes->map_state == XCB_MAP_STATE_VIEWABLE, attributes->override_redirect != 0,
+             processId.empty() ? 0 : processId.front()});
+    }
+    return windows;
+}
+
+QImage screenshot(const XClient& client, const QRect& area) {
+    const QRect whole(0, 0, client.screen().width_in_pixels, client.screen().height_in_pixels);
+    const QRect wanted = area.isEmpty() ? whole : area & whole;
+    const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(
+        client,
+        xcb_get_image(
+            client, XCB_IMAGE_FORMAT_Z_PIXMAP, client.root(), static_cast<int16_t>(wanted.x()),
+            static_cast<int16_t>(wanted.y()), static_cast<uint16_t>(wanted.width()),
+            static_cast<uint16_t>(wanted.height()), ~0u),
+        nullptr));
+    if (!reply)
+        return {};
+    // Depth 24 comes as four bytes a pixel, blue first.
+    return QImage(
+               xcb_get_image_data(reply.get()), wanted.width(), wanted.height(),
+               QImage::Format_RGB32)
+        .copy();
+}
+
+bool saveScreenshot(const XClient& client, const QString& path) {
+    return screenshot(client).save(path, "PNG");
+}
+
+QRgb pixel(const XClient& client, const QPoint& place) {
+    const QImage image = screenshot(client, QRect(place, QSize(1, 1)));
+    return image.isNull() ? 0 : image.pixel(0, 0);
+}
+
+void setLayout(const QString& layout) {
+    // setxkbmap returns when the server has taken the new map.
+    QProcess process;
+    process.start(u"setxkbmap"_s, {u"-layout"_s, layout, u"-option"_s, u""_s});
+    if (!process.waitForFinished() || process.exitCode() != 0)
+        qFatal("setxkbmap %s failed", qPrintable(layout));
+}
+
+void lockGroup(const XClient& client, uint8_t group) {
+    useXkb(client);
+    xcb_xkb_latch_lock_state(client, XCB_XKB_ID_USE_CORE_KBD, 0, 0, true, group, 0, false, 0);
+    client.sync();
+}
+
+void lockModifiers(const XClient& client, uint8_t mask, bool on) {
+    useXkb(client);
+    xcb_xkb_latch_lock_state(
+        client, XCB_XKB_ID_USE_CORE_KBD, mask, on ? mask : 0, false, 0, 0, false, 0);
+    client.sync();
+}
+
+KeyboardState keyboardState(const XClient& client) {
+    useXkb(client);
+    const Reply<xcb_xkb_get_state_reply_t> reply(xcb_xkb_get_state_reply(
+        client, xcb_xkb_get_state(client, XCB_XKB_ID_USE_CORE_KBD), nullptr));
+    return {reply->mods, reply->baseMods, reply->latchedMods, reply->lockedMods, reply->group};
+}
+
+bool isAnythingDown(const XClient& client) {
+    const Reply<xcb_query_keymap_reply_t> keys(
+        xcb_query_keymap_reply(client, xcb_query_keymap(client), nullptr));
+    const Reply<xcb_query_pointer_reply_t> pointer(
+        xcb_query_pointer_reply(client, xcb_query_pointer(client, client.root()), nullptr));
+    return (pointer->mask & 0x1f00) != 0 ||
+           std::ranges::any_of(keys->keys, [](uint8_t byte) { return byte != 0; });
+}
+
+bool isKeyboardFree(const XClient& client) {
+    const Reply<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(
+        client,
+        xcb_grab_keyboard(
+            client, false, client.root(), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC,
+            XCB_GRAB_MODE_ASYNC),
+        nullptr));
+    const bool free = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+    if (free)
+        xcb_ungrab_keyboard(client, XCB_CURRENT_TIME);
+    client.sync();
+    return free;
+}
+
+} // namespace velmora::test

@@ -1,0 +1,140 @@
+#include "support/Witness.h"
+
+#include "support/Desktop.h"
+#include "support/TestDisplay.h"
+
+#include <algorithm>
+#include <xkbcommon/xkbcommon-x11.h>
+
+namespace velmora::test {
+
+Witness::Witness(const QRect& geometry) : window_(xcb_generate_id(client_)) {
+    // As toolkits do; other clients would see the group as a modifier.
+    xkb_x11_setup_xkb_extension(
+        client_, XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
+        XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, nullptr, nullptr);
+    const uint32_t values[] = {
+        client_.screen().white_pixel,
+        XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE | XCB_EVENT_MASK_BUTTON_PRESS |
+            XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_FOCUS_CHANGE};
+    xcb_create_window(
+        client_, XCB_COPY_FROM_PARENT, window_, client_.root(), static_cast<int16_t>(geometry.x()),
+        static_cast<int16_t>(geometry.y()), static_cast<uint16_t>(geometry.width()),
+        static_cast<uint16_t>(geometry.height()), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+        XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values);
+    xcb_change_property(
+        client_, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 7,
+        "witness");
+    // ICCCM hints: the user chose this place; the window wants the keyboard focus.
+    const uint32_t sizeHints[18] = {1};
+    xcb_change_property(
+        client_, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_NORMAL_HINTS, XCB_ATOM_WM_SIZE_HINTS,
+        32, 18, sizeHints);
+    const uint32_t hints[9] = {1, 1};
+    xcb_change_property(
+        client_, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_HINTS, XCB_ATOM_WM_HINTS, 32, 9,
+        hints);
+    const auto takeFocus = [this] {
+        return inputFocus(client_) == window_ ||
+               (xcb_set_input_focus(client_, XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME),
+                inputFocus(client_) == window_);
+    };
+    // A window manager that is still starting may overlook the window: mapped again until it holds.
+    const bool focused = waitFor([&] {
+        xcb_unmap_window(client_, window_);
+        xcb_map_window(client_, window_);
+        client_.sync();
+        return waitFor(takeFocus, 500);
+    });
+    if (!focused)
+        qFatal("the witness window does not get the focus");
+    // A window manager that focuses new windows late would add a focus event of its own.
+    waitFor([this] { return !hasWindowManager(client_) || activeWindow(client_) == window_; });
+    clear();
+}
+
+Witness::~Witness() {
+    xcb_destroy_window(client_, window_);
+    client_.sync();
+}
+
+void Witness::record(const xcb_generic_event_t& event) {
+    const uint8_t type = event.response_type & 0x7f;
+    const auto now = std::chrono::steady_clock::now();
+    if (type >= XCB_KEY_PRESS && type <= XCB_BUTTON_RELEASE) {
+        // Keys and buttons have one layout.
+        const auto& input = reinterpret_cast<const xcb_key_press_event_t&>(event);
+        events_.push_back({type, input.detail, input.state, now});
+    } else if (type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT) {
+        const auto& focus = reinterpret_cast<const xcb_focus_in_event_t&>(event);
+        events_.push_back({type, focus.detail, focus.mode, now});
+    }
+}
+
+void Witness::readArrived() {
+    while (const Reply<xcb_generic_event_t> event{xcb_poll_for_event(client_)})
+        record(*event);
+}
+
+const std::vector<Witness::Event>& Witness::events() {
+    client_.sync();
+    readArrived();
+    return events_;
+}
+
+std::vector<Witness::Event> Witness::keys() {
+    std::vector<Event> keys;
+    std::ranges::copy_if(events(), std::back_inserter(keys), [](const Event& event) {
+        return event.type == XCB_KEY_PRESS || event.type == XCB_KEY_RELEASE;
+    });
+    return keys;
+}
+
+bool Witness::waitForInput(size_t count) {
+    return waitFor([this, count] {
+        readArrived();
+        return std::ranges::count_if(events_, [](const Event& event) {
+                   return event.type <= XCB_BUTTON_RELEASE;
+               }) >= static_cast<std::ptrdiff_t>(count);
+    });
+}
+
+Witness::Event Witness::next() {
+    const size_t before = events_.size();
+    while (events_.size() == before) {
+        const Reply<xcb_generic_event_t> event(xcb_wait_for_event(client_));
+        if (!event)
+            qFatal("the display went away");
+        record(*event);
+    }
+    return events_.back();
+}
+
+void Witness::clear() {
+    events();
+    events_.clear();
+}
+
+QString Witness::typed() {
+    xkb_context* context = xkb_context_new(XKB_CONTEXT_NO_FLAGS);
+    xkb_keymap* keymap = xkb_x11_keymap_new_from_device(
+        context, client_, xkb_x11_get_core_keyboard_device_id(client_),
+        XKB_KEYMAP_COMPILE_NO_FLAGS);
+    xkb_state* state = xkb_state_new(keymap);
+    QString text;
+    for (const Event& event : keys()) {
+        if (event.type != XCB_KEY_PRESS)
+            continue;
+        // The eight real modifiers come first in the map; the group is in bits 13 and 14.
+        xkb_state_update_mask(state, event.state & 0xff, 0, 0, 0, 0, (event.state >> 13) & 3);
+        char utf8[16] = {};
+        xkb_state_key_get_utf8(state, event.detail, utf8, sizeof utf8);
+        text += QString::fromUtf8(utf8);
+    }
+    xkb_state_unref(state);
+    xkb_keymap_unref(keymap);
+    xkb_context_unref(context);
+    return text;
+}
+
+} // namespace velmora::test

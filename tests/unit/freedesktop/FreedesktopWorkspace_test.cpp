@@ -1,0 +1,241 @@
+#include "platform/freedesktop/FreedesktopWorkspace.h"
+
+#include "platform/freedesktop/ApplicationRoles.h"
+
+#include "ApplicationsFolder.h"
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusConnection>
+#include <QUrl>
+#include <QVariantMap>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using velmora::test::waitFor;
+
+namespace {
+
+// Before the application object, which may make GLib remember them: none of this machine's entries.
+const bool isolated = qputenv("XDG_DATA_DIRS", "/nonexistent") &&
+                      qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+
+class FreedesktopWorkspaceTest : public testing::Test {
+protected:
+    using Location = std::optional<QString>;
+
+    /// Opens the application and waits for the completion: nothing, or the error.
+    Location open(const QString& location) {
+        std::optional<Location> outcome;
+        workspace.openApplication(
+            location, OpenConfiguration{}, [&](const Location& error) { outcome = error; });
+        EXPECT_FALSE(outcome) << "completions come in a later turn";
+        EXPECT_TRUE(waitFor([&] { return outcome.has_value(); }));
+        return outcome.value_or(u"no completion"_s);
+    }
+
+    /// GIO watches its folders beside this thread, so a change shows a moment later.
+    bool becomes(const QString& identifier, const Location& location) {
+        return waitFor([&] { return workspace.applicationLocation(identifier) == location; });
+    }
+
+    test::ApplicationsFolder folder;
+    FreedesktopWorkspace workspace;
+};
+
+} // namespace
+
+TEST_F(FreedesktopWorkspaceTest, FindsEntriesByIdentifier) {
+    const QString plain = folder.add(u"editor"_s);
+    const QString reversed = folder.add(u"org.example.Editor"_s);
+    folder.add(u"gone"_s, {u"Exec=/nonexistent/program"_s});
+    folder.add(u"deleted"_s, {u"Hidden=true"_s, u"Exec="_s + folder.program()});
+    ASSERT_TRUE(becomes(u"org.example.Editor"_s, reversed));
+    const struct {
+        QString identifier;
+        Location location;
+    } cases[] = {
+        {u"editor"_s, plain},
+        {u"editor.desktop"_s, plain},
+        {u"org.example.Editor.desktop"_s, reversed},
+        {u"Editor"_s, {}},
+        {u"org.example.editor"_s, {}},
+        {u"gone"_s, {}},
+        {u"deleted"_s, {}},
+        {QString(), {}},
+        {u"../applications/editor"_s, {}},
+        {u"com.apple.App Store"_s, {}},
+    };
+    for (const auto& [identifier, location] : cases) {
+        EXPECT_EQ(workspace.applicationLocation(identifier), location) << qPrintable(identifier);
+        EXPECT_EQ(
+            workspace.applicationLocations(identifier).value(0), location.value_or(QString()));
+    }
+    // Installed and removed while the program runs.
+    EXPECT_TRUE(becomes(u"late"_s, {}));
+    const QString late = folder.add(u"late"_s);
+    EXPECT_TRUE(becomes(u"late"_s, late));
+    QFile::remove(late);
+    EXPECT_TRUE(becomes(u"late"_s, {}));
+}
+
+TEST_F(FreedesktopWorkspaceTest, FindsWhatPlaysAWellKnownApplication) {
+    const QString browser = folder.add(u"browser"_s);
+    const QString other = folder.add(u"other"_s);
+    const QString chromium = folder.add(u"chromium"_s);
+    folder.setDefault(u"x-scheme-handler/https"_s, u"browser"_s);
+    EXPECT_TRUE(becomes(u"com.apple.Safari"_s, browser));
+    EXPECT_EQ(workspace.applicationLocation(u"com.apple.safari"_s), std::nullopt);
+    EXPECT_TRUE(becomes(u"com.google.Chrome"_s, chromium));
+
+    // The user chooses another browser.
+    folder.setDefault(u"x-scheme-handler/https"_s, u"other"_s);
+    EXPECT_TRUE(becomes(u"com.apple.Safari"_s, other));
+    folder.setDefault(u"inode/directory"_s, u"other"_s);
+    EXPECT_TRUE(becomes(u"com.apple.finder"_s, other));
+
+    // An entry of that very identifier comes first.
+    const QString own = folder.add(u"com.google.Chrome"_s);
+    EXPECT_TRUE(becomes(u"com.google.Chrome"_s, own));
+    EXPECT_EQ(workspace.applicationLocations(u"com.google.Chrome"_s), (QStringList{own, chromium}));
+}
+
+TEST_F(FreedesktopWorkspaceTest, StartsTheProgramAsItsEntrySays) {
+    const QString location = folder.add(
+        u"app"_s, {u"Icon=icon"_s, u"Path=%1"_s.arg(folder.file(QString())),
+                   u"Exec=env VIA=%% %1 \"two words\" %f %U %i"_s.arg(folder.program())});
+    EXPECT_EQ(open(location), std::nullopt);
+    QStringList report = folder.nextReport();
+    EXPECT_NE(report.takeLast(), u"session %1"_s.arg(::getsid(0))) << "shares our session";
+    EXPECT_EQ(
+        report, (QStringList{
+                    u"arg two words"_s, u"arg --icon"_s, u"arg icon"_s,
+                    u"cwd "_s + QDir(folder.file(QString())).canonicalPath(), u"via %"_s}));
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "it is a child of ours";
+}
+
+TEST_F(FreedesktopWorkspaceTest, RunsTerminalProgramsInTheTerminalEmulator) {
+    const QByteArray path = qgetenv("PATH");
+    const QString tools = folder.file(u"bin"_s);
+    QDir().mkpath(tools);
+    const QString location =
+        folder.add(u"top"_s, {u"Terminal=true"_s, u"Exec=%1 -x"_s.arg(folder.program())});
+    qputenv("PATH", tools.toUtf8());
+    EXPECT_EQ(open(location), u"No terminal emulator is installed"_s);
+
+    const QString terminal = tools + u"/x-terminal-emulator"_s;
+    folder.write(
+        terminal, u"#!/bin/sh\nPATH=/usr/bin:/bin VIA=$1; export PATH VIA; shift; exec \"$@\"\n"_s);
+    QFile::setPermissions(terminal, QFile::ReadOwner | QFile::ExeOwner);
+    EXPECT_EQ(open(location), std::nullopt);
+    const QStringList report = folder.nextReport();
+    EXPECT_EQ(report.value(0), u"arg -x"_s);
+    EXPECT_TRUE(report.contains(u"via -e"_s));
+    qputenv("PATH", path);
+}
+
+TEST_F(FreedesktopWorkspaceTest, SaysWhyAnApplicationDoesNotStart) {
+    folder.write(folder.file(u"data"_s), u"not a program"_s);
+    const struct {
+        QString location, error;
+    } cases[] = {
+        {folder.path(u"missing"_s), u"No such file or directory"_s},
+        {folder.path({}), u"is a folder, not a desktop entry"_s},
+        {folder.file(u"data"_s), u"Key file contains line"_s},
+        {folder.add(u"a"_s, {u"Exec=/nonexistent/program --new"_s}),
+         u"The program “/nonexistent/program” does not exist or is not executable"_s},
+        {folder.add(u"b"_s, {u"Exec="_s + folder.file(u"data"_s)}),
+         u"data” does not exist or is not"_s},
+        {folder.add(u"c"_s, {u"Exec=true"_s, u"TryExec=/nonexistent/probe"_s}),
+         u"nonexistent/probe"_s},
+        {folder.add(u"d"_s, {u"Comment=No Exec"_s}), u"Exec"_s},
+    };
+    for (const auto& [location, error] : cases)
+        EXPECT_TRUE(open(location).value_or(QString()).contains(error))
+            << qPrintable(location + u": "_s + open(location).value_or(u"started"_s));
+}
+
+TEST_F(FreedesktopWorkspaceTest, OpensUrlsWithTheDefaultHandler) {
+    folder.add(u"handler"_s, {u"Exec=%1 %u"_s.arg(folder.program())});
+    const struct {
+        QString type;
+        QUrl url;
+    } cases[] = {
+        {u"x-scheme-handler/https"_s, QUrl(u"https://example.org/ä?q=a%20b"_s)},
+        {u"x-scheme-handler/mailto"_s, QUrl(u"mailto:someone@example.org"_s)},
+        {u"inode/directory"_s, QUrl::fromLocalFile(folder.file(QString()))},
+    };
+    for (const auto& [type, url] : cases) {
+        folder.setDefault(type, u"handler"_s);
+        ASSERT_TRUE(waitFor([&] {
+            workspace.openUrl(url);
+            return waitFor([&] { return QFile::exists(folder.report()); }, 500);
+        })) << qPrintable(type);
+        // Local files come as paths.
+        const QString argument =
+            url.isLocalFile() ? url.toLocalFile() : QString::fromLatin1(url.toEncoded());
+        EXPECT_EQ(folder.nextReport().value(0), u"arg "_s + argument);
+    }
+    EXPECT_FALSE(workspace.openUrl(QUrl(u"example.org"_s)));
+    EXPECT_TRUE(workspace.openUrl(QUrl(u"unknown-scheme:nothing"_s)));
+}
+
+namespace {
+
+/// An application that is on the bus already.
+class Application : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+public:
+    explicit Application(QObject* parent) : QDBusAbstractAdaptor(parent) {}
+    int activations = 0;
+public Q_SLOTS:
+    void Activate(const QVariantMap&) { ++activations; }
+};
+
+} // namespace
+
+TEST_F(FreedesktopWorkspaceTest, ActivatesOverTheBus) {
+    const QStringList lines{u"DBusActivatable=true"_s, u"Exec="_s + folder.program()};
+    const QString present = folder.add(u"org.example.Present"_s, lines);
+    const QString absent = folder.add(u"org.example.Absent"_s, lines);
+
+    EXPECT_EQ(open(present), std::nullopt) << "without a bus the command is run";
+    folder.nextReport();
+
+    QProcess bus;
+    bus.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
+    ASSERT_TRUE(bus.waitForReadyRead());
+    const QByteArray before = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    const QByteArray address = bus.readLine().trimmed();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    {
+        QDBusConnection connection =
+            QDBusConnection::connectToBus(QString::fromLatin1(address), u"application"_s);
+        QObject object;
+        auto* application = new Application(&object);
+        ASSERT_TRUE(connection.registerObject(u"/org/example/Present"_s, &object));
+        ASSERT_TRUE(connection.registerService(u"org.example.Present"_s));
+        EXPECT_EQ(open(present), std::nullopt);
+        EXPECT_EQ(application->activations, 1);
+        EXPECT_TRUE(open(absent).value_or(QString()).contains(u"org.example.Absent"_s));
+        EXPECT_FALSE(QFile::exists(folder.report())) << "the command was run as well";
+    }
+    QDBusConnection::disconnectFromBus(u"application"_s);
+
+    // The bus going away does not take us with it.
+    bus.terminate();
+    bus.waitForFinished();
+    EXPECT_EQ(open(present), std::nullopt);
+    folder.nextReport();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", before);
+}
+
+TEST(ApplicationRoles, KnowsExactIdentifiersOnly) {
+    EXPECT_FALSE(applicationRole(u"com.apple.iWork.Pages"_s).isEmpty());
+    for (const QString& unknown : {u"com.apple.iwork.pages"_s, QString(), u"com.apple.Säfari"_s})
+        EXPECT_TRUE(applicationRole(unknown).isEmpty());
+}
+
+#include "FreedesktopWorkspace_test.moc"

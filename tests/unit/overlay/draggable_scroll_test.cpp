@@ -1,0 +1,242 @@
+#include "overlay/DraggableNSScrollView.h"
+
+#include "overlay/ShortcutButtonView.h"
+#include "support/Mouse.h"
+#include "support/TestDisplay.h"
+
+#include <QWheelEvent>
+#include <gtest/gtest.h>
+
+namespace velmora {
+namespace {
+
+using Kind = LocalMouseEvent::Kind;
+
+/// A strip of 200 points at (50, 4) of a window, with content of 1000 points: offsets 0 to 800.
+class DraggableScrollTest : public testing::Test {
+protected:
+    DraggableScrollTest() {
+        window.resize(300, 32);
+        strip.setGeometry(50, 4, 200, 24);
+        setContentWidth(1000);
+        window.show();
+    }
+
+    void setContentWidth(int width) {
+        auto* content = new QWidget;
+        content->resize(width, 10);
+        strip.setDocumentView(content);
+    }
+
+    /// Hands the strip an event at a point of its own coordinates.
+    void send(Kind kind, QPointF at, QWidget* in = nullptr) {
+        strip.handleMouseEvent({kind, in ? in : &window, at + QPointF(50, 4)});
+    }
+    void press(double x) { send(Kind::leftMouseDown, {x, 10}); }
+    void drag(double x) { send(Kind::leftMouseDragged, {x, 10}); }
+    void release(double x) { send(Kind::leftMouseUp, {x, 10}); }
+
+    void coastToRest() {
+        for (int tick = 0; strip.isCoasting() && tick < 1000; ++tick)
+            strip.handleDecelerationStep();
+    }
+
+    QWidget window;
+    DraggableNSScrollView strip{&window};
+};
+
+TEST_F(DraggableScrollTest, StartsDraggingBeyondFivePointsInAnyDirection) {
+    press(100);
+    drag(95);
+    EXPECT_FALSE(strip.isDraggingMode()) << "exactly 5 points are not enough";
+    drag(93);
+    EXPECT_TRUE(strip.isDraggingMode());
+    EXPECT_EQ(strip.offset(), 2) << "movement before the threshold is never scrolled";
+    drag(97);
+    EXPECT_EQ(strip.offset(), 0) << "once dragging, coming back close to the press still scrolls";
+
+    press(100);
+    send(Kind::leftMouseDragged, {103, 14});
+    EXPECT_FALSE(strip.isDraggingMode()) << "3 across and 4 down are 5 points";
+    send(Kind::leftMouseDragged, {103, 14.1});
+    EXPECT_TRUE(strip.isDraggingMode());
+}
+
+TEST_F(DraggableScrollTest, ContentFollowsThePointerAndStopsAtTheEnds) {
+    strip.scrollBy(-300);
+    EXPECT_EQ(strip.offset(), 300);
+    EXPECT_EQ(strip.documentView()->pos(), QPoint(-300, 0));
+    strip.scrollBy(100.5);
+    EXPECT_EQ(strip.offset(), 199.5);
+    strip.scrollBy(-5000);
+    EXPECT_EQ(strip.offset(), 800);
+    strip.scrollBy(5000);
+    EXPECT_EQ(strip.offset(), 0);
+}
+
+TEST_F(DraggableScrollTest, CoastsWithTheMovementThatTheReleaseCarries) {
+    struct {
+        double lastDrag, release, velocity;
+    } const cases[] = {{80, 70, -10}, {80, 90, 10}, {80, 79, -1}, {80, 79.5, 0}, {80, 80, 0}};
+    for (const auto& [lastDrag, releasePoint, velocity] : cases) {
+        strip.stopDeceleration();
+        strip.scrollBy(5000);
+        strip.scrollBy(-400);
+        press(100);
+        drag(lastDrag);
+        release(releasePoint);
+        EXPECT_EQ(strip.isCoasting(), velocity != 0) << releasePoint;
+        EXPECT_EQ(strip.isCoasting() ? strip.currentVelocity() : 0, velocity);
+        EXPECT_FALSE(strip.isDraggingMode());
+        EXPECT_EQ(strip.offset(), 420) << "the release itself scrolls nothing";
+    }
+}
+
+TEST_F(DraggableScrollTest, AClickNeitherScrollsNorCoasts) {
+    press(100);
+    drag(103);
+    release(97);
+    EXPECT_EQ(strip.offset(), 0);
+    EXPECT_FALSE(strip.isCoasting());
+}
+
+TEST_F(DraggableScrollTest, SpeedDecaysByTwoPercentATick) {
+    strip.startDeceleration(-10);
+    strip.handleDecelerationStep();
+    EXPECT_DOUBLE_EQ(strip.currentVelocity(), -9.8);
+    EXPECT_DOUBLE_EQ(strip.offset(), 9.8);
+    strip.handleDecelerationStep();
+    EXPECT_DOUBLE_EQ(strip.offset(), 9.8 + 9.8 * 0.98);
+    coastToRest();
+    // 10 x 0.98^n stays at or above 0.5 up to n = 148; the tick that falls below does not move.
+    double travelled = 0;
+    double velocity = 10;
+    for (int tick = 1; tick <= 148; ++tick)
+        travelled += velocity *= 0.98;
+    EXPECT_NEAR(strip.offset(), travelled, 1e-9);
+    EXPECT_LT(std::abs(strip.currentVelocity()), 0.5);
+}
+
+TEST_F(DraggableScrollTest, CoastingStopsAtAnEnd) {
+    for (const double velocity : {-50.0, 50.0}) {
+        strip.startDeceleration(velocity);
+        coastToRest();
+        EXPECT_EQ(strip.offset(), velocity < 0 ? 800 : 0);
+        EXPECT_EQ(strip.currentVelocity(), 0);
+        EXPECT_FALSE(strip.isCoasting());
+    }
+}
+
+TEST_F(DraggableScrollTest, TheTimerTicksByItselfAndOnlyWhileCoasting) {
+    strip.startDeceleration(-1.2);
+    EXPECT_TRUE(test::waitFor([this] { return !strip.isCoasting(); }));
+    EXPECT_GT(strip.offset(), 30);
+}
+
+TEST_F(DraggableScrollTest, APressStopsCoasting) {
+    strip.startDeceleration(-10);
+    send(Kind::leftMouseDown, {-1, 10});
+    EXPECT_TRUE(strip.isCoasting()) << "a press beside the strip is none of its business";
+    press(10);
+    EXPECT_FALSE(strip.isCoasting());
+}
+
+TEST_F(DraggableScrollTest, EventsOfOtherWindowsOrOutsideChangeNothing) {
+    QWidget other;
+    press(100);
+    send(Kind::leftMouseDragged, {50, 10}, &other);
+    send(Kind::leftMouseDragged, {100, 24}); // the first row below the strip
+    send(Kind::leftMouseDragged, {200, 10}); // the first column right of it
+    strip.handleMouseEvent({Kind::leftMouseDragged, nullptr, {100, 10}});
+    EXPECT_FALSE(strip.isDraggingMode());
+    drag(80);
+    send(Kind::leftMouseUp, {70, 40});
+    EXPECT_TRUE(strip.isDraggingMode()) << "a release outside is not noticed";
+    EXPECT_FALSE(strip.isCoasting());
+    press(10);
+    EXPECT_FALSE(strip.isDraggingMode());
+}
+
+TEST_F(DraggableScrollTest, NarrowContentStaysWhereItIs) {
+    setContentWidth(120);
+    strip.scrollBy(-50);
+    EXPECT_EQ(strip.offset(), 0);
+    strip.startDeceleration(-20);
+    coastToRest();
+    EXPECT_EQ(strip.offset(), 0);
+    strip.setAlignment(DraggableNSScrollView::Alignment::trailing);
+    EXPECT_EQ(strip.documentView()->x(), 80);
+    EXPECT_EQ(strip.offset(), 0);
+}
+
+TEST_F(DraggableScrollTest, StaysWithinContentThatShrinks) {
+    strip.scrollBy(-800);
+    strip.documentView()->resize(500, 24);
+    EXPECT_EQ(strip.offset(), 300);
+    strip.resize(450, 24);
+    EXPECT_EQ(strip.offset(), 50);
+}
+
+TEST_F(DraggableScrollTest, ScrollsWithWheelAndTouchpad) {
+    const auto wheel = [this](QPoint pixels, QPoint angle) {
+        QWheelEvent event(
+            {10, 10}, {10, 10}, pixels, angle, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+            false);
+        QCoreApplication::sendEvent(&strip, &event);
+    };
+    wheel({}, {0, -120});
+    const double notch = strip.offset();
+    EXPECT_GT(notch, 0);
+    wheel({}, {-120, 0});
+    EXPECT_EQ(strip.offset(), 2 * notch);
+    wheel({-7, 3}, {-56, 24});
+    EXPECT_EQ(strip.offset(), 2 * notch + 7);
+    strip.startDeceleration(-10);
+    wheel({}, {0, 120});
+    EXPECT_FALSE(strip.isCoasting());
+}
+
+TEST_F(DraggableScrollTest, FollowsTheRealPointer) {
+    test::Mouse mouse(window);
+    mouse.press({150, 16});
+    for (int x = 140; x >= 100; x -= 10) {
+        mouse.now += 16;
+        mouse.drag({double(x), 16});
+    }
+    EXPECT_EQ(strip.offset(), 50);
+    mouse.now += 5;
+    mouse.drag({92, 16});
+    mouse.release({92, 16});
+    EXPECT_EQ(strip.offset(), 50);
+    EXPECT_EQ(strip.currentVelocity(), -8);
+    EXPECT_TRUE(strip.isCoasting());
+}
+
+TEST_F(DraggableScrollTest, HoverFollowsContentThatMovesUnderARestingPointer) {
+    const ShortcutButton record({}, {}, OpenUrl{});
+    ShortcutButtonView first(record, strip.documentView());
+    ShortcutButtonView second(record, strip.documentView());
+    first.setGeometry(0, 0, 100, 24);
+    second.setGeometry(100, 0, 100, 24);
+    first.show();
+    second.show();
+    const QPoint inWindow(100, 16);
+    QCursor::setPos(window.mapToGlobal(inWindow));
+    test::Mouse(window).hover(inWindow);
+    ASSERT_TRUE(first.isHovered());
+    strip.scrollBy(-100);
+    EXPECT_FALSE(first.isHovered());
+    EXPECT_TRUE(second.isHovered());
+}
+
+TEST_F(DraggableScrollTest, WithoutContentNothingHappens) {
+    DraggableNSScrollView empty;
+    empty.scrollBy(-10);
+    empty.startDeceleration(5);
+    empty.handleDecelerationStep();
+    EXPECT_EQ(empty.offset(), 0);
+    EXPECT_FALSE(empty.isCoasting());
+}
+
+} // namespace
+} // namespace velmora

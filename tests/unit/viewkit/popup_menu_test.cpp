@@ -1,0 +1,85 @@
+#include "viewkit/PopupMenu.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <gmock/gmock.h>
+#include <string>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class PopupMenuTest : public testing::Test {
+protected:
+    PopupMenuTest() {
+        menu.addItem(u"Toggle"_s, {}, record("toggle"));
+        menu.addSeparator();
+        menu.addItem(u"Settings"_s, Qt::CTRL | Qt::Key_Comma, record("settings"));
+        menu.addItem(u"Q&A"_s, Qt::CTRL | Qt::Key_Q, record("quit"));
+    }
+    ~PopupMenuTest() override { PopupMenu::setKeyFilter({}); }
+
+    std::function<void()> record(std::string name) {
+        return [this, name] {
+            EXPECT_FALSE(menu.isVisible()) << "the menu closes first";
+            chosen.push_back(name);
+        };
+    }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        QKeyEvent event(QEvent::KeyPress, key, modifiers);
+        QCoreApplication::sendEvent(&menu, &event);
+    }
+
+    PopupMenu menu;
+    std::vector<std::string> chosen;
+};
+
+TEST_F(PopupMenuTest, KeyEquivalentsActWhileItIsOpen) {
+    menu.popUp({100, 100});
+    press(Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_FALSE(menu.isVisible());
+    menu.popUp({100, 100});
+    press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_THAT(chosen, ElementsAre("settings", "quit"));
+}
+
+TEST_F(PopupMenuTest, OtherKeysChooseNothing) {
+    menu.popUp({100, 100});
+    press(Qt::Key_Q, Qt::NoModifier);
+    press(Qt::Key_Q, Qt::ControlModifier | Qt::ShiftModifier);
+    menu.actions()[2]->setEnabled(false);
+    press(Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_THAT(chosen, IsEmpty());
+    EXPECT_TRUE(menu.isVisible());
+    press(Qt::Key_Escape, Qt::NoModifier);
+    EXPECT_FALSE(menu.isVisible());
+}
+
+TEST_F(PopupMenuTest, PutsItsFirstItemAtThePoint) {
+    menu.popUp({200, 150});
+    const QRect first = menu.actionGeometry(menu.actions().first());
+    EXPECT_EQ(menu.mapToGlobal(first.topLeft()), QPoint(200, 150));
+}
+
+TEST_F(PopupMenuTest, ShowsTitlesLiterally) {
+    EXPECT_EQ(menu.actions()[3]->text(), u"Q&&A"_s);
+    EXPECT_TRUE(menu.actions()[3]->isShortcutVisibleInContextMenu());
+}
+
+TEST_F(PopupMenuTest, TheFilterSeesKeysFirst) {
+    PopupMenu::setKeyFilter([](const QKeyEvent& event) { return event.key() == Qt::Key_Q; });
+    menu.popUp({100, 100});
+    press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_THAT(chosen, IsEmpty());
+    press(Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_THAT(chosen, ElementsAre("settings"));
+}
+
+} // namespace
+} // namespace velmora

@@ -1,0 +1,93 @@
+#include "viewkit/Symbols.h"
+
+#include "viewkit/SymbolTable.h"
+
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+namespace {
+
+/// Share of the picture that is not fully transparent.
+double coverage(const QImage& image) {
+    int drawn = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            drawn += qAlpha(image.pixel(x, y)) > 0;
+    }
+    return double(drawn) / (image.width() * image.height());
+}
+
+TEST(SymbolTable, ReadsLayersAndSkipsWhatIsNotARow) {
+    const SymbolTable table = parseSymbolTable(
+        "# comment\twith tab\n\nbroken\nplain\tgear\n"
+        "mixed\tapp mirror-x clear-rect@6,5.5,10,10.5 clear-ellipse@1,2,3 gift-fill@-1,4,8\n");
+    using Kind = SymbolLayer::Kind;
+    ASSERT_EQ(table.size(), 2);
+    EXPECT_EQ(table[u"plain"_s], QList({SymbolLayer{Kind::drawing, u"gear"_s, {0, 0, 16, 16}}}));
+    EXPECT_EQ(
+        table[u"mixed"_s], QList({
+                               SymbolLayer{Kind::drawing, u"app"_s, {0, 0, 16, 16}},
+                               SymbolLayer{Kind::mirrorHorizontally, {}, {0, 0, 16, 16}},
+                               SymbolLayer{Kind::clearRectangle, {}, {6, 5.5, 10, 10.5}},
+                               SymbolLayer{Kind::clearEllipse, {}, {1, 2, 3, 3}},
+                               SymbolLayer{Kind::drawing, u"gift-fill"_s, {-1, 4, 8, 8}},
+                           }));
+}
+
+TEST(Symbols, EveryNameOfTheTableDrawsSomethingOfItsOwn) {
+    ASSERT_TRUE(Symbols::contains(u"safari"_s));
+    QFile file(u":/symbols/symbols.tsv"_s);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const SymbolTable table = parseSymbolTable(file.readAll());
+    EXPECT_GE(table.size(), 85);
+    for (const QString& name : table.keys()) {
+        const double share = coverage(Symbols::pixmap(name, 32, 1, Qt::red).toImage());
+        EXPECT_GT(share, 0.05) << name.toStdString();
+        EXPECT_LT(share, 0.95) << name.toStdString();
+    }
+}
+
+TEST(Symbols, UnknownNamesDrawNothing) {
+    QImage canvas(20, 20, QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(Qt::transparent);
+    QPainter painter(&canvas);
+    for (const QString& name : {u"appwindow.swiftui"_s, u"lassoaura"_s, u"Safari"_s, QString()}) {
+        EXPECT_FALSE(Symbols::contains(name));
+        EXPECT_TRUE(Symbols::pixmap(name, 14, 1, Qt::white).isNull());
+        Symbols::paint(painter, name, canvas.rect(), Qt::white);
+    }
+    EXPECT_EQ(coverage(canvas), 0);
+}
+
+TEST(Symbols, AreDrawnAtDeviceResolutionInOneColour) {
+    const QColor colour(10, 200, 30, 255);
+    const QPixmap picture = Symbols::pixmap(u"folder.fill"_s, 14, 1.5, colour);
+    EXPECT_EQ(picture.size(), QSize(21, 21));
+    EXPECT_EQ(picture.devicePixelRatio(), 1.5);
+    EXPECT_EQ(picture.toImage().pixelColor(10, 14), colour);
+    EXPECT_EQ(picture.cacheKey(), Symbols::pixmap(u"folder.fill"_s, 14, 1.5, colour).cacheKey());
+    EXPECT_NE(picture.cacheKey(), Symbols::pixmap(u"folder.fill"_s, 14, 1.5, Qt::white).cacheKey());
+}
+
+TEST(Symbols, PaintsOnWholeDevicePixels) {
+    // At 1.5 pixels a point, x = 1 lies between two pixels.
+    QImage canvas(60, 60, QImage::Format_ARGB32_Premultiplied);
+    canvas.setDevicePixelRatio(1.5);
+    canvas.fill(Qt::transparent);
+    QPainter painter(&canvas);
+    Symbols::paint(painter, u"globe"_s, {1, 1, 14, 14}, Qt::white);
+    painter.end();
+    QImage expected = Symbols::pixmap(u"globe"_s, 14, 1.5, Qt::white).toImage();
+    QImage painted = canvas.copy(2, 2, 21, 21);
+    expected.setDevicePixelRatio(1);
+    painted.setDevicePixelRatio(1);
+    EXPECT_EQ(painted, expected.convertToFormat(painted.format()));
+}
+
+} // namespace
+} // namespace velmora
