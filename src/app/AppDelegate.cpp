@@ -12,6 +12,7 @@
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
+#include "viewkit/PopupMenu.h"
 #include "viewkit/WindowTheme.h"
 
 #include <QCoreApplication>
@@ -22,7 +23,9 @@ using namespace Qt::StringLiterals;
 namespace velmora {
 
 AppDelegate::AppDelegate()
-    : overlayController(ScreenManager::shared(), Platform::current().panelWindows) {}
+    : overlayController(ScreenManager::shared(), Platform::current().panelWindows),
+      hotKeyManager(HotKeyManager::shared()),
+      mouseButtonManager(MouseButtonManager::shared()) {}
 
 void AppDelegate::applicationDidFinishLaunching() {
     setupMainMenu();
@@ -62,12 +65,25 @@ void AppDelegate::startServices() {
     // Nothing waits for the answer.
     Platform::current().accessibility.isProcessTrustedWithPrompt();
     setupOverlay();
+    setupHotKeys();
+    setupMouseButtonMonitoring();
 }
 
 void AppDelegate::setupOverlay() {
     overlayController.setup(std::make_unique<ContentView>(
         ShortcutManager::shared(), [] { return ScreenManager::shared().hasNotch(); },
         [](const ShortcutAction& action) { ActionEngine::shared().execute(action); }));
+}
+
+void AppDelegate::setupHotKeys() {
+    hotKeyManager.overlayController = &overlayController;
+    hotKeyManager.setupHotKeys();
+    PopupMenu::setKeyFilter(
+        [this](const QKeyEvent& event) { return hotKeyManager.performKeyEquivalent(event); });
+}
+
+void AppDelegate::setupMouseButtonMonitoring() {
+    mouseButtonManager.startMonitoring();
 }
 
 void AppDelegate::toggleOverlayMenu() {

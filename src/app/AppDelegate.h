@@ -1,5 +1,7 @@
 #pragma once
 
+#include "input/HotKeyManager.h"
+#include "input/MouseButtonManager.h"
 #include "overlay/OverlayController.h"
 #include "viewkit/MenuModel.h"
 
@@ -20,11 +22,15 @@ public:
     void applicationDidFinishLaunching();
 
     void setupOverlay();
+    void setupHotKeys();
+    void setupMouseButtonMonitoring();
 
     void toggleOverlayMenu();
     void quitApp();
 
     OverlayController overlayController;
+    HotKeyManager& hotKeyManager;
+    MouseButtonManager& mouseButtonManager;
 
 private:
     void checkTermsAndStart();
