@@ -41,7 +41,7 @@ Session::~Session() {
     client_.reset();
 }
 
-void Session::launch() {
+void Session::launch(Launch launch) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"HOME"_s, home());
     environment.insert(u"XDG_CONFIG_HOME"_s, home() + u"/.config"_s);
@@ -67,7 +67,9 @@ void Session::launch() {
     program_->start(QStringLiteral(VELMORA_PROGRAM), QStringList{});
     if (!program_->waitForStarted())
         qFatal("the program did not start");
-    if (options_.agreed && !waitFor([this] { return bar().has_value(); }))
+    if (launch == Launch::WithoutWaiting || !options_.agreed)
+        return;
+    if (!waitFor([this] { return bar().has_value(); }))
         qFatal("the bar did not come up:\n%s", qPrintable(log().join(u'\n')));
 }
 

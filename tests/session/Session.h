@@ -28,8 +28,9 @@ public:
     Session() : Session(Options{}) {}
     ~Session();
 
-    /// Starts the program; with `agreed`, waits until the bar is painted.
-    void launch();
+    enum class Launch { UntilTheBarIsThere, WithoutWaiting };
+    /// Starts the program. Without `agreed` there is no bar to wait for.
+    void launch(Launch launch = Launch::UntilTheBarIsThere);
     QProcess& program() { return *program_; }
 
     /// The home folder, and the file of the stored settings in it.
