@@ -20,24 +20,14 @@ StatusBarController::StatusBarController(TrayHost& trayHost, std::function<void(
 StatusBarController::~StatusBarController() = default;
 
 void StatusBarController::setupStatusBar() {
+    // The first use of QSystemTrayIcon decides for good which kind of tray it serves: not before
+    // there is one. From then on it follows trays of that kind that go and come by itself.
     new AfterFirstPaint(this, [this] {
-        trayHost_.observe([self = QPointer(this)](bool isThere) {
+        trayHost_.whenThere([self = QPointer(this)] {
             if (self)
-                self->trayChanged(isThere);
+                self->makeStatusItem();
         });
     });
-}
-
-void StatusBarController::trayChanged(bool isThere) {
-    // The first use of QSystemTrayIcon decides for good which kind of tray it serves: not before
-    // there is one.
-    if (!statusItem && !isThere)
-        return;
-    if (!statusItem)
-        makeStatusItem();
-    // Anew for a tray that took the place of another.
-    statusItem->hide();
-    statusItem->setVisible(isThere);
 }
 
 void StatusBarController::makeStatusItem() {
@@ -45,6 +35,7 @@ void StatusBarController::makeStatusItem() {
         statusItemIcon(Bundle::path(u"i-menu"_s, u"png"_s, u"icon"_s)));
     statusItem->setToolTip(u"Velmora - クリックして切り替え"_s);
     setupMenu();
+    statusItem->show();
 }
 
 void StatusBarController::setupMenu() {
@@ -54,10 +45,16 @@ void StatusBarController::setupMenu() {
     menu_->addItem(u"設定..."_s, QKeySequence(u"Ctrl+,"_s), [this] { openSettings(); });
     menu_->addSeparator();
     menu_->addItem(u"終了"_s, QKeySequence(u"Ctrl+Q"_s), [this] { quitApp(); });
-    // Not as the item's own menu: some trays draw that themselves, without key equivalents.
-    connect(statusItem.get(), &QSystemTrayIcon::activated, menu_.get(), [this] {
-        menu_->popUp(QCursor::pos());
-    });
+    statusItem->setContextMenu(menu_.get());
+    // A tray opens it by the right button only.
+    connect(
+        statusItem.get(), &QSystemTrayIcon::activated, menu_.get(),
+        [this](QSystemTrayIcon::ActivationReason reason) {
+            // Beside the pointer, whatever edge the tray is at, so that the release chooses
+            // nothing.
+            if (reason == QSystemTrayIcon::Trigger)
+                menu_->popup(QCursor::pos());
+        });
 }
 
 void StatusBarController::toggleOverlay() {

@@ -23,7 +23,7 @@ public:
     StatusBarController(TrayHost& trayHost, std::function<void()> showSettings);
     ~StatusBarController() override;
 
-    /// Puts the item with its menu into the tray, each time that one arrives. Call once.
+    /// Puts the item with its menu into the tray, now or when one comes. Call once.
     void setupStatusBar();
 
     /// Absent until there is a tray for it.
@@ -35,7 +35,6 @@ public:
     PopupMenu* menu() const { return menu_.get(); }
 
 private:
-    void trayChanged(bool isThere);
     void makeStatusItem();
     void setupMenu();
     void toggleOverlay();

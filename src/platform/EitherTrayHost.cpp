@@ -1,19 +1,17 @@
 #include "platform/EitherTrayHost.h"
 
+#include <utility>
+
 namespace velmora {
 
-void EitherTrayHost::observe(std::function<void(bool isThere)> handler) {
-    handler_ = std::move(handler);
-    first_.observe([this](bool isThere) { report(isFirstThere_, isThere); });
-    second_.observe([this](bool isThere) { report(isSecondThere_, isThere); });
-}
-
-void EitherTrayHost::report(bool& kind, bool isThere) {
-    kind = isThere;
-    if (isThere)
-        handler_(true);
-    else if (!isFirstThere_ && !isSecondThere_)
-        handler_(false);
+void EitherTrayHost::whenThere(std::function<void()> task) {
+    task_ = std::move(task);
+    const auto runOnce = [this] {
+        if (const auto once = std::exchange(task_, nullptr))
+            once();
+    };
+    first_.whenThere(runOnce);
+    second_.whenThere(runOnce);
 }
 
 } // namespace velmora

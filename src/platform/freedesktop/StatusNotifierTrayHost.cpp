@@ -18,36 +18,34 @@ const QString service = u"org.kde.StatusNotifierWatcher"_s;
 StatusNotifierTrayHost::StatusNotifierTrayHost() = default;
 StatusNotifierTrayHost::~StatusNotifierTrayHost() = default;
 
-void StatusNotifierTrayHost::observe(std::function<void(bool isThere)> handler) {
+void StatusNotifierTrayHost::whenThere(std::function<void()> task) {
     if (!hasSessionBus())
         return;
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    handler_ = std::move(handler);
-    watcher_ = std::make_unique<QDBusServiceWatcher>(service, bus);
+    task_ = std::move(task);
+    watcher_ = std::make_unique<QDBusServiceWatcher>(
+        service, bus, QDBusServiceWatcher::WatchForRegistration);
     QObject::connect(
-        watcher_.get(), &QDBusServiceWatcher::serviceOwnerChanged, watcher_.get(),
-        [this](const QString&, const QString&, const QString& owner) {
-            // From one owner to the next without a gap, the items are gone all the same.
-            if (!owner.isEmpty())
-                report(false);
-            report(!owner.isEmpty());
-        });
-    // Asked without waiting; a change meanwhile arrives in order.
+        watcher_.get(), &QDBusServiceWatcher::serviceRegistered, watcher_.get(),
+        [this] { arrived(); });
+    // Asked without waiting; one that comes meanwhile is heard of all the same.
     auto* const answer = new QDBusPendingCallWatcher(
         bus.interface()->asyncCall(u"NameHasOwner"_s, service), watcher_.get());
     QObject::connect(answer, &QDBusPendingCallWatcher::finished, watcher_.get(), [this, answer] {
-        const QDBusPendingReply<bool> reply = *answer;
-        if (reply.isValid())
-            report(reply.value());
-        answer->deleteLater();
+        const QDBusPendingReply<bool> isThere = *answer;
+        if (isThere.isValid() && isThere.value())
+            arrived();
     });
 }
 
-void StatusNotifierTrayHost::report(bool isThere) {
-    if (std::exchange(isThere_, isThere) != isThere)
-        handler_(isThere);
+void StatusNotifierTrayHost::arrived() {
+    if (!watcher_)
+        return;
+    // It is the one that called.
+    watcher_.release()->deleteLater();
+    task_();
 }
 
 } // namespace velmora

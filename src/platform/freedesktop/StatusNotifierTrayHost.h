@@ -15,14 +15,13 @@ public:
     StatusNotifierTrayHost();
     ~StatusNotifierTrayHost() override;
 
-    void observe(std::function<void(bool isThere)> handler) override;
+    void whenThere(std::function<void()> task) override;
 
 private:
-    void report(bool isThere);
+    void arrived();
 
-    std::unique_ptr<QDBusServiceWatcher> watcher_;
-    std::function<void(bool)> handler_;
-    bool isThere_ = false;
+    std::unique_ptr<QDBusServiceWatcher> watcher_; ///< until there is one
+    std::function<void()> task_;
 };
 
 } // namespace velmora

@@ -10,18 +10,15 @@ class X11TrayHost : public TrayHost {
 public:
     explicit X11TrayHost(X11Connection& connection) : connection_(connection) {}
 
-    void observe(std::function<void(bool isThere)> handler) override;
+    void whenThere(std::function<void()> task) override;
 
 private:
     void handle(const xcb_generic_event_t& event);
-    void findTray();
-    xcb_window_t selectionOwner();
 
     X11Connection& connection_;
     X11Connection::Subscription subscription_;
-    std::function<void(bool)> handler_;
     xcb_atom_t selection_ = XCB_ATOM_NONE;
-    xcb_window_t tray_ = XCB_WINDOW_NONE;
+    std::function<void()> task_;
 };
 
 } // namespace velmora
