@@ -12,6 +12,7 @@
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
+#include "platform/SingleInstance.h"
 #include "viewkit/PopupMenu.h"
 #include "viewkit/WindowTheme.h"
 
@@ -21,15 +22,28 @@
 using namespace Qt::StringLiterals;
 
 namespace velmora {
+namespace {
+
+bool hasAgreed() {
+    return UserDefaults::standard().boolean(TermsOfServiceView::agreementKey);
+}
+
+} // namespace
 
 AppDelegate::AppDelegate()
     : overlayController(ScreenManager::shared(), Platform::current().panelWindows),
       hotKeyManager(HotKeyManager::shared()),
-      mouseButtonManager(MouseButtonManager::shared()) {}
+      mouseButtonManager(MouseButtonManager::shared()),
+      statusBarController(
+          Platform::current().trayHost, [] { ActionMessages::shared().send(u"showSettings"_s); }) {}
 
 void AppDelegate::applicationDidFinishLaunching() {
     setupMainMenu();
     checkTermsAndStart();
+    Platform::current().singleInstance.setComeForwardHandler([self = QPointer(this)] {
+        if (self)
+            self->comeForward();
+    });
 }
 
 void AppDelegate::setupMainMenu() {
@@ -41,11 +55,15 @@ void AppDelegate::setupMainMenu() {
 }
 
 void AppDelegate::checkTermsAndStart() {
-    if (UserDefaults::standard().boolean(TermsOfServiceView::agreementKey)) {
+    if (hasAgreed()) {
         startServices();
         return;
     }
     followDesktopAppearance();
+    showTerms();
+}
+
+void AppDelegate::showTerms() {
     TermsOfServiceWindow::shared().show([self = QPointer(this)] {
         if (self)
             self->startServices();
@@ -65,14 +83,27 @@ void AppDelegate::startServices() {
     // Nothing waits for the answer.
     Platform::current().accessibility.isProcessTrustedWithPrompt();
     setupOverlay();
+    setupStatusBar();
     setupHotKeys();
     setupMouseButtonMonitoring();
+}
+
+void AppDelegate::comeForward() {
+    if (hasAgreed())
+        ActionMessages::shared().send(u"showSettings"_s);
+    else
+        showTerms();
 }
 
 void AppDelegate::setupOverlay() {
     overlayController.setup(std::make_unique<ContentView>(
         ShortcutManager::shared(), [] { return ScreenManager::shared().hasNotch(); },
         [](const ShortcutAction& action) { ActionEngine::shared().execute(action); }));
+}
+
+void AppDelegate::setupStatusBar() {
+    statusBarController.overlayController = &overlayController;
+    statusBarController.setupStatusBar();
 }
 
 void AppDelegate::setupHotKeys() {

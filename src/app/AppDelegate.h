@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/StatusBarController.h"
 #include "input/HotKeyManager.h"
 #include "input/MouseButtonManager.h"
 #include "overlay/OverlayController.h"
@@ -22,6 +23,7 @@ public:
     void applicationDidFinishLaunching();
 
     void setupOverlay();
+    void setupStatusBar();
     void setupHotKeys();
     void setupMouseButtonMonitoring();
 
@@ -31,10 +33,14 @@ public:
     OverlayController overlayController;
     HotKeyManager& hotKeyManager;
     MouseButtonManager& mouseButtonManager;
+    StatusBarController statusBarController;
 
 private:
     void checkTermsAndStart();
+    void showTerms();
     void startServices();
+    /// The user started the program again: the settings, or, before agreement, the terms.
+    void comeForward();
     /// From the first window on.
     void followDesktopAppearance();
     void setupMainMenu();

@@ -6,6 +6,7 @@
 #include "support/TestDisplay.h"
 #include "support/Witness.h"
 
+#include <QProcessEnvironment>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <memory>
@@ -32,6 +33,10 @@ public:
     /// Starts the program. Without `agreed` there is no bar to wait for.
     void launch(Launch launch = Launch::UntilTheBarIsThere);
     QProcess& program() { return *program_; }
+
+    /// The program's file and what it is started with, to start it again.
+    static QString programFile();
+    QProcessEnvironment environment() const;
 
     /// The home folder, and the file of the stored settings in it.
     QString home() const { return home_.path(); }
