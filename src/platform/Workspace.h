@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -10,6 +11,14 @@ namespace velmora {
 
 /// How an application is opened; the default has nothing to set.
 struct OpenConfiguration {};
+
+/// One application that the session offers to its user.
+struct InstalledApplication {
+    QString identifier; ///< what applicationLocation() takes
+    QString name;       ///< in the user's language
+    QString location;
+    QString icon; ///< a name of the icon theme or an absolute path; empty without one
+};
 
 /// The installed applications and default handlers of the session (NSWorkspace).
 class Workspace {
@@ -23,6 +32,10 @@ public:
     /// URLsForApplicationsWithBundleIdentifier: every location registered under the identifier,
     /// in order of precedence.
     virtual QStringList applicationLocations(const QString& identifier) const = 0;
+
+    /// The applications that the session lists beside ".app" folders, in no particular order, each
+    /// identifier once. Reads the disk; callable from any thread.
+    virtual QList<InstalledApplication> installedApplications() const = 0;
 
     /// Called with nothing when the application runs, else with a description of what failed.
     using OpenCompletion = std::function<void(std::optional<QString> error)>;

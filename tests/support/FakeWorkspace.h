@@ -13,6 +13,8 @@ class FakeWorkspace : public Workspace {
 public:
     /// Locations by identifier.
     QHash<QString, QStringList> installed;
+    /// What installedApplications() gives.
+    QList<InstalledApplication> listed;
     /// What completes the launch of a location with an error, by location.
     QHash<QString, QString> launchErrors;
 
@@ -30,6 +32,8 @@ public:
         lookups.append(identifier);
         return installed.value(identifier);
     }
+
+    QList<InstalledApplication> installedApplications() const override { return listed; }
 
     void openApplication(
         const QString& location, const OpenConfiguration&, OpenCompletion completion) override {

@@ -2,6 +2,7 @@
 
 #include "foundation/MainQueue.h"
 #include "platform/freedesktop/ApplicationRoles.h"
+#include "platform/freedesktop/DesktopEntryListing.h"
 #include "platform/freedesktop/DesktopLaunch.h"
 #include "platform/freedesktop/GioPointer.h"
 
@@ -63,6 +64,10 @@ QStringList FreedesktopWorkspace::applicationLocations(const QString& identifier
             appendEntry(locations, substitute + suffix);
     }
     return locations;
+}
+
+QList<InstalledApplication> FreedesktopWorkspace::installedApplications() const {
+    return DesktopEntryListing::ofSession().applications();
 }
 
 void FreedesktopWorkspace::openApplication(

@@ -12,6 +12,7 @@ class FreedesktopWorkspace : public Workspace {
 public:
     std::optional<QString> applicationLocation(const QString& identifier) const override;
     QStringList applicationLocations(const QString& identifier) const override;
+    QList<InstalledApplication> installedApplications() const override;
     void openApplication(
         const QString& location, const OpenConfiguration& configuration,
         OpenCompletion completion) override;

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QIcon>
+#include <QString>
+#include <QUuid>
+
+namespace velmora {
+
+/// An installed application. Two are equal when their bundle identifiers are.
+struct AppInfo {
+    QUuid id; ///< fresh for every record
+    QString name;
+    QString bundleId;
+    QString path;     ///< full path of the ".app" folder or the desktop entry
+    QString iconName; ///< a name of the icon theme or an absolute path; may be empty
+
+    AppInfo(QString appName, QString identifier, QString location, QString icon = {})
+        : id(QUuid::createUuid()),
+          name(std::move(appName)),
+          bundleId(std::move(identifier)),
+          path(std::move(location)),
+          iconName(std::move(icon)) {}
+
+    /// The application's icon, null when it has none that is fit to be shown. Main thread only; may
+    /// read the disk.
+    QIcon getIcon() const;
+
+    bool operator==(const AppInfo& other) const { return bundleId == other.bundleId; }
+};
+
+} // namespace velmora

@@ -1,0 +1,106 @@
+// Reading one desktop entry: what makes it an application, its name in the user's language, and
+// for whom it is shown.
+
+#include "platform/freedesktop/DesktopEntryFile.h"
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+
+namespace {
+
+std::optional<DesktopEntryFile> parse(const std::string& text, const char* locale = "C") {
+    return DesktopEntryFile::parse(text, localizedKeyLanguages({locale}));
+}
+
+TEST(DesktopEntryFile, NeedsTypeAndName) {
+    const struct {
+        const char* text;
+        bool isApplication;
+    } cases[] = {
+        {"[Desktop Entry]\nType=Application\nName=A\n", true},
+        {"# comment\n\n[Desktop Entry]\r\n Type = Application \r\nName\t= A\r\n", true},
+        {"[Desktop Entry]\nType=Application\nName=A", true},
+        {"[Desktop Entry]\nType=Link\nName=A\n", false},
+        {"[Desktop Entry]\nName=A\n", false},
+        {"[Desktop Entry]\nType=Application\n", false},
+        {"[Desktop Entry]\nType=Application\nName= \\s\n", false},
+        {"[Other]\nType=Application\nName=A\n", false},
+        {"Type=Application\nName=A\n", false},
+        {"[Desktop Entry]\nType=Application\n[Desktop Action new]\nName=A\n", false},
+        {"\x7f"
+         "ELF[=]\n[\n]==\n",
+         false},
+        {"", false},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(parse(c.text).has_value(), c.isApplication) << c.text;
+}
+
+TEST(DesktopEntryFile, NameFollowsTheLanguage) {
+    const std::string text = "[Desktop Entry]\nType=Application\nName[sr@latin]=sr latin\n"
+                             "Name[ja]=メモ\nName[de]=deutsch\nName=plain\nName[de_AT]=austrian\n"
+                             "Name[sr]=sr\nName[sr_RS]=sr RS\nName[pt_BR]=\n"
+                             "Icon=edit\nName[de_CH@x]=swiss x\n";
+    const struct {
+        const char* locale;
+        QString name;
+    } cases[] = {
+        {"C", u"plain"_s},
+        {"POSIX", u"plain"_s},
+        {"ja_JP.UTF-8", u"メモ"_s},
+        {"de_DE.UTF-8", u"deutsch"_s},
+        {"de_AT", u"austrian"_s},
+        {"de_CH@x", u"swiss x"_s},
+        {"sr_RS.UTF-8@latin", u"sr RS"_s}, // the country comes before the modifier
+        {"sr_ME@latin", u"sr latin"_s},
+        {"sr", u"sr"_s},
+        {"pt_BR", u"plain"_s}, // an empty name is none
+        {"fr_FR", u"plain"_s},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(parse(text, c.locale)->name, c.name) << c.locale;
+    EXPECT_EQ(parse(text)->icon, u"edit"_s);
+}
+
+TEST(DesktopEntryFile, LanguagesAreTriedInOrder) {
+    EXPECT_THAT(
+        localizedKeyLanguages({"de_AT.UTF-8@euro", "fr", "C", ""}),
+        testing::ElementsAre("de_AT@euro", "de_AT", "de@euro", "de", "fr"));
+    const auto entry = DesktopEntryFile::parse(
+        "[Desktop Entry]\nType=Application\nName[fr]=f\nName[es]=e\nName=n\n", {"de", "es", "fr"});
+    EXPECT_EQ(entry->name, u"e"_s);
+}
+
+TEST(DesktopEntryFile, ReadsEscapes) {
+    EXPECT_EQ(
+        parse("[Desktop Entry]\nType=Application\nName=a\\sb\\\\c\\td\\\n")->name,
+        u"a b\\c\td\\"_s);
+}
+
+TEST(DesktopEntryFile, ShownInTheNamedDesktops) {
+    const struct {
+        const char* line;
+        QStringList desktops;
+        bool shown;
+    } cases[] = {
+        {"", {}, true},
+        {"OnlyShowIn=KDE;", {}, false},
+        {"OnlyShowIn=KDE;XFCE;", {u"XFCE"_s}, true},
+        {"OnlyShowIn=KDE", {u"XFCE"_s}, false},
+        {"OnlyShowIn=", {u"XFCE"_s}, false},
+        {"NotShowIn=KDE;", {}, true},
+        {"NotShowIn=KDE;", {u"KDE"_s}, false},
+        {"OnlyShowIn=GNOME;", {u"ubuntu"_s, u"GNOME"_s}, true},
+        {"NotShowIn=GNOME;", {u"ubuntu"_s, u"GNOME"_s}, false},
+        {"OnlyShowIn=ubuntu;\nNotShowIn=GNOME;", {u"ubuntu"_s, u"GNOME"_s}, true},
+    };
+    for (const auto& c : cases) {
+        const auto entry =
+            parse(std::string("[Desktop Entry]\nType=Application\nName=A\n") + c.line);
+        EXPECT_EQ(entry->isShownIn(c.desktops), c.shown) << c.line;
+    }
+}
+
+} // namespace
