@@ -28,6 +28,7 @@ int main(int argc, char** argv) {
     const Platform platform{
         .accessibility = session->accessibility(),
         .appearance = appearance,
+        .eventTaps = session->eventTaps(),
         .keyboardEvents = session->keyboardEvents(),
         .panelWindows = session->panelWindows(),
         .screens = session->screens(),

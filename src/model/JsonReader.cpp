@@ -58,6 +58,17 @@ QString JsonReader::string() const {
     return value_.toString();
 }
 
+std::int64_t JsonReader::integer() const {
+    require(QJsonValue::Double);
+    // What is no integer comes back as whatever default is given.
+    const qint64 integer = value_.toInteger(0);
+    if (integer != value_.toInteger(1))
+        fail(
+            DecodingError::Kind::dataCorrupted,
+            u"%1 is not an integer of 64 bits."_s.arg(value_.toDouble()));
+    return integer;
+}
+
 QUuid JsonReader::uuid() const {
     const QString text = string();
     const QUuid uuid = QUuid::fromString(text);

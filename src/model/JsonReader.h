@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <QUuid>
+#include <cstdint>
 #include <type_traits>
 
 namespace velmora {
@@ -46,6 +47,8 @@ public:
     QJsonObject object() const;
     QJsonArray array() const;
     QString string() const;
+    /// A number without a fraction that fits; 3.0 is the integer 3.
+    std::int64_t integer() const;
     /// From the canonical text form: 36 characters, hexadecimal digits of either case.
     QUuid uuid() const;
 

@@ -29,6 +29,11 @@ void JsonWriter::member(QLatin1StringView name) {
     text_.append('"').append(name.data(), name.size()).append("\":");
 }
 
+void JsonWriter::integer(std::int64_t integer) {
+    separate();
+    text_ += QByteArray::number(static_cast<qlonglong>(integer));
+}
+
 void JsonWriter::string(QStringView string) {
     separate();
     text_ += '"';

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QLatin1StringView>
 #include <QStringView>
+#include <cstdint>
 
 namespace velmora {
 
@@ -18,6 +19,7 @@ public:
     void member(QLatin1StringView name);
     /// Any string reads back as it was, unpaired surrogates included.
     void string(QStringView string);
+    void integer(std::int64_t integer);
 
     const QByteArray& text() const { return text_; }
 

@@ -16,4 +16,7 @@ inline constexpr EventFlags kCGEventFlagMaskCommand = 0x100000;  ///< Command; S
 /// (A = 0, M = 46, Return = 36, …), whatever the layout types there.
 using KeyCode = std::uint16_t;
 
+/// The code of a key at no known position.
+inline constexpr KeyCode kNoKeyCode = 0xffff;
+
 } // namespace velmora

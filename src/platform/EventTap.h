@@ -24,6 +24,11 @@ enum class EventType : std::uint32_t {
     tapDisabledByUserInput = 0xFFFFFFFF, ///< another client holds what the tap wants
 };
 
+/// Whether the session says with `type` that it switched a tap off.
+constexpr bool isTapDisabled(EventType type) {
+    return type == EventType::tapDisabledByTimeout || type == EventType::tapDisabledByUserInput;
+}
+
 /// The bit of `type` in an event mask.
 constexpr std::uint64_t eventMaskBit(EventType type) {
     return std::uint64_t(1) << static_cast<std::uint32_t>(type);
@@ -37,7 +42,7 @@ struct TapEvent {
     std::int64_t buttonNumber = 0; ///< 2 middle, 3 fourth, 4 fifth, …
     bool isRepeat = false;
     /// What the key types with modifiers but Shift ignored; its usual label when it types nothing.
-    QString charactersIgnoringModifiers;
+    QString charactersIgnoringModifiers{};
 };
 
 /// Where a tap is inserted among the existing ones.
@@ -58,6 +63,8 @@ struct MouseButtons {
     QList<std::int64_t> buttonNumbers;
 };
 /// Every key of the session, for as long as the tap is enabled; `view` has the keyboard focus.
+/// While another program holds the keyboard the tap waits for it by itself: that is no refusal and
+/// is not reported. Releases are taken too; handlers hear of presses and modifier changes.
 struct EveryKey {
     QPointer<QWidget> view;
 };
@@ -70,9 +77,10 @@ class EventTap {
 public:
     virtual ~EventTap() = default;
 
-    /// CGEventTapEnable. A tap starts disabled. Enabling one whose wish was refused asks again,
-    /// after a pause that grows with each refusal; each refusal is reported to the handler as
-    /// tapDisabledByUserInput.
+    /// CGEventTapEnable. A tap starts disabled. When the session refuses what it wants, the tap is
+    /// disabled and the handler is told so, tapDisabledByUserInput, in a later turn of the event
+    /// loop, after each refusal. Enabling such a tap asks again after a pause that grows with each
+    /// refusal.
     virtual void setEnabled(bool enabled) = 0;
     virtual bool isEnabled() const = 0;
 
@@ -86,7 +94,9 @@ public:
     virtual ~EventTaps() = default;
 
     /// Decides about an event: returns it to pass it on, nothing to swallow it. Runs on the main
-    /// thread and must return quickly.
+    /// thread and must return quickly; it may disable or destroy its tap. A session that hands over
+    /// only what a tap wants may have taken the press for good by then, so a handler returns an
+    /// event only when its interest has just changed.
     using Handler = std::function<std::optional<TapEvent>(EventType type, const TapEvent& event)>;
 
     /// A tap for the types in `eventsOfInterest` (eventMaskBit), or nothing when the session does

@@ -4,6 +4,7 @@ namespace velmora {
 
 class Accessibility;
 class Appearance;
+class EventTaps;
 class KeyboardEvents;
 class PanelWindows;
 class Screens;
@@ -16,6 +17,7 @@ class Workspace;
 struct Platform {
     Accessibility& accessibility;
     Appearance& appearance;
+    EventTaps& eventTaps;
     KeyboardEvents& keyboardEvents;
     PanelWindows& panelWindows;
     Screens& screens;

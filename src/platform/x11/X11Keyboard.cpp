@@ -36,6 +36,11 @@ X11Keyboard::X11Keyboard(X11Connection& connection) : connection_(connection) {
     });
 }
 
+void X11Keyboard::observe(const QObject* context, const std::function<void()>& handler) const {
+    // After read(), which was connected first.
+    QObject::connect(&changed_, &QTimer::timeout, context, handler);
+}
+
 void X11Keyboard::read() {
     positions_ = KeyPositions::read(connection_);
     modifiers_ = ModifierMap::read(connection_);

@@ -20,6 +20,9 @@ public:
     const KeyPositions& positions() const { return positions_; }
     const ModifierMap& modifiers() const { return modifiers_; }
 
+    /// Calls `handler` after each change, as long as `context` lives.
+    void observe(const QObject* context, const std::function<void()>& handler) const;
+
 private:
     void read();
 

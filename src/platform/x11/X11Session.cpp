@@ -1,6 +1,7 @@
 #include "platform/x11/X11Session.h"
 
 #include "platform/x11/X11Accessibility.h"
+#include "platform/x11/X11EventTaps.h"
 #include "platform/x11/X11Keyboard.h"
 #include "platform/x11/X11KeyboardEvents.h"
 #include "platform/x11/X11PanelWindows.h"
@@ -14,6 +15,7 @@ struct X11Session::Services {
     explicit Services(X11Connection& connection)
         : accessibility(connection),
           keyboard(connection),
+          eventTaps(connection, keyboard),
           keyboardEvents(connection, keyboard),
           panelWindows(connection),
           screens(connection),
@@ -23,6 +25,7 @@ struct X11Session::Services {
 
     X11Accessibility accessibility;
     X11Keyboard keyboard;
+    X11EventTaps eventTaps;
     X11KeyboardEvents keyboardEvents;
     X11PanelWindows panelWindows;
     X11Screens screens;
@@ -49,6 +52,10 @@ X11Session::Services& X11Session::services() {
 
 Accessibility& X11Session::accessibility() {
     return services().accessibility;
+}
+
+EventTaps& X11Session::eventTaps() {
+    return services().eventTaps;
 }
 
 KeyboardEvents& X11Session::keyboardEvents() {

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QProperty>
+#include <QStringList>
+#include <QWidget>
+
+class QLabel;
+
+namespace velmora {
+
+class EventTaps;
+class KeyCaptureField;
+class KeyCaptureNSView;
+class PlainButton;
+
+/// The control that records a key combination: the field in its border, and below it a hint or,
+/// once something is captured, a button that clears it. Takes the focus when it is first shown.
+class KeyCaptureView : public QWidget {
+    Q_OBJECT
+public:
+    /// The bound values and `eventTaps` outlive the control. It writes all three.
+    KeyCaptureView(
+        QProperty<QStringList>& modifiers, QProperty<QString>& key, QProperty<bool>& isFocused,
+        EventTaps& eventTaps, QWidget* parent = nullptr);
+
+    KeyCaptureNSView& view();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void updateFooter();
+
+    QProperty<QStringList>& modifiers_;
+    QProperty<QString>& key_;
+    QProperty<bool>& isFocused_;
+    KeyCaptureField* const field_;
+    QLabel* const hint_;
+    PlainButton* const clearButton_;
+    QWidget* const outline_;
+    bool wasShown_ = false;
+    QPropertyNotifier modifiersNotifier_;
+    QPropertyNotifier keyNotifier_;
+    QPropertyNotifier focusNotifier_;
+};
+
+} // namespace velmora

@@ -1,0 +1,243 @@
+// What only a real X server can tell: releases, locks, layouts, window managers, other programs.
+
+#include "X11World.h"
+#include "support/TestDisplay.h"
+
+#include <QEvent>
+#include <QProcess>
+#include <QTimer>
+#include <gmock/gmock.h>
+#include <xcb/xinput.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using namespace velmora::test;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr EventFlags option = kCGEventFlagMaskAlternate;
+
+class X11Taps : public testing::Test {
+protected:
+    ~X11Taps() override {
+        lockModifiers(world.client, 0xff, false);
+        lockGroup(world.client, 0);
+        EXPECT_FALSE(isAnythingDown(world.client));
+    }
+    void makeEnabled(EventTapInterest interest) {
+        tap.make(world.taps(), std::move(interest));
+        ASSERT_TRUE(tap.tap);
+        tap.tap->setEnabled(true);
+    }
+    /// The witness's key and button events from now on, without the modifier keys'.
+    std::vector<std::pair<uint8_t, uint8_t>> seen() {
+        std::vector<std::pair<uint8_t, uint8_t>> events;
+        for (const Witness::Event& event : world.witness.events()) {
+            if (event.type <= XCB_BUTTON_RELEASE && event.detail != world.driver.keycode("LALT"))
+                events.emplace_back(event.type, event.detail);
+        }
+        return events;
+    }
+
+    X11World world;
+    TapUnderTest tap;
+    const TapInterest::Chord optionM{keyM.code, option};
+};
+
+TEST_F(X11Taps, TheReleaseOfASwallowedPressReachesTheFront) {
+    makeEnabled(optionM);
+    world.type(keyM, option, tap);
+    const std::pair<uint8_t, uint8_t> release(XCB_KEY_RELEASE, world.driver.keycode(keyM.name));
+    EXPECT_THAT(seen(), ElementsAre(release));
+
+    world.witness.clear();
+    TapUnderTest buttons;
+    buttons.make(world.taps(), TapInterest::MouseButtons{{3}});
+    buttons.tap->setEnabled(true);
+    world.click(3, buttons);
+    EXPECT_EQ(buttons.presses(), 1U);
+    const std::pair<uint8_t, uint8_t> buttonRelease(XCB_BUTTON_RELEASE, 8);
+    EXPECT_THAT(seen(), ElementsAre(buttonRelease));
+}
+
+TEST_F(X11Taps, ALockChangesNothing) {
+    makeEnabled(optionM);
+    TapUnderTest buttons;
+    buttons.make(world.taps(), TapInterest::MouseButtons{{4}});
+    buttons.tap->setEnabled(true);
+    size_t expected = 0;
+    for (unsigned locks = 0; locks <= 0xff; ++locks) {
+        // Those that layouts lock: Caps Lock, Num Lock, Scroll Lock, the third level.
+        if (locks & ~0xb2U)
+            continue;
+        lockModifiers(world.client, 0xff, false);
+        lockModifiers(world.client, static_cast<uint8_t>(locks), true);
+        world.type(keyM, option, tap);
+        world.click(4, buttons);
+        ++expected;
+        EXPECT_EQ(tap.presses(), expected) << locks;
+        EXPECT_EQ(buttons.presses(), expected) << locks;
+    }
+}
+
+TEST_F(X11Taps, TheChordIsAPositionOnEveryLayoutWhileTheyChange) {
+    makeEnabled(optionM);
+    size_t expected = 0;
+    for (const QString& layout : {u"fr"_s, u"jp"_s, u"ru"_s, u"dvorak"_s, u"us,ru"_s, u"us"_s}) {
+        setLayout(layout);
+        for (const uint8_t group : {0, 1}) {
+            lockGroup(world.client, group);
+            world.type(keyM, option, tap);
+            EXPECT_EQ(tap.presses(), ++expected) << qPrintable(layout) << int(group);
+        }
+        lockGroup(world.client, 0);
+    }
+}
+
+TEST_F(X11Taps, TheChordFollowsItsKeyAndItsModifier) {
+    makeEnabled(optionM);
+    const auto pressed = [this](const char* modifier) {
+        Driver hands;
+        hands.pressKey(modifier);
+        const size_t before = world.arrived(tap);
+        const size_t taken = tap.presses();
+        hands.tapKey(keyM.name);
+        waitFor([&] { return world.arrived(tap) > before || tap.presses() > taken; }, 100);
+        return tap.presses() > taken;
+    };
+    const auto setxkbmap = [](const QStringList& arguments) {
+        EXPECT_EQ(QProcess::execute(u"setxkbmap"_s, arguments), 0);
+    };
+    EXPECT_TRUE(pressed("LALT"));
+    EXPECT_FALSE(pressed("LWIN"));
+    setxkbmap({u"-option"_s, u"altwin:swap_alt_win"_s});
+    EXPECT_TRUE(waitFor([&] { return pressed("LWIN"); }));
+    EXPECT_FALSE(pressed("LALT"));
+    setxkbmap({u"-option"_s});
+    EXPECT_TRUE(waitFor([&] { return pressed("LALT"); }));
+    EXPECT_FALSE(pressed("LWIN"));
+}
+
+TEST_F(X11Taps, AKeyboardPluggedInLaterWorksToo) {
+    makeEnabled(optionM);
+    world.replugKeyboard();
+    constexpr auto physical = Driver::Keyboard::Physical;
+    EXPECT_TRUE(waitFor([&] {
+        world.driver.pressKey("LALT", physical);
+        world.driver.pressKey(keyM.name, physical);
+        waitFor([this] { return tap.presses() > 0; }, 100);
+        world.driver.releaseKey(keyM.name, physical);
+        world.driver.releaseKey("LALT", physical);
+        return tap.presses() > 0;
+    }));
+}
+
+TEST_F(X11Taps, AHeldChordRepeatsAndThePlainKeyIsFreeAgain) {
+    EXPECT_EQ(QProcess::execute(u"xset"_s, {u"r"_s, u"rate"_s, u"100"_s, u"50"_s}), 0);
+    makeEnabled(optionM);
+    world.driver.pressKey("LALT");
+    world.driver.pressKey(keyM.name);
+    EXPECT_TRUE(waitFor([this] { return tap.presses() >= 4; }));
+    world.driver.releaseKey(keyM.name);
+    world.driver.releaseKey("LALT");
+    EXPECT_FALSE(tap.events[0].isRepeat);
+    EXPECT_TRUE(std::all_of(tap.events.begin() + 1, tap.events.end(), [](const auto& event) {
+        return event.isRepeat;
+    }));
+    EXPECT_THAT(world.reachedFront(), IsEmpty());
+    EXPECT_EQ(QProcess::execute(u"xset"_s, {u"r"_s, u"rate"_s}), 0);
+}
+
+TEST_F(X11Taps, AHandlerThatIsSlowFreezesNobody) {
+    makeEnabled(TapInterest::MouseButtons{{3}});
+    // The tap's process does nothing from here on; the hands and the front go on.
+    world.driver.pressButton(8);
+    world.driver.tapKey(keyA.name);
+    world.driver.releaseButton(8);
+    world.driver.click(1);
+    EXPECT_EQ(world.witness.keys().size(), 2U);
+    EXPECT_TRUE(waitFor([this] { return tap.presses() == 1; }));
+}
+
+TEST_F(X11Taps, ATapWorksBesideAnotherProgramsLongerChord) {
+    // Option+Shift+M of a window manager that uses XInput 2: ours is the rest.
+    OtherProgram program;
+    EXPECT_TRUE(program.takeChord(world.driver.keycode(keyM.name), XCB_MOD_MASK_SHIFT));
+    makeEnabled(optionM);
+    EXPECT_TRUE(tap.tap->isEnabled());
+    world.type(keyM, option, tap);
+    EXPECT_EQ(tap.presses(), 1U);
+    EXPECT_EQ(tap.refusals, 0);
+}
+
+TEST_F(X11Taps, CaptureChangesNoFocusAndGivesLayoutLetters) {
+    QWidget& view = world.focusedView();
+    struct FocusCounter : QObject {
+        int events = 0;
+        bool eventFilter(QObject*, QEvent* event) override {
+            if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+                ++events;
+            return false;
+        }
+    } counter;
+    view.installEventFilter(&counter);
+    makeEnabled(TapInterest::EveryKey{&view});
+    for (const auto& [layout, text] :
+         {std::pair(u"us"_s, u"q"_s), {u"fr"_s, u"a"_s}, {u"ru"_s, u"й"_s}, {u"us"_s, u"q"_s}}) {
+        setLayout(layout);
+        EXPECT_TRUE(waitFor([&] {
+            tap.events.clear();
+            world.driver.tapKey("AD01");
+            waitFor([this] { return tap.presses() == 1; }, 100);
+            return tap.presses() == 1 && tap.events[0].charactersIgnoringModifiers == text;
+        })) << qPrintable(layout);
+    }
+    world.driver.pressKey("LFSH");
+    world.type(keyA, 0, tap);
+    world.driver.releaseKey("LFSH");
+    EXPECT_EQ(tap.events.back().charactersIgnoringModifiers, u"A"_s);
+    tap.tap.reset();
+    world.type(keyA, 0, tap);
+    EXPECT_EQ(counter.events, 0);
+    EXPECT_TRUE(view.hasFocus());
+}
+
+TEST_F(X11Taps, KeysHeldWhileACaptureBeginsOrEndsAreNotStuck) {
+    QWidget& view = world.focusedView();
+    world.driver.pressKey("LALT");
+    makeEnabled(TapInterest::EveryKey{&view});
+    world.driver.releaseKey("LALT");
+    world.driver.pressKey("LWIN");
+    world.driver.pressKey(keyA.name);
+    tap.tap->setEnabled(false);
+    EXPECT_TRUE(waitFor([this] { return world.isKeyboardFree(); }, 100));
+    world.driver.releaseKey(keyA.name);
+    world.driver.releaseKey("LWIN");
+    EXPECT_FALSE(isAnythingDown(world.client));
+    EXPECT_EQ(keyboardState(world.client).modifiers, 0);
+}
+
+TEST_F(X11Taps, CaptureComesBeforeTheWindowManagersKeys) {
+    for (const char* windowManager : {"xfwm4", "openbox"}) {
+        replaceWindowManager(QString::fromLatin1(windowManager));
+        QWidget& view = world.focusedView();
+        makeEnabled(TapInterest::EveryKey{&view});
+        ASSERT_TRUE(waitFor([this] { return !world.isKeyboardFree(); }));
+        for (const auto& [key, flags] :
+             {std::pair(keyTab, option),
+              {keyEscape, option},
+              {keyE, kCGEventFlagMaskCommand},
+              {keyTab, EventFlags(0)}}) {
+            tap.events.clear();
+            world.type(key, flags, tap);
+            EXPECT_EQ(tap.presses(), 1U) << windowManager << key.name;
+        }
+        EXPECT_TRUE(view.hasFocus());
+        tap.tap.reset();
+        EXPECT_TRUE(waitFor([this] { return world.isKeyboardFree(); }, 100));
+    }
+}
+
+} // namespace

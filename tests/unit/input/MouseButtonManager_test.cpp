@@ -1,0 +1,222 @@
+#include "input/MouseButtonManager.h"
+
+#include "foundation/UserDefaults.h"
+#include "support/FakeAccessibility.h"
+#include "support/FakeEventTaps.h"
+#include "support/TestDisplay.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+namespace {
+
+const QString key = u"SavedMouseBindings"_s;
+const QString unreadableKey = u"SavedMouseBindings.unreadable"_s;
+
+MouseButtonBinding bound(std::int64_t button, const QString& url) {
+    return {button, OpenUrl{url}};
+}
+
+/// "3a 4b": each binding's button and the URL it opens.
+QString summary(const MouseButtonManager& manager) {
+    QStringList parts;
+    for (const auto& binding : manager.bindings())
+        parts << QString::number(binding.buttonNumber) + std::get<OpenUrl>(binding.action).url;
+    return parts.join(u' ');
+}
+
+class MouseButtonManagerTest : public testing::Test {
+protected:
+    MouseButtonManager& start(const QList<MouseButtonBinding>& stored = {}) {
+        if (!stored.isEmpty())
+            defaults_.setData(key, encodedList(stored));
+        return manager_.emplace(
+            defaults_, taps_, accessibility_,
+            [this](const ShortcutAction& action) { opened_ << std::get<OpenUrl>(action).url; },
+            1ms);
+    }
+
+    /// What a press opens once the loop came to it.
+    QStringList openedBy(std::int64_t button) {
+        opened_.clear();
+        swallowed_ = taps_.sendButton(button);
+        EXPECT_TRUE(opened_.isEmpty()) << "carried out inside the tap";
+        QCoreApplication::processEvents();
+        return opened_;
+    }
+
+    const QList<std::int64_t>& wanted() const {
+        return std::get<TapInterest::MouseButtons>(taps_.taps.front()->interest).buttonNumbers;
+    }
+
+    const QTemporaryDir root_;
+    UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
+    test::FakeAccessibility accessibility_;
+    test::FakeEventTaps taps_;
+    QStringList opened_;
+    bool swallowed_ = false;
+    std::optional<MouseButtonManager> manager_;
+};
+
+TEST_F(MouseButtonManagerTest, OperationsAnnounceChangeAndSave) {
+    const QString before = u"3a 4b 3c"_s;
+    const MouseButtonBinding on5 = bound(5, u"n"_s);
+    const MouseButtonBinding on4 = bound(4, u"n"_s);
+    const MouseButtonBinding on3 = bound(3, u"n"_s);
+    const struct {
+        const char* name;
+        std::function<void(MouseButtonManager&)> operation;
+        QString after;
+    } cases[] = {
+        {"add", [&](auto& m) { m.addBinding(on5); }, u"3a 4b 3c 5n"_s},
+        {"add replaces in place", [&](auto& m) { m.addBinding(on4); }, u"3a 4n 3c"_s},
+        {"add replaces the first", [&](auto& m) { m.addBinding(on3); }, u"3n 4b 3c"_s},
+        {"add own", [](auto& m) { m.addBinding(m.bindings()[2]); }, u"3c 4b 3c"_s},
+        {"update", [&](auto& m) { m.updateBinding(2, on5); }, u"3a 4b 5n"_s},
+        {"update to a duplicate", [&](auto& m) { m.updateBinding(1, on3); }, u"3a 3n 3c"_s},
+        {"remove", [](auto& m) { m.removeBinding(0); }, u"4b 3c"_s},
+        {"update beyond", [&](auto& m) { m.updateBinding(3, on5); }, before},
+        {"update before", [&](auto& m) { m.updateBinding(-1, on5); }, before},
+        {"remove beyond", [](auto& m) { m.removeBinding(3); }, before},
+        {"remove before", [](auto& m) { m.removeBinding(-1); }, before},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.name);
+        MouseButtonManager& manager = start({bound(3, u"a"_s), bound(4, u"b"_s), bound(3, u"c"_s)});
+        defaults_.setData(key, "unsaved"_ba);
+        QStringList seen;
+        QObject::connect(&manager, &MouseButtonManager::bindingsWillChange, &manager, [&] {
+            EXPECT_EQ(defaults_.data(key), "unsaved"_ba);
+            seen << summary(manager);
+        });
+        one.operation(manager);
+        EXPECT_EQ(summary(manager), one.after);
+        const bool changes = one.after != before;
+        EXPECT_EQ(seen, changes ? QStringList{before} : QStringList());
+        EXPECT_EQ(defaults_.data(key), changes ? encodedList(manager.bindings()) : "unsaved"_ba);
+    }
+}
+
+TEST_F(MouseButtonManagerTest, AReplacementBringsItsId) {
+    const MouseButtonBinding added = bound(3, u"b"_s);
+    start({bound(3, u"a"_s)}).addBinding(added);
+    EXPECT_EQ(start().bindings().front().id(), added.id());
+}
+
+TEST_F(MouseButtonManagerTest, UnreadableDataIsLeftUntilTheNextSaveAndKeptBeside) {
+    const QByteArray bad =
+        R"([{"id":"no","buttonNumber":3,"action":{"openURL":{"url":"precious"}}}])";
+    defaults_.setData(key, bad);
+    for (int launch = 0; launch < 2; ++launch) {
+        EXPECT_TRUE(start().bindings().isEmpty());
+        EXPECT_EQ(defaults_.data(key), bad);
+        EXPECT_EQ(defaults_.data(unreadableKey), bad);
+    }
+    manager_->addBinding(bound(3, u"a"_s));
+    EXPECT_EQ(summary(start()), u"3a"_s);
+    EXPECT_EQ(defaults_.data(unreadableKey), bad);
+}
+
+TEST_F(MouseButtonManagerTest, StartsEmptyAndStoresNothing) {
+    EXPECT_TRUE(start().bindings().isEmpty());
+    EXPECT_FALSE(defaults_.data(key));
+    EXPECT_FALSE(defaults_.data(unreadableKey));
+}
+
+TEST_F(MouseButtonManagerTest, WatchesPressesOfBoundButtonsOnly) {
+    start({bound(4, u"a"_s), bound(1, u"b"_s), bound(0, u"c"_s), bound(4, u"d"_s),
+           bound(-1, u"e"_s), bound(2, u"f"_s)})
+        .startMonitoring();
+    manager_->startMonitoring();
+    ASSERT_EQ(taps_.taps.size(), 1U);
+    const auto& tap = *taps_.taps.front();
+    EXPECT_EQ(tap.location, EventTapLocation::sessionEventTap);
+    EXPECT_EQ(tap.placement, EventTapPlacement::headInsert);
+    EXPECT_EQ(tap.options, EventTapOptions::defaultTap);
+    EXPECT_EQ(tap.eventsOfInterest, 0x2000000U);
+    EXPECT_TRUE(tap.enabled);
+    EXPECT_EQ(wanted(), (QList<std::int64_t>{4, 2}));
+    manager_->stopMonitoring();
+    EXPECT_TRUE(taps_.taps.empty());
+    EXPECT_TRUE(openedBy(4).isEmpty());
+    EXPECT_FALSE(swallowed_);
+}
+
+TEST_F(MouseButtonManagerTest, AnEditCountsFromTheNextPress) {
+    MouseButtonManager& manager = start();
+    manager.startMonitoring();
+    EXPECT_TRUE(openedBy(3).isEmpty());
+    EXPECT_FALSE(swallowed_);
+
+    manager.addBinding(bound(3, u"a"_s));
+    EXPECT_EQ(openedBy(3), QStringList{u"a"_s});
+    EXPECT_TRUE(swallowed_);
+    EXPECT_TRUE(openedBy(4).isEmpty());
+    EXPECT_FALSE(swallowed_);
+
+    manager.addBinding(bound(4, u"b"_s));
+    manager.updateBinding(1, bound(3, u"c"_s));
+    EXPECT_EQ(openedBy(3), QStringList{u"a"_s}) << "the first in the list";
+    EXPECT_EQ(wanted(), QList<std::int64_t>{3});
+
+    manager.removeBinding(0);
+    EXPECT_EQ(openedBy(3), QStringList{u"c"_s});
+    manager.removeBinding(0);
+    EXPECT_TRUE(wanted().isEmpty());
+    EXPECT_TRUE(openedBy(3).isEmpty());
+    EXPECT_FALSE(swallowed_);
+    EXPECT_EQ(taps_.taps.size(), 1U);
+}
+
+TEST_F(MouseButtonManagerTest, CarriesOutWhatWasBoundAtThePress) {
+    MouseButtonManager& manager = start({bound(3, u"a"_s)});
+    manager.startMonitoring();
+    taps_.sendButton(3);
+    manager.removeBinding(0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(opened_, QStringList{u"a"_s});
+}
+
+TEST_F(MouseButtonManagerTest, LeavesOtherEventsAndWorksAgainAfterBeingSwitchedOff) {
+    start({bound(3, u"a"_s)}).startMonitoring();
+    auto& tap = *taps_.taps.front();
+    const auto passes = [&](EventType type) {
+        return tap.handler(type, {.type = type, .buttonNumber = 3}).has_value();
+    };
+    EXPECT_TRUE(passes(EventType::keyDown));
+    for (const EventType reason :
+         {EventType::tapDisabledByTimeout, EventType::tapDisabledByUserInput}) {
+        taps_.disable(tap, reason);
+        EXPECT_TRUE(tap.enabled);
+        EXPECT_TRUE(passes(reason));
+        EXPECT_EQ(openedBy(3), QStringList{u"a"_s});
+    }
+}
+
+TEST_F(MouseButtonManagerTest, WatchesWhenPermissionIsGivenLater) {
+    accessibility_.trusted = false;
+    MouseButtonManager& manager = start();
+    manager.startMonitoring();
+    ASSERT_TRUE(test::waitFor([&] { return accessibility_.questions >= 3; }));
+    EXPECT_TRUE(taps_.taps.empty());
+    manager.addBinding(bound(3, u"a"_s));
+    accessibility_.trusted = true;
+    ASSERT_TRUE(test::waitFor([&] { return !taps_.taps.empty(); }));
+    EXPECT_EQ(openedBy(3), QStringList{u"a"_s});
+}
+
+TEST_F(MouseButtonManagerTest, KeepsBindingsWhenTheSessionAllowsNoTap) {
+    taps_.allowsTaps = false;
+    MouseButtonManager& manager = start({bound(3, u"a"_s)});
+    manager.startMonitoring();
+    manager.addBinding(bound(4, u"b"_s));
+    EXPECT_EQ(summary(manager), u"3a 4b"_s);
+    EXPECT_TRUE(openedBy(3).isEmpty());
+}
+
+} // namespace
+} // namespace velmora

@@ -1,0 +1,254 @@
+// The decisions of the event taps, without a display.
+
+#include "platform/x11/ChordStates.h"
+#include "platform/x11/KeyLabels.h"
+#include "platform/x11/MouseButtonNumbers.h"
+#include "platform/x11/X11EventTap.h"
+#include "support/TestDisplay.h"
+
+#include "foundation/Log.h"
+
+#include <cstring>
+#include <gmock/gmock.h>
+#include <limits>
+#include <xkbcommon/xkbcommon.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace velmora;
+using testing::ElementsAre;
+using velmora::test::waitFor;
+
+namespace {
+
+TEST(MouseButtonNumbers, LeaveOutWheelsAndWhatXCannotExpress) {
+    struct Case {
+        std::int64_t number;
+        int xButton; ///< 0 for none
+    };
+    for (const Case& c : std::vector<Case>{
+             {std::numeric_limits<std::int64_t>::min(), 0},
+             {-1, 0},
+             {0, 0},
+             {1, 0},
+             {2, 2},
+             {3, 8},
+             {4, 9},
+             {5, 10},
+             {250, 255},
+             {251, 0},
+             {256 + 3, 0},
+             {std::numeric_limits<std::int64_t>::max(), 0}}) {
+        const auto button = xButtonFromNumber(c.number);
+        EXPECT_EQ(button.value_or(0), c.xButton) << c.number;
+        if (button) {
+            EXPECT_EQ(numberFromXButton(*button), c.number);
+        }
+    }
+}
+
+TEST(ChordStates, HoldTheRequiredModifiersWhateverElseIsHeld) {
+    const ModifierMap usual;
+    EXPECT_EQ(chordStates(usual, 0).size(), 256U);
+    const auto option = chordStates(usual, kCGEventFlagMaskAlternate);
+    EXPECT_EQ(option.size(), 128U);
+    EXPECT_TRUE(std::ranges::all_of(option, [](auto state) { return state & XCB_MOD_MASK_1; }));
+    EXPECT_EQ(
+        chordStates(
+            usual, kCGEventFlagMaskCommand | kCGEventFlagMaskAlternate | kCGEventFlagMaskControl |
+                       kCGEventFlagMaskShift)
+            .size(),
+        16U);
+}
+
+TEST(ChordStates, OnlyLocksKeepAChordPlain) {
+    const ModifierMap usual;
+    const auto isPlain = [&](std::uint32_t state) {
+        return isPlainChord(usual, kCGEventFlagMaskAlternate, state);
+    };
+    for (const std::uint32_t locks : {0x00, 0x02, 0x10, 0x20, 0x80, 0xb2})
+        EXPECT_TRUE(isPlain(0x08 | locks)) << locks;
+    for (const std::uint32_t others : {0x01, 0x04, 0x40, 0x45})
+        EXPECT_FALSE(isPlain(0x08 | others)) << others;
+}
+
+TEST(KeyLabels, NameWhatAKeyTypesWithModifiersButShiftIgnored) {
+    const std::unique_ptr<xkb_context, decltype(&xkb_context_unref)> context(
+        xkb_context_new(XKB_CONTEXT_NO_FLAGS), &xkb_context_unref);
+    const xkb_rule_names names{"evdev", "pc105", "us,fr,ru,jp", ",,,", ""};
+    const std::unique_ptr<xkb_keymap, decltype(&xkb_keymap_unref)> keymap(
+        xkb_keymap_new_from_names(context.get(), &names, XKB_KEYMAP_COMPILE_NO_FLAGS),
+        &xkb_keymap_unref);
+    ASSERT_TRUE(keymap);
+    const KeyLabels labels(keymap.get());
+    struct Case {
+        const char* key;
+        unsigned group;
+        bool shift;
+        QString label;
+    };
+    for (const Case& c : std::vector<Case>{
+             {"AC01", 0, false, u"a"_s},     {"AC01", 0, true, u"A"_s},
+             {"AD01", 1, false, u"a"_s},     {"AE01", 1, false, u"&"_s},
+             {"AC01", 2, false, u"ф"_s},     {"AC01", 7, false, u"a"_s},
+             {"AD11", 1, false, u"^"_s},     {"AD11", 1, true, u"¨"_s},
+             {"AE02", 0, true, u"@"_s},      {"KP1", 0, false, u"1"_s},
+             {"KP1", 0, true, u"1"_s},       {"KPDL", 0, false, u"."_s},
+             {"KPAD", 0, false, u"+"_s},     {"FK05", 0, false, u"F5"_s},
+             {"FK05", 0, true, u"F5"_s},     {"DELE", 0, false, u"⌦"_s},
+             {"KPEN", 0, false, u"Enter"_s}, {"HOME", 0, false, u"Home"_s},
+             {"SPCE", 0, false, u" "_s},     {"AE13", 3, false, u"\\"_s},
+         }) {
+        const auto keycode =
+            static_cast<xcb_keycode_t>(xkb_keymap_key_by_name(keymap.get(), c.key));
+        EXPECT_EQ(labels.label(keycode, c.group, c.shift), c.label) << c.key << c.group;
+        EXPECT_FALSE(labels.isModifier(keycode, c.group)) << c.key;
+    }
+    for (const char* key : {"LFSH", "RTSH", "LCTL", "LALT", "RALT", "LWIN", "CAPS", "NMLK"})
+        EXPECT_TRUE(labels.isModifier(
+            static_cast<xcb_keycode_t>(xkb_keymap_key_by_name(keymap.get(), key)), 1))
+            << key;
+    EXPECT_EQ(labels.label(0, 0, false), u""_s);
+    EXPECT_EQ(KeyLabels().label(38, 0, false), u""_s);
+}
+
+/// A grab whose answers the test sets.
+struct ScriptedGrab final : X11Grab {
+    struct Script {
+        bool free = true;
+        bool waits = false;
+        int tries = 0;
+        int alive = 0;
+        X11Grab::Sink sink;
+    };
+    explicit ScriptedGrab(Script& newScript, Sink sink) : script(newScript) {
+        ++script.alive;
+        script.sink = std::move(sink);
+    }
+    ~ScriptedGrab() override { --script.alive; }
+    bool obtain() override {
+        ++script.tries;
+        return script.free;
+    }
+    bool adopt(const EventTapInterest& interest) override {
+        return std::holds_alternative<TapInterest::Chord>(interest);
+    }
+    QString refusedName() const override { return u"X"_s; }
+    std::span<const std::chrono::milliseconds> pauses() const override {
+        static constexpr std::chrono::milliseconds pauses[] = {20ms, 40ms};
+        return pauses;
+    }
+    bool waitsForItsTurn() const override { return script.waits; }
+
+    Script& script;
+};
+
+class Tap : public testing::Test {
+protected:
+    void make(EventTaps::Handler handler) {
+        tap = std::make_unique<X11EventTap>(
+            [this](const auto&, X11Grab::Sink sink) {
+                return std::make_unique<ScriptedGrab>(script, std::move(sink));
+            },
+            eventMaskBit(EventType::keyDown), TapInterest::Chord{}, std::move(handler));
+    }
+    EventTaps::Handler reenabling() {
+        return [this](EventType type, const TapEvent& event) {
+            types.push_back(type);
+            if (type == EventType::tapDisabledByUserInput)
+                tap->setEnabled(true);
+            return std::optional(event);
+        };
+    }
+
+    ScriptedGrab::Script script;
+    std::unique_ptr<X11EventTap> tap;
+    std::vector<EventType> types;
+};
+
+TEST_F(Tap, AsksAgainAfterGrowingPausesWhileItsHandlerWantsIt) {
+    testing::internal::CaptureStdout();
+    make(reenabling());
+    script.free = false;
+    QElapsedTimer clock;
+    clock.start();
+    tap->setEnabled(true);
+    EXPECT_FALSE(tap->isEnabled());
+    EXPECT_TRUE(types.empty()) << "told only in a later turn";
+    ASSERT_TRUE(waitFor([this] { return script.tries == 3; }));
+    EXPECT_GE(clock.elapsed(), 55);
+    script.free = true;
+    ASSERT_TRUE(waitFor([this] { return script.tries == 4; }));
+    EXPECT_TRUE(tap->isEnabled());
+    EXPECT_THAT(types, testing::Each(EventType::tapDisabledByUserInput));
+    EXPECT_EQ(types.size(), 3U);
+    EXPECT_EQ(
+        testing::internal::GetCapturedStdout(),
+        "X is held by another program; trying again\nX works again\n");
+}
+
+TEST_F(Tap, StaysOffWhenItsHandlerLeavesItOff) {
+    make([](EventType, const TapEvent& event) { return std::optional(event); });
+    script.free = false;
+    tap->setEnabled(true);
+    ASSERT_TRUE(waitFor([this] { return script.alive == 0; }));
+    EXPECT_FALSE(tap->isEnabled());
+    script.free = true;
+    tap->setEnabled(true);
+    EXPECT_TRUE(tap->isEnabled());
+    EXPECT_EQ(script.tries, 2) << "a fresh start asks at once";
+}
+
+TEST_F(Tap, WaitsForItsTurnWithoutTellingTheHandler) {
+    make(reenabling());
+    script.free = false;
+    script.waits = true;
+    tap->setEnabled(true);
+    ASSERT_TRUE(waitFor([this] { return script.tries == 3; }));
+    EXPECT_TRUE(tap->isEnabled());
+    EXPECT_TRUE(types.empty());
+    tap->setEnabled(false);
+    EXPECT_EQ(script.alive, 0);
+}
+
+TEST_F(Tap, MayBeDestroyedByItsHandler) {
+    make([this](EventType, const TapEvent&) -> std::optional<TapEvent> {
+        tap.reset();
+        return std::nullopt;
+    });
+    tap->setEnabled(true);
+    script.sink.event({.type = EventType::keyDown});
+    EXPECT_EQ(script.alive, 0);
+
+    make([this](EventType, const TapEvent& event) {
+        tap.reset();
+        return std::optional(event);
+    });
+    script.free = false;
+    tap->setEnabled(true);
+    EXPECT_TRUE(waitFor([this] { return script.alive == 0; }));
+}
+
+TEST_F(Tap, HandsOverOnlyTheTypesInItsMask) {
+    make(reenabling());
+    tap->setEnabled(true);
+    script.sink.event({.type = EventType::flagsChanged});
+    script.sink.event({.type = EventType::keyDown});
+    EXPECT_THAT(types, ElementsAre(EventType::keyDown));
+}
+
+TEST_F(Tap, AsksAtOnceForANewInterestAndAfterAChangeOfTheKeyboard) {
+    make(reenabling());
+    tap->setInterest(TapInterest::Chord{});
+    EXPECT_EQ(script.tries, 0) << "not while disabled";
+    tap->setEnabled(true);
+    tap->setInterest(TapInterest::Chord{});
+    EXPECT_EQ(script.tries, 2);
+    script.sink.changed();
+    EXPECT_EQ(script.tries, 3);
+    tap->setInterest(TapInterest::MouseButtons{});
+    EXPECT_EQ(script.tries, 4);
+    EXPECT_EQ(script.alive, 1);
+}
+
+} // namespace
