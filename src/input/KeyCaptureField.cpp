@@ -3,11 +3,12 @@
 #include "input/KeyCaptureNSView.h"
 
 #include <QVBoxLayout>
+#include <utility>
 
 namespace velmora {
 
 KeyCaptureField::KeyCaptureField(
-    QProperty<QStringList>& modifiers, QProperty<QString>& key, QProperty<bool>& isFocused,
+    Binding<QStringList> modifiers, Binding<QString> key, Binding<bool> isFocused,
     EventTaps& eventTaps, QWidget* parent)
     : QWidget(parent),
       modifiers_(modifiers),
@@ -20,28 +21,28 @@ KeyCaptureField::KeyCaptureField(
     setFocusProxy(view_);
 
     view_->onKeyCapture = [this](const QStringList& newModifiers, const QString& newKey) {
-        modifiers_ = newModifiers;
-        key_ = newKey;
+        *modifiers_ = newModifiers;
+        *key_ = newKey;
     };
     connect(view_, &KeyCaptureNSView::focusChanged, this, [this](bool focused) {
-        isFocused_ = focused;
+        *isFocused_ = focused;
     });
-    modifiersNotifier_ = modifiers_.addNotifier([this] { updateView(); });
-    keyNotifier_ = key_.addNotifier([this] { updateView(); });
-    focusNotifier_ = isFocused_.addNotifier([this] { updateView(); });
+    modifiersNotifier_ = modifiers_->addNotifier([this] { updateView(); });
+    keyNotifier_ = key_->addNotifier([this] { updateView(); });
+    focusNotifier_ = isFocused_->addNotifier([this] { updateView(); });
     updateView();
 }
 
 void KeyCaptureField::updateView() {
-    if (isFocused_) {
+    if (isFocused_->value()) {
         view_->setFocus();
         view_->reset();
     } else if (view_->hasFocus()) {
         view_->clearFocus();
     }
-    if (modifiers_.value().isEmpty() && key_.value().isEmpty())
+    if (modifiers_->value().isEmpty() && key_->value().isEmpty())
         view_->reset();
-    view_->updateDisplay(modifiers_, key_);
+    view_->updateDisplay(*modifiers_, *key_);
 }
 
 } // namespace velmora

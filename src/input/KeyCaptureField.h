@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QProperty>
+#include "input/Binding.h"
+
 #include <QStringList>
 #include <QWidget>
 
@@ -14,9 +15,9 @@ class KeyCaptureNSView;
 class KeyCaptureField : public QWidget {
     Q_OBJECT
 public:
-    /// The bound values and `eventTaps` outlive the field.
+    /// `eventTaps` outlives the field.
     KeyCaptureField(
-        QProperty<QStringList>& modifiers, QProperty<QString>& key, QProperty<bool>& isFocused,
+        Binding<QStringList> modifiers, Binding<QString> key, Binding<bool> isFocused,
         EventTaps& eventTaps, QWidget* parent = nullptr);
 
     KeyCaptureNSView& view() { return *view_; }
@@ -24,9 +25,9 @@ public:
 private:
     void updateView();
 
-    QProperty<QStringList>& modifiers_;
-    QProperty<QString>& key_;
-    QProperty<bool>& isFocused_;
+    const Binding<QStringList> modifiers_;
+    const Binding<QString> key_;
+    const Binding<bool> isFocused_;
     KeyCaptureNSView* const view_;
     QPropertyNotifier modifiersNotifier_;
     QPropertyNotifier keyNotifier_;

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace velmora {
 namespace {
@@ -24,8 +25,8 @@ constexpr QColor outlineColor(128, 128, 128, 77); // gray at opacity 0.3
 /// The line around the field, centred on the field's edge, above it and transparent to the pointer.
 class Outline : public QWidget {
 public:
-    Outline(const QProperty<bool>& isFocused, QWidget* parent)
-        : QWidget(parent), isFocused_(isFocused) {
+    Outline(Binding<bool> isFocused, QWidget* parent)
+        : QWidget(parent), isFocused_(std::move(isFocused)) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 
@@ -34,14 +35,14 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(
-            QPen(isFocused_ ? palette().highlight().color() : outlineColor, outlineWidth));
+            QPen(isFocused_->value() ? palette().highlight().color() : outlineColor, outlineWidth));
         const double inset = outlineWidth / 2.0;
         painter.drawRoundedRect(
             QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
     }
 
 private:
-    const QProperty<bool>& isFocused_;
+    const Binding<bool> isFocused_;
 };
 
 /// A title in the accent colour without a bezel. A click leaves the focus where it is, so that
@@ -86,20 +87,20 @@ public:
 } // namespace
 
 KeyCaptureView::KeyCaptureView(
-    QProperty<QStringList>& modifiers, QProperty<QString>& key, QProperty<bool>& isFocused,
+    Binding<QStringList> modifiers, Binding<QString> key, Binding<bool> isFocused,
     EventTaps& eventTaps, QWidget* parent)
     : QWidget(parent),
       modifiers_(modifiers),
       key_(key),
       isFocused_(isFocused),
-      field_(new KeyCaptureField(modifiers, key, isFocused, eventTaps)),
+      field_(new KeyCaptureField(modifiers_, key_, isFocused_, eventTaps)),
       hint_(new Hint),
       clearButton_(new ClearButton),
-      outline_(new Outline(isFocused, this)) {
+      outline_(new Outline(isFocused_, this)) {
     field_->setFixedHeight(fieldHeight);
     connect(clearButton_, &PlainButton::clicked, this, [this] {
-        modifiers_ = QStringList();
-        key_ = QString();
+        *modifiers_ = QStringList();
+        *key_ = QString();
     });
 
     auto* footer = new QHBoxLayout;
@@ -117,9 +118,9 @@ KeyCaptureView::KeyCaptureView(
     stack->addStretch();
     setFocusProxy(field_);
 
-    modifiersNotifier_ = modifiers_.addNotifier([this] { updateFooter(); });
-    keyNotifier_ = key_.addNotifier([this] { updateFooter(); });
-    focusNotifier_ = isFocused_.addNotifier([this] { outline_->update(); });
+    modifiersNotifier_ = modifiers_->addNotifier([this] { updateFooter(); });
+    keyNotifier_ = key_->addNotifier([this] { updateFooter(); });
+    focusNotifier_ = isFocused_->addNotifier([this] { outline_->update(); });
     updateFooter();
 }
 
@@ -128,7 +129,7 @@ KeyCaptureNSView& KeyCaptureView::view() {
 }
 
 void KeyCaptureView::updateFooter() {
-    const bool hasCombination = !modifiers_.value().isEmpty() || !key_.value().isEmpty();
+    const bool hasCombination = !modifiers_->value().isEmpty() || !key_->value().isEmpty();
     hint_->setVisible(!hasCombination);
     clearButton_->setVisible(hasCombination);
 }
@@ -138,7 +139,7 @@ void KeyCaptureView::showEvent(QShowEvent* event) {
     if (wasShown_)
         return;
     wasShown_ = true;
-    isFocused_ = true;
+    *isFocused_ = true;
 }
 
 void KeyCaptureView::resizeEvent(QResizeEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QProperty>
+#include "input/Binding.h"
+
 #include <QStringList>
 #include <QWidget>
 
@@ -18,9 +19,9 @@ class PlainButton;
 class KeyCaptureView : public QWidget {
     Q_OBJECT
 public:
-    /// The bound values and `eventTaps` outlive the control. It writes all three.
+    /// `eventTaps` outlives the control. It writes all three.
     KeyCaptureView(
-        QProperty<QStringList>& modifiers, QProperty<QString>& key, QProperty<bool>& isFocused,
+        Binding<QStringList> modifiers, Binding<QString> key, Binding<bool> isFocused,
         EventTaps& eventTaps, QWidget* parent = nullptr);
 
     KeyCaptureNSView& view();
@@ -32,9 +33,9 @@ protected:
 private:
     void updateFooter();
 
-    QProperty<QStringList>& modifiers_;
-    QProperty<QString>& key_;
-    QProperty<bool>& isFocused_;
+    const Binding<QStringList> modifiers_;
+    const Binding<QString> key_;
+    const Binding<bool> isFocused_;
     KeyCaptureField* const field_;
     QLabel* const hint_;
     PlainButton* const clearButton_;

@@ -44,22 +44,22 @@ protected:
 
     /// What is bound, and shown as well: "Command+Shift N".
     QString combination() {
-        EXPECT_EQ(view().currentModifiers(), modifiers_.value());
-        EXPECT_EQ(view().currentKey(), key_.value());
-        return modifiers_.value().join(u'+') + u' ' + key_.value();
+        EXPECT_EQ(view().currentModifiers(), modifiers_->value());
+        EXPECT_EQ(view().currentKey(), key_->value());
+        return modifiers_->value().join(u'+') + u' ' + key_->value();
     }
 
     test::FakeEventTaps taps_;
-    QProperty<QStringList> modifiers_;
-    QProperty<QString> key_;
-    QProperty<bool> isFocused_;
+    const Binding<QStringList> modifiers_ = std::make_shared<QProperty<QStringList>>();
+    const Binding<QString> key_ = std::make_shared<QProperty<QString>>();
+    const Binding<bool> isFocused_ = std::make_shared<QProperty<bool>>();
     std::optional<QWidget> window_{std::in_place};
     QLineEdit* other_ = new QLineEdit;
     KeyCaptureView* capture_ = new KeyCaptureView(modifiers_, key_, isFocused_, taps_);
 };
 
 TEST_F(KeyCaptureTest, TakesTheFocusWhenShownAndEveryKeyOfTheSession) {
-    EXPECT_TRUE(isFocused_);
+    EXPECT_TRUE(isFocused_->value());
     ASSERT_EQ(taps_.taps.size(), 1U);
     const auto& tap = *taps_.taps.front();
     EXPECT_EQ(tap.location, EventTapLocation::sessionEventTap);
@@ -162,7 +162,7 @@ TEST_F(KeyCaptureTest, LosingTheFocusInAnyWayGivesTheKeysBackAtOnce) {
     QWidget elsewhere;
     const std::pair<const char*, std::function<void()>> ways[] = {
         {"another field", [&] { other_->setFocus(); }},
-        {"the flag", [&] { isFocused_ = false; }},
+        {"the flag", [&] { *isFocused_ = false; }},
         {"hidden", [&] { capture_->hide(); }},
         {"closed", [&] { window_->close(); }},
         {"disabled", [&] { capture_->setEnabled(false); }},
@@ -177,22 +177,23 @@ TEST_F(KeyCaptureTest, LosingTheFocusInAnyWayGivesTheKeysBackAtOnce) {
         SCOPED_TRACE(name);
         lose();
         EXPECT_TRUE(taps_.taps.empty());
-        EXPECT_FALSE(isFocused_);
+        EXPECT_FALSE(isFocused_->value());
         EXPECT_FALSE(taps_.sendKey(45, command, u"n"_s));
         EXPECT_EQ(combination(), u" "_s);
         capture_->setEnabled(true);
         capture_->show();
         ASSERT_TRUE(regain());
-        EXPECT_TRUE(isFocused_);
+        EXPECT_TRUE(isFocused_->value());
     }
     window_.reset();
     EXPECT_TRUE(taps_.taps.empty());
+    EXPECT_FALSE(isFocused_->value());
 }
 
 TEST_F(KeyCaptureTest, AClickOrTheFlagBringsTheFocus) {
     EXPECT_TRUE(view().focusPolicy() & Qt::ClickFocus);
     other_->setFocus();
-    isFocused_ = true;
+    *isFocused_ = true;
     EXPECT_TRUE(view().hasFocus());
     EXPECT_EQ(taps_.taps.size(), 1U);
 }
@@ -241,7 +242,7 @@ TEST_F(KeyCaptureTest, TakesTheKeysOfItsWindowWhereThereIsNoTap) {
 
 TEST_F(KeyCaptureTest, HandlesAPressOnceThoughItComesTwice) {
     QStringList changes;
-    const auto notifier = key_.addNotifier([&] { changes << key_.value(); });
+    const auto notifier = key_->addNotifier([&] { changes << key_->value(); });
     taps_.sendKey(45, command, u"n"_s);
     // Named by what the window sees, this would be another key.
     EXPECT_TRUE(send(QEvent::KeyPress, Qt::Key_B, Qt::MetaModifier));
@@ -262,10 +263,10 @@ TEST_F(KeyCaptureTest, ADefaultKeyHandlerAnswersPlainReturn) {
 }
 
 TEST_F(KeyCaptureTest, SurvivesAnOwnerThatClosesItOnCapture) {
-    const auto notifier = key_.addNotifier([&] { capture_->hide(); });
+    const auto notifier = key_->addNotifier([&] { capture_->hide(); });
     EXPECT_TRUE(taps_.sendKey(45, command, u"n"_s));
     EXPECT_TRUE(taps_.taps.empty());
-    EXPECT_EQ(modifiers_.value(), QStringList{u"Command"_s});
+    EXPECT_EQ(modifiers_->value(), QStringList{u"Command"_s});
 }
 
 TEST_F(KeyCaptureTest, SaysWhatItIsAndHolds) {
@@ -282,10 +283,10 @@ TEST_F(KeyCaptureTest, SaysWhatItIsAndHolds) {
 TEST_F(KeyCaptureTest, ShowsWhatIsStoredWithoutUnknownModifiers) {
     other_->setFocus();
     const QImage placeholder = view().grab().toImage();
-    modifiers_ = QStringList{u"Hyper"_s, u"Command"_s, u"command"_s};
-    key_ = u"N"_s;
+    *modifiers_ = QStringList{u"Hyper"_s, u"Command"_s, u"command"_s};
+    *key_ = u"N"_s;
     const QImage withUnknown = view().grab().toImage();
-    modifiers_ = QStringList{u"Command"_s};
+    *modifiers_ = QStringList{u"Command"_s};
     EXPECT_EQ(view().grab().toImage(), withUnknown);
     EXPECT_NE(withUnknown, placeholder);
     EXPECT_EQ(view().height(), 40);

@@ -15,29 +15,10 @@ class TrustPollTest : public testing::Test {
 protected:
     TrustPollTest() { accessibility_.trusted = false; }
 
-    bool asked(int times) {
-        return test::waitFor([&] { return accessibility_.questions >= times; });
-    }
-
     test::FakeAccessibility accessibility_;
     int told_ = 0;
     std::optional<TrustPoll> poll_{std::in_place, accessibility_, 1ms};
 };
-
-TEST_F(TrustPollTest, AsksSilentlyUntilTheFirstYesAndTellsOnce) {
-    bool prompted = false;
-    accessibility_.setPromptHandler([&] { prompted = true; });
-    EXPECT_FALSE(poll_->isActive());
-    poll_->start([&] { ++told_; });
-    ASSERT_TRUE(asked(3));
-    EXPECT_EQ(told_, 0);
-    EXPECT_FALSE(prompted);
-
-    accessibility_.trusted = true;
-    ASSERT_TRUE(test::waitFor([&] { return told_ > 0; }));
-    EXPECT_FALSE(poll_->isActive());
-    EXPECT_EQ(told_, 1);
-}
 
 TEST_F(TrustPollTest, WaitsAgainWhenStartedFromWhatItTells) {
     poll_->start([&] {
