@@ -95,21 +95,26 @@ QPushButton:default:hover { background: @accenthover; border-color: @accenthover
 QPushButton:focus { border: 2px solid @accent; padding: 3px 13px; outline: none; }
 QPushButton:default:focus { border: 2px solid @text; }
 QPushButton:disabled { color: @secondary; background: @window; }
+QLineEdit {
+    background: @base; color: @text; border: 1px solid @border; border-radius: 6px;
+    padding: 3px 7px; min-height: 18px;
+    selection-background-color: @accent; selection-color: white;
+}
+QLineEdit:focus { border: 2px solid @accent; padding: 2px 6px; }
+QLineEdit[plain="true"] { background: transparent; border: none; padding: 0; }
+QListView { background: transparent; border: none; outline: none; }
+QToolTip { background: @base; color: @text; border: 1px solid @border; padding: 3px 5px; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 4px 2px; }
 QScrollBar::handle:vertical { background: @scroll; border-radius: 4px; min-height: 28px; }
 QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )"_s;
     const std::initializer_list<std::pair<QLatin1StringView, QString>> values = {
-        {"@accenthover"_L1, colors.accentHover.name()},
-        {"@button"_L1, colors.button.name()},
-        {"@text"_L1, colors.text.name()},
-        {"@border"_L1, colors.border.name()},
-        {"@hover"_L1, colors.buttonHover.name()},
-        {"@pressed"_L1, colors.buttonPressed.name()},
-        {"@accent"_L1, colors.accent.name()},
-        {"@secondary"_L1, colors.secondaryText.name()},
-        {"@window"_L1, colors.window.name()},
+        {"@accenthover"_L1, colors.accentHover.name()}, {"@base"_L1, colors.base.name()},
+        {"@button"_L1, colors.button.name()},           {"@text"_L1, colors.text.name()},
+        {"@border"_L1, colors.border.name()},           {"@hover"_L1, colors.buttonHover.name()},
+        {"@pressed"_L1, colors.buttonPressed.name()},   {"@accent"_L1, colors.accent.name()},
+        {"@secondary"_L1, colors.secondaryText.name()}, {"@window"_L1, colors.window.name()},
         {"@scroll"_L1, colors.scrollHandle.name()},
     };
     for (const auto& [name, value] : values)
@@ -117,13 +122,17 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
     return sheet;
 }
 
-void apply(QWidget& window) {
-    const Colors& colors = scheme().current == ColorScheme::dark ? darkColors : lightColors;
-    QFont font = window.font();
+const Colors& currentColors() {
+    return scheme().current == ColorScheme::dark ? darkColors : lightColors;
+}
+
+/// Palette and font go by way of the application: a window with a style sheet keeps its own from
+/// its children.
+void applyToApplication() {
+    QFont font = QApplication::font();
     font.setPixelSize(fontSize);
-    window.setFont(font);
-    window.setPalette(palette(colors));
-    window.setStyleSheet(styleSheet(colors));
+    QApplication::setFont(font);
+    QApplication::setPalette(palette(currentColors()));
 }
 
 } // namespace
@@ -132,8 +141,11 @@ void setColorScheme(ColorScheme newScheme) {
     if (scheme().current == newScheme)
         return;
     scheme().current = newScheme;
+    if (scheme().followers.isEmpty())
+        return;
+    applyToApplication();
     for (QWidget* window : scheme().followers)
-        apply(*window);
+        window->setStyleSheet(styleSheet(currentColors()));
 }
 
 ColorScheme colorScheme() {
@@ -141,11 +153,13 @@ ColorScheme colorScheme() {
 }
 
 void follow(QWidget& window) {
+    if (scheme().followers.isEmpty())
+        applyToApplication();
     scheme().followers.append(&window);
     QObject::connect(&window, &QObject::destroyed, &scheme(), [window = &window] {
         scheme().followers.removeOne(window);
     });
-    apply(window);
+    window.setStyleSheet(styleSheet(currentColors()));
 }
 
 } // namespace velmora::WindowTheme

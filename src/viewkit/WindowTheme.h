@@ -18,7 +18,8 @@ inline constexpr int fontSize = 13;
 void setColorScheme(ColorScheme scheme);
 ColorScheme colorScheme();
 
-/// Gives `window` and its children the look of the current scheme, for as long as it lives.
+/// Gives `window` and its children the look of the current scheme, for as long as it lives. The
+/// application's palette and font are the theme's from the first such window on.
 void follow(QWidget& window);
 
 } // namespace WindowTheme

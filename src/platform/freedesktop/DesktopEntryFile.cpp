@@ -11,6 +11,10 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
+/// What a line that matters can start with. Most others are translated comments and keywords:
+/// passing them over early halves the time of reading.
+constexpr std::string_view lineStarts = "[NTIOH \t\r";
+
 /// The character of an escape sequence's second letter in a value.
 char unescaped(char letter) {
     switch (letter) {
@@ -59,9 +63,12 @@ DesktopEntryFile::parse(std::string_view text, const QByteArrayList& languages) 
     bool inside = false;
     while (!text.empty()) {
         const auto end = text.find('\n');
-        const std::string_view line = trimmed(text.substr(0, end));
+        const std::string_view whole = text.substr(0, end);
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-        if (line.empty() || line.front() == '#')
+        if (whole.empty() || lineStarts.find(whole.front()) == std::string_view::npos)
+            continue;
+        const std::string_view line = trimmed(whole);
+        if (line.empty())
             continue;
         if (line.front() == '[') {
             if (inside)

@@ -44,7 +44,7 @@ std::optional<QByteArray> contents(const fs::path& path) {
     struct stat status {};
     if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > sizeLimit)
         return {};
-    return file.read(sizeLimit);
+    return file.read(status.st_size);
 }
 
 bool isProgram(const QByteArray& path) {

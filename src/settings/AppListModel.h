@@ -1,0 +1,56 @@
+#pragma once
+
+#include "settings/AppInfo.h"
+
+#include <QAbstractListModel>
+#include <QList>
+
+namespace velmora {
+
+/// The result of a scan with what searching it needs, both made off the main thread.
+struct SearchableApps {
+    QList<AppInfo> apps;
+    QStringList folded; ///< name and identifier of each, folded, in the order of `apps`
+
+    SearchableApps() = default;
+    explicit SearchableApps(QList<AppInfo> list);
+};
+
+/// The rows of the application chooser: the applications that the search or the first-20 rule
+/// leaves, then, when that rule hides some, one row that offers them all.
+class AppListModel : public QAbstractListModel {
+    Q_OBJECT
+public:
+    /// Applications listed until the user searches or asks for all.
+    static constexpr qsizetype initialCount = 20;
+
+    explicit AppListModel(QString selectedBundleId, QObject* parent = nullptr);
+
+    void setApps(SearchableApps apps);
+    const QList<AppInfo>& apps() const { return all_.apps; }
+
+    void setSearchText(const QString& text);
+    /// Lifts the first-20 rule; rows stay where they are.
+    void showAllApps();
+
+    /// The application of a row; null for the row that offers all.
+    const AppInfo* app(const QModelIndex& index) const;
+    /// Whether the row shows the current choice: every one with its bundle identifier does.
+    bool isSelected(const AppInfo& app) const { return app.bundleId == selectedBundleId_; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    /// Display text (the name, or the offer of all) and the texts for assistive programs.
+    QVariant data(const QModelIndex& index, int role) const override;
+
+private:
+    bool offersAll() const;
+    void filter();
+
+    QString selectedBundleId_;
+    SearchableApps all_;
+    QString searchText_; ///< folded
+    bool showAllApps_ = false;
+    QList<qsizetype> filtered_; ///< positions in `all_`
+};
+
+} // namespace velmora

@@ -1,0 +1,154 @@
+#include "settings/AppListView.h"
+
+#include "settings/AppListModel.h"
+#include "settings/AppRow.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+using namespace std::chrono_literals;
+
+namespace velmora {
+namespace {
+
+constexpr int rowSpacing = 2;
+constexpr int verticalPadding = 4;
+/// How long loading icons may hold the main thread before it lets events in.
+constexpr int sliceMilliseconds = 5;
+
+} // namespace
+
+class AppListView::Delegate : public QStyledItemDelegate {
+public:
+    explicit Delegate(const AppListView& view) : view_(view) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index)
+        const override {
+        painter->save();
+        const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
+        const bool current = index == view_.currentIndex();
+        if (const AppInfo* app = view_.model_.app(index)) {
+            const AppRow row{
+                .app = *app,
+                .isSelected = view_.model_.isSelected(*app),
+                .icon = view_.icon(*app),
+                .isHovered = hovered,
+                .isCurrent = current};
+            row.paint(
+                *painter, option.rect.adjusted(0, rowSpacing / 2, 0, -rowSpacing / 2),
+                view_.palette());
+        } else {
+            paintButton(*painter, option, index.data().toString(), hovered, current);
+        }
+        painter->restore();
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+        return {AppIcons::side, AppRow::height() + rowSpacing};
+    }
+
+private:
+    void paintButton(
+        QPainter& painter, const QStyleOptionViewItem& option, const QString& title, bool hovered,
+        bool focused) const {
+        QStyleOptionButton button;
+        button.initFrom(&view_.buttonLook_);
+        button.palette = view_.palette();
+        button.fontMetrics = QFontMetrics(view_.font());
+        button.text = title;
+        button.state = QStyle::State_Enabled | QStyle::State_Raised;
+        button.state.setFlag(QStyle::State_MouseOver, hovered);
+        button.state.setFlag(QStyle::State_HasFocus, focused);
+        QStyle& style = *view_.buttonLook_.style();
+        const QSize text = button.fontMetrics.size(Qt::TextShowMnemonic, title);
+        button.rect.setSize(
+            style.sizeFromContents(QStyle::CT_PushButton, &button, text, &view_.buttonLook_));
+        button.rect.moveCenter(option.rect.center());
+        painter.setFont(view_.font());
+        style.drawControl(QStyle::CE_PushButton, &button, &painter, &view_.buttonLook_);
+    }
+
+    const AppListView& view_;
+};
+
+AppListView::AppListView(AppListModel& model, QWidget* parent)
+    : QListView(parent), model_(model), buttonLook_(this) {
+    buttonLook_.hide();
+    buttonLook_.setAutoDefault(false);
+    buttonLook_.setFocusPolicy(Qt::NoFocus);
+    setModel(&model);
+    setItemDelegate(new Delegate(*this));
+    itemDelegate()->setParent(this);
+    setFrameShape(QFrame::NoFrame);
+    setViewportMargins(0, verticalPadding - rowSpacing / 2, 0, verticalPadding - rowSpacing / 2);
+    viewport()->setAutoFillBackground(false);
+    setUniformItemSizes(true);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setSelectionMode(SingleSelection);
+    setMouseTracking(true);
+    connect(this, &QListView::clicked, this, &AppListView::rowPicked);
+    iconTimer_.setSingleShot(true);
+    iconTimer_.setInterval(0ms);
+    connect(&iconTimer_, &QTimer::timeout, this, &AppListView::loadSomeIcons);
+}
+
+bool AppListView::moveCurrent(int key) {
+    const int rows = model_.rowCount();
+    const int page = qMax(1, viewport()->height() / (AppRow::height() + rowSpacing) - 1);
+    int step = 0;
+    switch (key) {
+    case Qt::Key_Up:
+        step = -1;
+        break;
+    case Qt::Key_Down:
+        step = 1;
+        break;
+    case Qt::Key_PageUp:
+        step = -page;
+        break;
+    case Qt::Key_PageDown:
+        step = page;
+        break;
+    default:
+        return false;
+    }
+    if (rows > 0) {
+        // Without a current row the first step leads to the first one.
+        const int row = currentIndex().isValid() ? currentIndex().row() + step : 0;
+        setCurrentIndex(model_.index(qBound(0, row, rows - 1)));
+    }
+    return true;
+}
+
+QPixmap AppListView::icon(const AppInfo& app) const {
+    const auto pixmap = icons_.find(app, devicePixelRatioF());
+    if (!pixmap)
+        iconTimer_.start();
+    return pixmap.value_or(QPixmap());
+}
+
+void AppListView::loadSomeIcons() {
+    QElapsedTimer elapsed;
+    elapsed.start();
+    const double ratio = devicePixelRatioF();
+    const QRect visible = viewport()->rect();
+    QModelIndex index = indexAt(QPoint(0, 0));
+    for (; index.isValid() && visualRect(index).intersects(visible);
+         index = model_.index(index.row() + 1)) {
+        const AppInfo* app = model_.app(index);
+        if (!app || icons_.find(*app, ratio))
+            continue;
+        if (elapsed.elapsed() >= sliceMilliseconds) {
+            iconTimer_.start();
+            return;
+        }
+        icons_.load(*app, ratio);
+        update(index);
+    }
+}
+
+} // namespace velmora

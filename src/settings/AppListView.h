@@ -1,0 +1,42 @@
+#pragma once
+
+#include "settings/AppIcons.h"
+
+#include <QListView>
+#include <QPushButton>
+#include <QTimer>
+
+namespace velmora {
+
+class AppListModel;
+struct AppInfo;
+
+/// The scrolling list of the application chooser. Only visible rows are drawn, and only their icons
+/// are loaded, after the rows were first shown and in slices short enough to go unnoticed.
+class AppListView : public QListView {
+    Q_OBJECT
+public:
+    explicit AppListView(AppListModel& model, QWidget* parent = nullptr);
+
+    /// Moves the current row as `key` (up, down, page up, page down) does in a list; false for
+    /// other keys.
+    bool moveCurrent(int key);
+
+Q_SIGNALS:
+    /// A row was clicked.
+    void rowPicked(const QModelIndex& index);
+
+private:
+    class Delegate;
+
+    /// The pixmap when it is there; else a null one, and it is loaded soon.
+    QPixmap icon(const AppInfo& app) const;
+    void loadSomeIcons();
+
+    AppListModel& model_;
+    AppIcons icons_;
+    mutable QTimer iconTimer_;
+    QPushButton buttonLook_; ///< never shown: gives its look to the row that offers all
+};
+
+} // namespace velmora

@@ -1,0 +1,149 @@
+#include "settings/AppPickerView.h"
+
+#include "foundation/LocalizedString.h"
+#include "foundation/MainQueue.h"
+#include "settings/AppListView.h"
+#include "settings/SearchField.h"
+#include "settings/SheetParts.h"
+#include "viewkit/ProgressIndicator.h"
+#include "viewkit/Sheet.h"
+#include "viewkit/Theme.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QStackedLayout>
+#include <QThreadPool>
+#include <QVBoxLayout>
+#include <memory>
+
+namespace velmora {
+namespace {
+
+constexpr QSize contentSize(500, 500);
+constexpr int dividerPadding = 8;
+
+/// Whether `event` types a character.
+bool isTyping(const QKeyEvent& event) {
+    constexpr auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    return !(event.modifiers() & commands) && !event.text().isEmpty() &&
+           event.text().front().isPrint() && !event.text().front().isSpace();
+}
+
+} // namespace
+
+AppPickerView::AppPickerView(
+    const QString& selectedBundleId, std::function<void(const AppInfo&)> onPick, AppScanner scanner)
+    : onPick_(std::move(onPick)), scanner_(std::move(scanner)), model_(selectedBundleId) {
+    const QString title = localizedString("picker_app_title");
+    setWindowTitle(title);
+    setFixedSize(contentSize);
+
+    searchField_ = new SearchField(localizedString("picker_app_search"));
+    searchField_->edit().installEventFilter(this);
+    setFocusProxy(searchField_);
+    connect(&searchField_->edit(), &QLineEdit::textChanged, this, &AppPickerView::setSearchText);
+    list_ = new AppListView(model_);
+    list_->setAccessibleName(title);
+    list_->installEventFilter(this);
+    connect(list_, &AppListView::rowPicked, this, &AppPickerView::pick);
+
+    auto* stack = new QVBoxLayout(this);
+    stack->setContentsMargins(0, 0, 0, 0);
+    stack->setSpacing(0);
+    stack->addWidget(sheetHeader(title, *this));
+    auto* searchRow = new QHBoxLayout;
+    searchRow->setContentsMargins(Theme::defaultPadding, 0, Theme::defaultPadding, 0);
+    searchRow->addWidget(searchField_);
+    stack->addLayout(searchRow);
+    stack->addSpacing(dividerPadding);
+    stack->addWidget(divider());
+    pages_ = new QStackedLayout;
+    pages_->addWidget(makeLoadingView());
+    pages_->addWidget(list_);
+    stack->addLayout(pages_, 1);
+}
+
+QWidget* AppPickerView::makeLoadingView() {
+    auto* view = new QWidget;
+    auto* stack = new QVBoxLayout(view);
+    stack->setSpacing(Theme::defaultSpacing);
+    auto* title = new QLabel(localizedString("picker_app_loading"));
+    title->setTextFormat(Qt::PlainText);
+    stack->addStretch();
+    stack->addWidget(new ProgressIndicator, 0, Qt::AlignHCenter);
+    stack->addWidget(title, 0, Qt::AlignHCenter);
+    stack->addStretch();
+    return view;
+}
+
+void AppPickerView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!event->spontaneous())
+        loadApps();
+}
+
+void AppPickerView::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (!event->spontaneous())
+        model_.setApps({});
+}
+
+void AppPickerView::loadApps() {
+    QThreadPool::globalInstance()->start([self = QPointer(this), scanner = scanner_] {
+        auto apps = std::make_shared<SearchableApps>(scanner.getInstalledApps());
+        MainQueue::submit([self, apps] {
+            if (!self)
+                return;
+            self->isLoading_ = false;
+            self->pages_->setCurrentWidget(self->list_);
+            if (self->isVisible())
+                self->model_.setApps(std::move(*apps));
+        });
+    });
+}
+
+void AppPickerView::setSearchText(const QString& text) {
+    model_.setSearchText(text);
+    list_->scrollToTop();
+    if (!text.isEmpty())
+        list_->setCurrentIndex(model_.index(0)); // what Return picks
+}
+
+void AppPickerView::pick(const QModelIndex& index) {
+    if (!index.isValid())
+        return;
+    if (const AppInfo* app = model_.app(index)) {
+        onPick_(*app);
+        Sheet::dismiss(*this);
+        return;
+    }
+    const int row = index.row();
+    model_.showAllApps();
+    list_->setCurrentIndex(model_.index(row));
+}
+
+bool AppPickerView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    auto& keyEvent = static_cast<QKeyEvent&>(*event);
+    const int key = keyEvent.key();
+    const bool inList = watched == list_;
+    if (key == Qt::Key_Return || key == Qt::Key_Enter || (inList && key == Qt::Key_Space)) {
+        pick(list_->currentIndex());
+        return true;
+    }
+    if (keyEvent.modifiers() == Qt::NoModifier || keyEvent.modifiers() == Qt::KeypadModifier) {
+        if (list_->moveCurrent(key))
+            return true;
+    }
+    if (inList && isTyping(keyEvent)) {
+        QLineEdit& edit = searchField_->edit();
+        edit.setFocus();
+        edit.setText(edit.text() + keyEvent.text());
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace velmora

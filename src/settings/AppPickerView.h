@@ -1,0 +1,57 @@
+#pragma once
+
+#include "settings/AppListModel.h"
+#include "settings/AppScanner.h"
+
+#include <QWidget>
+#include <functional>
+
+class QModelIndex;
+class QStackedLayout;
+
+namespace velmora {
+
+class AppListView;
+class SearchField;
+
+/// The chooser of an application, to be shown in a sheet. It scans when it appears, off the main
+/// thread. Typing searches wherever the focus is; the arrows move through the list also from the
+/// search field, and Return picks.
+class AppPickerView : public QWidget {
+    Q_OBJECT
+public:
+    /// Marks the applications under `selectedBundleId`. `onPick` receives the one picked, after
+    /// which the sheet closes; it is not called when the sheet closes otherwise.
+    AppPickerView(
+        const QString& selectedBundleId, std::function<void(const AppInfo&)> onPick,
+        AppScanner scanner = AppScanner::shared());
+
+    /// Whether no scan has ended yet.
+    bool isLoading() const { return isLoading_; }
+    /// The rows shown.
+    AppListModel& model() { return model_; }
+    SearchField& searchField() { return *searchField_; }
+    AppListView& list() { return *list_; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QWidget* makeLoadingView();
+    void loadApps();
+    void setSearchText(const QString& text);
+    /// Does what a row is for: picks its application, or shows all.
+    void pick(const QModelIndex& index);
+
+    std::function<void(const AppInfo&)> onPick_;
+    AppScanner scanner_;
+    AppListModel model_;
+    bool isLoading_ = true;
+    SearchField* searchField_;
+    AppListView* list_;
+    QStackedLayout* pages_; ///< the progress, then the list
+};
+
+} // namespace velmora

@@ -1,0 +1,86 @@
+#include "settings/IconButton.h"
+
+#include "viewkit/Symbols.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace velmora {
+namespace {
+
+constexpr int symbolFontSize = 24;
+constexpr double cornerRadius = 8;
+constexpr double outlineWidth = 2;
+
+QColor withOpacity(QColor colour, float opacity) {
+    colour.setAlphaF(opacity);
+    return colour;
+}
+
+} // namespace
+
+IconButton::IconButton(const QString& icon, bool isSelected, std::function<void()> action)
+    : icon_(icon) {
+    setCheckable(true); // so that assistive programs hear which one is chosen
+    setChecked(isSelected);
+    setAccessibleName(icon);
+    setFixedSize(sizeHint());
+    connect(this, &IconButton::clicked, this, std::move(action));
+}
+
+QSize IconButton::sizeHint() const {
+    constexpr int side = cellSide + 2 * ringMargin;
+    return {side, side};
+}
+
+void IconButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor accent = palette().color(QPalette::Highlight);
+    const QRectF cell =
+        QRectF(rect()).marginsRemoved(QMarginsF(ringMargin, ringMargin, ringMargin, ringMargin));
+    const float strength = isDown() ? 2.5F : isHovered() ? 1.7F : 1.0F;
+    painter.setBrush(
+        isSelected() ? withOpacity(accent, 0.2F * strength)
+                     : withOpacity(Qt::gray, 0.1F * strength));
+    painter.setPen(Qt::NoPen);
+    painter.drawRoundedRect(cell, cornerRadius, cornerRadius);
+    painter.setBrush(Qt::NoBrush);
+    if (isSelected()) {
+        constexpr double inset = outlineWidth / 2;
+        painter.setPen(QPen(accent, outlineWidth));
+        painter.drawRoundedRect(
+            cell.adjusted(inset, inset, -inset, -inset), cornerRadius - inset,
+            cornerRadius - inset);
+    }
+    if (hasFocus()) {
+        constexpr double distance = 2.5;
+        painter.setPen(QPen(accent, 2));
+        painter.drawRoundedRect(
+            cell.adjusted(-distance, -distance, distance, distance), cornerRadius + distance,
+            cornerRadius + distance);
+    }
+    const double side = Symbols::sideLength(symbolFontSize);
+    QRectF symbol(0, 0, side, side);
+    symbol.moveCenter(cell.center());
+    Symbols::paint(painter, icon_, symbol, palette().color(QPalette::WindowText));
+}
+
+void IconButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        PlainButton::keyPressEvent(event);
+}
+
+void IconButton::focusInEvent(QFocusEvent* event) {
+    PlainButton::focusInEvent(event);
+    update();
+}
+
+void IconButton::focusOutEvent(QFocusEvent* event) {
+    PlainButton::focusOutEvent(event);
+    update();
+}
+
+} // namespace velmora

@@ -1,0 +1,162 @@
+// The application chooser in its sheet: loading, keys, picking and closing at any moment.
+
+#include "settings/AppPickerView.h"
+
+#include "settings/AppListView.h"
+#include "settings/SearchField.h"
+#include "support/TestDisplay.h"
+#include "viewkit/PlainButton.h"
+#include "viewkit/Sheet.h"
+
+#include <QPointer>
+#include <QSemaphore>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using velmora::test::waitFor;
+
+namespace {
+
+class AppPickerViewTest : public testing::Test {
+protected:
+    /// A chooser over "App 0" … in a sheet; its scan waits for `gate`.
+    void open(int count, const QString& selected = {}) {
+        QList<InstalledApplication> installed;
+        for (int i = 0; i < count; ++i)
+            installed.append(
+                {u"org.app%1"_s.arg(i), u"App %1"_s.arg(i, 4, 10, QChar(u'0')), {}, {}});
+        auto view = std::make_unique<AppPickerView>(
+            selected, [this](const AppInfo& app) { picked.append(app.bundleId); },
+            AppScanner({.folders = {}, .finder = {}, .installed = [this, installed] {
+                            gate.acquire();
+                            ++scans;
+                            return installed;
+                        }}));
+        picker = view.get();
+        window.show();
+        sheet = &Sheet::present(window, std::move(view));
+    }
+
+    void openLoaded(int count) {
+        gate.release();
+        open(count);
+        ASSERT_TRUE(waitFor([this] { return !picker->isLoading(); }));
+    }
+
+    QLineEdit& edit() { return picker->searchField().edit(); }
+    int currentRow() { return picker->list().currentIndex().row(); }
+    bool isClosed() {
+        return waitFor([this] { return sheet.isNull(); });
+    }
+
+    QSemaphore gate;
+    std::atomic<int> scans = 0;
+    QStringList picked;
+    QWidget window;
+    QPointer<AppPickerView> picker;
+    QPointer<Sheet> sheet;
+};
+
+TEST_F(AppPickerViewTest, ShowsTheListWhenTheScanEnds) {
+    open(30);
+    EXPECT_TRUE(picker->isLoading());
+    EXPECT_FALSE(picker->list().isVisible());
+    gate.release();
+    EXPECT_TRUE(waitFor([this] { return picker->list().isVisible(); }));
+    EXPECT_EQ(picker->model().rowCount(), 21);
+    EXPECT_TRUE(edit().hasFocus());
+    EXPECT_TRUE(sheet->isModal());
+}
+
+TEST_F(AppPickerViewTest, ClosedWhileScanning) {
+    open(30);
+    QTest::keyClick(&edit(), Qt::Key_Escape);
+    EXPECT_TRUE(isClosed());
+    gate.release();
+    EXPECT_TRUE(waitFor([this] { return scans == 1; }));
+    EXPECT_TRUE(picked.isEmpty());
+}
+
+TEST_F(AppPickerViewTest, EmptiesTheListWhenItDisappearsAndScansWhenItAppears) {
+    openLoaded(5);
+    picker->hide();
+    EXPECT_EQ(picker->model().rowCount(), 0);
+    picker->show();
+    EXPECT_FALSE(picker->isLoading());
+    EXPECT_EQ(picker->model().rowCount(), 0);
+    gate.release();
+    EXPECT_TRUE(waitFor([this] { return picker->model().rowCount() == 5; }));
+}
+
+TEST_F(AppPickerViewTest, ArrowsAndReturnFromTheSearchField) {
+    openLoaded(30);
+    QTest::keyClick(&edit(), Qt::Key_Return); // nothing is current
+    EXPECT_TRUE(picked.isEmpty());
+    QTest::keyClick(&edit(), Qt::Key_Up);
+    EXPECT_EQ(currentRow(), 0);
+    QTest::keyClick(&edit(), Qt::Key_Down);
+    QTest::keyClick(&edit(), Qt::Key_Down);
+    EXPECT_EQ(currentRow(), 2);
+    QTest::keyClick(&edit(), Qt::Key_PageDown);
+    EXPECT_GT(currentRow(), 5);
+    QTest::keyClick(&edit(), Qt::Key_PageUp);
+    EXPECT_EQ(currentRow(), 2);
+    EXPECT_TRUE(edit().hasFocus());
+    QTest::keyClick(&edit(), Qt::Key_Return);
+    EXPECT_EQ(picked, QStringList{u"org.app2"_s});
+    EXPECT_TRUE(isClosed());
+}
+
+TEST_F(AppPickerViewTest, TypingSearchesAndReturnPicksTheFirst) {
+    openLoaded(30);
+    QTest::keyClicks(&picker->list(), u"ap"_s);
+    QTest::keyClicks(&edit(), u"p 0025"_s);
+    EXPECT_EQ(edit().text(), u"app 0025"_s);
+    EXPECT_EQ(picker->model().rowCount(), 1);
+    EXPECT_TRUE(picker->searchField().clearButton().isVisible());
+    QTest::mouseClick(&picker->searchField().clearButton(), Qt::LeftButton);
+    EXPECT_EQ(picker->model().rowCount(), 21);
+    EXPECT_FALSE(picker->searchField().clearButton().isVisible());
+    QTest::keyClicks(&edit(), u"org.app29"_s);
+    QTest::keyClick(&edit(), Qt::Key_Return);
+    EXPECT_EQ(picked, QStringList{u"org.app29"_s});
+}
+
+TEST_F(AppPickerViewTest, TheLastRowShowsAll) {
+    openLoaded(40);
+    for (int i = 0; i < 30; ++i)
+        QTest::keyClick(&edit(), Qt::Key_Down);
+    EXPECT_EQ(currentRow(), 20);
+    QTest::keyClick(&edit(), Qt::Key_Return);
+    EXPECT_EQ(picker->model().rowCount(), 40);
+    EXPECT_EQ(currentRow(), 20); // the first that was hidden
+    EXPECT_TRUE(picked.isEmpty());
+    EXPECT_FALSE(sheet.isNull());
+}
+
+TEST_F(AppPickerViewTest, OneClickPicks) {
+    openLoaded(30);
+    const QRect row = picker->list().visualRect(picker->model().index(3));
+    QTest::mouseClick(picker->list().viewport(), Qt::LeftButton, {}, row.center());
+    EXPECT_EQ(picked, QStringList{u"org.app3"_s});
+    EXPECT_TRUE(isClosed());
+}
+
+TEST_F(AppPickerViewTest, GoesWithItsWindow) {
+    QWidget outer;
+    outer.show();
+    gate.release();
+    auto view = std::make_unique<AppPickerView>(
+        QString(), [](const AppInfo&) {}, AppScanner({}));
+    const QPointer<AppPickerView> shown = view.get();
+    {
+        QWidget inner;
+        inner.show();
+        Sheet::present(inner, std::move(view));
+    }
+    EXPECT_TRUE(shown.isNull());
+}
+
+} // namespace
