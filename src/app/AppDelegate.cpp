@@ -12,10 +12,12 @@
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
+#include "settings/SettingsWindow.h"
 #include "viewkit/WindowTheme.h"
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
@@ -33,6 +35,9 @@ void AppDelegate::setupMainMenu() {
     mainMenu_ = mainMenu();
     ActionMessages& messages = ActionMessages::shared();
     messages.setHandler(u"toggleOverlayMenu"_s, [this] { toggleOverlayMenu(); });
+    messages.setHandler(u"showSettings"_s, [this] { showSettings(); });
+    messages.setHandler(
+        u"orderFrontStandardAboutPanel:"_s, [] { SettingsWindow::shared().showAboutPanel(); });
     messages.setHandler(u"quitApp"_s, [this] { quitApp(); });
     messages.setHandler(u"terminate:"_s, [this] { quitApp(); });
 }
@@ -68,6 +73,17 @@ void AppDelegate::setupOverlay() {
     overlayController.setup(std::make_unique<ContentView>(
         ShortcutManager::shared(), [] { return ScreenManager::shared().hasNotch(); },
         [](const ShortcutAction& action) { ActionEngine::shared().execute(action); }));
+}
+
+void AppDelegate::showSettings() {
+    followDesktopAppearance();
+    SettingsWindow& settings = SettingsWindow::shared();
+    settings.setMainMenu(mainMenu_);
+    settings.setRelaunch([](const std::function<void()>& completion) {
+        QProcess::startDetached(QCoreApplication::applicationFilePath(), {});
+        completion();
+    });
+    settings.show();
 }
 
 void AppDelegate::toggleOverlayMenu() {

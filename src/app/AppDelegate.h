@@ -21,6 +21,7 @@ public:
 
     void setupOverlay();
 
+    void showSettings();
     void toggleOverlayMenu();
     void quitApp();
 
