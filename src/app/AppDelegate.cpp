@@ -12,7 +12,9 @@
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
+#include "platform/Relaunch.h"
 #include "platform/SingleInstance.h"
+#include "settings/SettingsWindow.h"
 #include "viewkit/PopupMenu.h"
 #include "viewkit/WindowTheme.h"
 
@@ -50,6 +52,9 @@ void AppDelegate::setupMainMenu() {
     mainMenu_ = mainMenu();
     ActionMessages& messages = ActionMessages::shared();
     messages.setHandler(u"toggleOverlayMenu"_s, [this] { toggleOverlayMenu(); });
+    messages.setHandler(u"showSettings"_s, [this] { showSettings(); });
+    messages.setHandler(
+        u"orderFrontStandardAboutPanel:"_s, [] { SettingsWindow::shared().showAboutPanel(); });
     messages.setHandler(u"quitApp"_s, [this] { quitApp(); });
     messages.setHandler(u"terminate:"_s, [this] { quitApp(); });
 }
@@ -115,6 +120,16 @@ void AppDelegate::setupHotKeys() {
 
 void AppDelegate::setupMouseButtonMonitoring() {
     mouseButtonManager.startMonitoring();
+}
+
+void AppDelegate::showSettings() {
+    followDesktopAppearance();
+    SettingsWindow& settings = SettingsWindow::shared();
+    settings.setMainMenu(mainMenu_);
+    settings.setRelaunch([](const std::function<void()>& completion) {
+        relaunch(Platform::current().singleInstance, completion);
+    });
+    settings.show();
 }
 
 void AppDelegate::toggleOverlayMenu() {

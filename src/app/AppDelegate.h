@@ -27,6 +27,7 @@ public:
     void setupHotKeys();
     void setupMouseButtonMonitoring();
 
+    void showSettings();
     void toggleOverlayMenu();
     void quitApp();
 

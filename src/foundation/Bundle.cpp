@@ -32,6 +32,16 @@ std::optional<QString> path(const QString& name, const QString& type, const QStr
     return QFileInfo(candidate).isFile() ? std::optional(candidate) : std::nullopt;
 }
 
+QString bundlePath() {
+    return QCoreApplication::applicationDirPath();
+}
+
+std::optional<QVariantMap> infoDictionary() {
+    return QVariantMap{
+        {QString(shortVersionKey), QStringLiteral(VELMORA_VERSION)},
+        {QString(versionKey), QStringLiteral(VELMORA_BUILD)}};
+}
+
 std::optional<QString> helperPath() {
     return firstFolder({u"libexec"_s, u"../lib/velmora"_s});
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariantMap>
 #include <optional>
 
 /// What ships with the program: resources beside the executable and its version.
@@ -13,6 +14,17 @@ std::optional<QString> resourcePath();
 
 /// Full path of "<name>.<type>" in `directory` below the resource path, if such a file exists.
 std::optional<QString> path(const QString& name, const QString& type, const QString& directory);
+
+/// Folder that holds the program itself.
+QString bundlePath();
+
+/// The information dictionary: the keys below, both strings. Absent when there is none.
+std::optional<QVariantMap> infoDictionary();
+
+/// "0.1.0".
+inline constexpr QLatin1StringView shortVersionKey("CFBundleShortVersionString");
+/// The build of that version.
+inline constexpr QLatin1StringView versionKey("CFBundleVersion");
 
 /// Folder of the program's private helper commands, absent when it does not exist.
 std::optional<QString> helperPath();

@@ -1,6 +1,7 @@
 #include "settings/SheetParts.h"
 
 #include "foundation/LocalizedString.h"
+#include "settings/Headline.h"
 #include "viewkit/Sheet.h"
 #include "viewkit/Theme.h"
 
@@ -9,24 +10,15 @@
 #include <QPushButton>
 
 namespace velmora {
-namespace {
-
-constexpr int headlineSize = 15;
-
-} // namespace
-
 QWidget* sheetHeader(const QString& title, QWidget& content) {
     auto* header = new QWidget;
-    auto* heading = new QLabel(title);
-    heading->setTextFormat(Qt::PlainText);
-    heading->setFont(Theme::systemFont(headlineSize, QFont::DemiBold));
     auto* close = new QPushButton(localizedString("button_close"));
     close->setAutoDefault(false); // Return belongs to what is chosen
     QObject::connect(close, &QPushButton::clicked, header, [&content] { Sheet::dismiss(content); });
     auto* row = new QHBoxLayout(header);
     row->setContentsMargins(
         Theme::defaultPadding, Theme::defaultPadding, Theme::defaultPadding, Theme::defaultPadding);
-    row->addWidget(heading);
+    row->addWidget(headline(title));
     row->addStretch();
     row->addWidget(close);
     return header;

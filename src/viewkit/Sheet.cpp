@@ -8,6 +8,8 @@
 namespace velmora {
 
 Sheet::Sheet(QWidget& window) : QDialog(&window) {
+    setWindowFlags(
+        Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setAttribute(Qt::WA_DeleteOnClose);
     WindowTheme::follow(*this);
 }

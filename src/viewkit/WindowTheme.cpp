@@ -22,6 +22,10 @@ struct Colors {
     QColor accent;
     QColor accentHover;
     QColor scrollHandle;
+    QColor disabledText;
+    QColor selected; ///< a chosen tab
+    QColor outline;  ///< around an area of text: secondary text at opacity 0.2, on its ground
+    QColor danger;   ///< text of what cannot be undone
 };
 
 // Text on window and on accent keeps a contrast of at least 4.5 to 1 in both.
@@ -37,6 +41,10 @@ const Colors lightColors{
     .accent = QColor(0x0a62cf),
     .accentHover = QColor(0x0856b8),
     .scrollHandle = QColor(0xb4b4ba),
+    .disabledText = QColor(0x9d9da4),
+    .selected = QColor(0xdcdce2),
+    .outline = QColor(0xdadadd),
+    .danger = QColor(0xc4271b),
 };
 const Colors darkColors{
     .window = QColor(0x1f1f22),
@@ -50,6 +58,10 @@ const Colors darkColors{
     .accent = QColor(0x2a72dc),
     .accentHover = QColor(0x3a7fe4),
     .scrollHandle = QColor(0x66666d),
+    .disabledText = QColor(0x74747b),
+    .selected = QColor(0x56565d),
+    .outline = QColor(0x46464a),
+    .danger = QColor(0xff7a70),
 };
 
 /// Announces a change of scheme to the windows that follow it.
@@ -78,7 +90,7 @@ QPalette palette(const Colors& colors) {
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Mid, colors.border);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, colors.secondaryText);
+        palette.setColor(QPalette::Disabled, role, colors.disabledText);
     return palette;
 }
 
@@ -94,7 +106,7 @@ QPushButton:default { background: @accent; color: white; border-color: @accent; 
 QPushButton:default:hover { background: @accenthover; border-color: @accenthover; }
 QPushButton:focus { border: 2px solid @accent; padding: 3px 13px; outline: none; }
 QPushButton:default:focus { border: 2px solid @text; }
-QPushButton:disabled { color: @secondary; background: @window; }
+QPushButton:disabled { color: @disabled; background: @window; border-color: @border; }
 QLineEdit {
     background: @base; color: @text; border: 1px solid @border; border-radius: 6px;
     padding: 3px 7px; min-height: 18px;
@@ -102,7 +114,53 @@ QLineEdit {
 }
 QLineEdit:focus { border: 2px solid @accent; padding: 2px 6px; }
 QLineEdit[plain="true"] { background: transparent; border: none; padding: 0; }
+QPushButton[destructive="true"] { color: @danger; }
+QPlainTextEdit {
+    background: @base; color: @text; border: 1px solid @outline; border-radius: 6px; padding: 3px;
+    selection-background-color: @accent; selection-color: white;
+}
+QPlainTextEdit:focus { border: 2px solid @accent; padding: 2px; }
+QComboBox {
+    background: @button; color: @text; border: 1px solid @border; border-radius: 6px;
+    padding: 3px 26px 3px 9px; min-height: 18px;
+}
+QComboBox:hover { background: @hover; }
+QComboBox:focus { border: 2px solid @accent; padding: 2px 25px 2px 8px; }
+QComboBox { combobox-popup: 0; }
+QComboBox::drop-down { border: none; width: 0; }
+QFrame[box="true"] { background: @base; border: none; border-radius: 8px; }
+QScrollArea { background: transparent; border: none; }
 QListView { background: transparent; border: none; outline: none; }
+QListView[inset="true"] {
+    background: @base; border: 1px solid @border; border-radius: 8px; padding: 4px;
+}
+QListView[inset="true"]:focus { border: 2px solid @accent; padding: 3px; }
+QComboBox QAbstractItemView {
+    background: @base; color: @text; border: 1px solid @border; padding: 4px; outline: none;
+}
+QComboBox QAbstractItemView::item { min-height: 24px; padding: 0 6px; border-radius: 4px; }
+QComboBox QAbstractItemView::item:selected { background: @accent; color: white; }
+QTabWidget::pane { border: none; }
+QTabWidget::tab-bar { alignment: center; }
+QTabBar::tab {
+    background: @button; color: @text; border: 1px solid @border; padding: 5px 14px;
+    min-height: 18px; margin-top: 10px;
+}
+QTabBar::tab:first { border-top-left-radius: 6px; border-bottom-left-radius: 6px; }
+QTabBar::tab:last {
+    border-top-right-radius: 6px; border-bottom-right-radius: 6px; border-left: none;
+}
+QTabBar::tab:hover { background: @hover; }
+QTabBar::tab:selected { background: @selected; }
+QTabBar::tab:focus { border: 2px solid @accent; padding: 4px 13px; }
+QMenuBar { background: @window; color: @text; border-bottom: 1px solid @border; padding: 2px 4px; }
+QMenuBar::item { background: transparent; padding: 4px 9px; border-radius: 4px; }
+QMenuBar::item:selected { background: @accent; color: white; }
+QMenu { background: @base; color: @text; border: 1px solid @border; padding: 4px; }
+QMenu::item { padding: 5px 14px 5px 12px; border-radius: 4px; }
+QMenu::item:selected { background: @accent; color: white; }
+QMenu::item:disabled { color: @secondary; background: transparent; }
+QMenu::separator { height: 1px; background: @border; margin: 4px 8px; }
 QToolTip { background: @base; color: @text; border: 1px solid @border; padding: 3px 5px; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 4px 2px; }
 QScrollBar::handle:vertical { background: @scroll; border-radius: 4px; min-height: 28px; }
@@ -115,7 +173,9 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
         {"@border"_L1, colors.border.name()},           {"@hover"_L1, colors.buttonHover.name()},
         {"@pressed"_L1, colors.buttonPressed.name()},   {"@accent"_L1, colors.accent.name()},
         {"@secondary"_L1, colors.secondaryText.name()}, {"@window"_L1, colors.window.name()},
-        {"@scroll"_L1, colors.scrollHandle.name()},
+        {"@scroll"_L1, colors.scrollHandle.name()},     {"@selected"_L1, colors.selected.name()},
+        {"@disabled"_L1, colors.disabledText.name()},   {"@outline"_L1, colors.outline.name()},
+        {"@danger"_L1, colors.danger.name()},
     };
     for (const auto& [name, value] : values)
         sheet.replace(name, value);

@@ -1,0 +1,171 @@
+#include "settings/ActionForm.h"
+
+#include "foundation/LocalizedString.h"
+#include "input/KeyCaptureNSView.h"
+#include "input/KeyCaptureView.h"
+#include "settings/AppPickerView.h"
+#include "settings/FormGroup.h"
+#include "viewkit/PopUpButton.h"
+#include "viewkit/Sheet.h"
+#include "viewkit/Theme.h"
+#include "viewkit/WindowTheme.h"
+
+#include <QFontDatabase>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace velmora {
+namespace {
+
+constexpr int commandHeight = 80;
+constexpr int commandPadding = 4;
+constexpr int keyCaptureHeight = 42; ///< of its field and outline
+constexpr int parameterSpacing = 4;
+constexpr int bundleIdFontSize = 10;
+
+/// The label of a type's parameters, in the order of the types.
+constexpr std::array<const char*, actionTypeCount> parameterLabels = {
+    "label_app", "label_url", "label_command", "label_key_combo"};
+
+QVBoxLayout* makeStack(QWidget* view) {
+    auto* stack = new QVBoxLayout(view);
+    stack->setContentsMargins(0, 0, 0, 0);
+    stack->setSpacing(parameterSpacing);
+    return stack;
+}
+
+} // namespace
+
+ActionForm::ActionForm(const QString& heading, ActionFields fields, EventTaps& eventTaps)
+    : fields_(std::move(fields)),
+      keyModifiers_(std::make_shared<QProperty<QStringList>>(fields_.keyModifiers)),
+      keyValue_(std::make_shared<QProperty<QString>>(fields_.keyValue)),
+      isKeyCaptureFocused_(std::make_shared<QProperty<bool>>(false)) {
+    const QString typeLabel = localizedString("mouse_action_label");
+    typePicker_ = new PopUpButton;
+    for (int type = 0; type < actionTypeCount; ++type)
+        typePicker_->addItem(localizedName(static_cast<ActionType>(type)));
+    typePicker_->setAccessibleName(typeLabel);
+    typePicker_->setMinimumWidth(FormGroup::pickerWidth);
+
+    auto* group = new FormGroup(heading);
+    group->addRow(typeLabel, FormGroup::beside({typePicker_}));
+    auto* parameter = new QWidget;
+    QVBoxLayout* parameterStack = makeStack(parameter);
+    parameters_ = {
+        makeAppParameter(), makeUrlParameter(), makeCommandParameter(),
+        makeKeyParameter(eventTaps)};
+    for (QWidget* view : parameters_)
+        parameterStack->addWidget(view);
+    parameterLabel_ = group->addRow({}, parameter);
+    makeStack(this)->addWidget(group);
+
+    typePicker_->setCurrentIndex(static_cast<int>(fields_.type));
+    setType(fields_.type);
+    connect(typePicker_, &QComboBox::currentIndexChanged, this, [this](int index) {
+        setType(static_cast<ActionType>(index));
+        Q_EMIT typeChanged();
+        Q_EMIT fieldsChanged();
+        if (fields_.type == ActionType::pressKey)
+            *isKeyCaptureFocused_ = true;
+    });
+}
+
+QWidget* ActionForm::makeAppParameter() {
+    const QString label = localizedString("label_app");
+    appName_ = textField(fields_.appName, localizedString("placeholder_app_name"), label);
+    connect(appName_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        fields_.appName = text;
+        Q_EMIT fieldsChanged();
+    });
+    auto* select = new QPushButton(localizedString("button_select"));
+    select->setAutoDefault(false);
+    select->setAccessibleDescription(label);
+    connect(select, &QPushButton::clicked, this, &ActionForm::showAppPicker);
+    bundleId_ = new QLabel;
+    bundleId_->setTextFormat(Qt::PlainText);
+    bundleId_->setFont(Theme::systemFont(bundleIdFontSize));
+    bundleId_->setForegroundRole(QPalette::PlaceholderText);
+    bundleId_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+
+    auto* view = new QWidget;
+    QVBoxLayout* stack = makeStack(view);
+    stack->addWidget(FormGroup::beside({appName_, select}, appName_));
+    stack->addWidget(bundleId_);
+    setBundleId(fields_.bundleId);
+    return view;
+}
+
+QWidget* ActionForm::makeUrlParameter() {
+    const QString prompt = localizedString("placeholder_url");
+    QLineEdit* url = textField(fields_.url, prompt, localizedString("label_url"));
+    url->setToolTip(prompt);
+    connect(url, &QLineEdit::textChanged, this, [this](const QString& text) {
+        fields_.url = text;
+        Q_EMIT fieldsChanged();
+    });
+    return url;
+}
+
+QWidget* ActionForm::makeCommandParameter() {
+    auto* command = new QPlainTextEdit(fields_.shellCommand);
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPixelSize(WindowTheme::fontSize);
+    command->setFont(font);
+    command->setFixedHeight(commandHeight);
+    command->setTabChangesFocus(true);
+    command->setAccessibleName(localizedString("label_command"));
+    connect(command, &QPlainTextEdit::textChanged, this, [this, command] {
+        fields_.shellCommand = command->toPlainText();
+        Q_EMIT fieldsChanged();
+    });
+    auto* view = new QWidget;
+    QVBoxLayout* stack = makeStack(view);
+    stack->setContentsMargins(0, commandPadding, 0, commandPadding);
+    stack->addWidget(command);
+    return view;
+}
+
+QWidget* ActionForm::makeKeyParameter(EventTaps& eventTaps) {
+    keyCapture_ = new KeyCaptureView(keyModifiers_, keyValue_, isKeyCaptureFocused_, eventTaps);
+    modifiersNotifier_ = keyModifiers_->addNotifier([this] { Q_EMIT fieldsChanged(); });
+    keyNotifier_ = keyValue_->addNotifier([this] { Q_EMIT fieldsChanged(); });
+    return keyCapture_;
+}
+
+ActionFields ActionForm::fields() const {
+    ActionFields fields = fields_;
+    fields.keyModifiers = *keyModifiers_;
+    fields.keyValue = *keyValue_;
+    return fields;
+}
+
+void ActionForm::setType(ActionType type) {
+    fields_.type = type;
+    const int chosen = static_cast<int>(type);
+    for (int index = 0; index < actionTypeCount; ++index)
+        parameters_[index]->setVisible(index == chosen);
+    parameterLabel_->setText(localizedString(parameterLabels[chosen]));
+    parameterLabel_->setFixedHeight(
+        type == ActionType::pressKey ? keyCaptureHeight : FormGroup::controlHeight);
+}
+
+void ActionForm::setBundleId(const QString& bundleId) {
+    fields_.bundleId = bundleId;
+    bundleId_->setText(bundleId);
+    bundleId_->setVisible(!bundleId.isEmpty());
+}
+
+void ActionForm::showAppPicker() {
+    Sheet::present(
+        *this, std::make_unique<AppPickerView>(fields_.bundleId, [this](const AppInfo& app) {
+            setBundleId(app.bundleId);
+            appName_->setText(app.name);
+            appName_->setCursorPosition(0);
+        }));
+}
+
+} // namespace velmora

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "input/Binding.h"
+#include "settings/ActionFields.h"
+
+#include <QWidget>
+#include <array>
+
+class QLabel;
+class QLineEdit;
+
+namespace velmora {
+
+class EventTaps;
+class FormGroup;
+class KeyCaptureView;
+class PopUpButton;
+
+/// The rows that set an action, in a group of an editor's form: the type, and the parameters of the
+/// type chosen.
+class ActionForm : public QWidget {
+    Q_OBJECT
+public:
+    /// `eventTaps` outlives the form.
+    ActionForm(const QString& heading, ActionFields fields, EventTaps& eventTaps);
+
+    /// What is in the form now.
+    ActionFields fields() const;
+
+    /// Whether the control that records key combinations has the keyboard focus.
+    const Binding<bool>& isKeyCaptureFocused() const { return isKeyCaptureFocused_; }
+    KeyCaptureView& keyCapture() { return *keyCapture_; }
+    PopUpButton& typePicker() { return *typePicker_; }
+
+Q_SIGNALS:
+    void fieldsChanged();
+    /// The parameters of another type are shown.
+    void typeChanged();
+
+private:
+    QWidget* makeAppParameter();
+    QWidget* makeUrlParameter();
+    QWidget* makeCommandParameter();
+    QWidget* makeKeyParameter(EventTaps& eventTaps);
+    void setType(ActionType type);
+    void setBundleId(const QString& bundleId);
+    void showAppPicker();
+
+    ActionFields fields_;
+    const Binding<QStringList> keyModifiers_;
+    const Binding<QString> keyValue_;
+    const Binding<bool> isKeyCaptureFocused_;
+    PopUpButton* typePicker_;
+    QLabel* parameterLabel_;
+    std::array<QWidget*, actionTypeCount> parameters_{};
+    QLineEdit* appName_;
+    QLabel* bundleId_;
+    KeyCaptureView* keyCapture_;
+    QPropertyNotifier modifiersNotifier_;
+    QPropertyNotifier keyNotifier_;
+};
+
+} // namespace velmora

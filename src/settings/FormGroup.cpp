@@ -1,0 +1,83 @@
+#include "settings/FormGroup.h"
+
+#include "foundation/LocalizedString.h"
+#include "settings/Headline.h"
+#include "viewkit/Theme.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+#include <limits>
+
+namespace velmora {
+namespace {
+
+constexpr int rowSpacing = 12;
+constexpr int labelWidth = 100;
+
+/// The width of all labels: the given one, or more where a language needs it.
+int labelColumnWidth(const QFontMetrics& metrics) {
+    int width = labelWidth;
+    for (const char* key :
+         {"label_title", "label_icon", "label_alignment", "mouse_action_label", "mouse_btn_label",
+          "label_app", "label_url", "label_command", "label_key_combo"})
+        width = qMax(width, metrics.horizontalAdvance(localizedString(key)));
+    return width;
+}
+
+} // namespace
+
+FormGroup::FormGroup(const QString& heading, QWidget* parent) : QWidget(parent) {
+    QLabel* title = headline(heading);
+    title->setForegroundRole(QPalette::PlaceholderText); // the secondary colour
+    auto* box = new QFrame;
+    box->setProperty("box", true);
+    rows_ = new QVBoxLayout(box);
+    rows_->setContentsMargins(
+        Theme::defaultPadding, Theme::defaultPadding, Theme::defaultPadding, Theme::defaultPadding);
+    rows_->setSpacing(rowSpacing);
+    auto* stack = new QVBoxLayout(this);
+    stack->setContentsMargins(0, 0, 0, 0);
+    stack->setSpacing(Theme::defaultSpacing);
+    stack->addWidget(title);
+    stack->addWidget(box);
+}
+
+QLabel* FormGroup::addRow(const QString& label, QWidget* control) {
+    auto* name = new QLabel(label);
+    name->setTextFormat(Qt::PlainText);
+    name->setFixedSize(labelColumnWidth(name->fontMetrics()), controlHeight);
+    name->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Theme::defaultSpacing);
+    row->addWidget(name, 0, Qt::AlignTop);
+    row->addWidget(control, 1);
+    rows_->addLayout(row);
+    return name;
+}
+
+QWidget* FormGroup::beside(const QList<QWidget*>& controls, QWidget* stretched) {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Theme::defaultSpacing);
+    for (QWidget* control : controls)
+        layout->addWidget(control, control == stretched ? 1 : 0);
+    if (!stretched)
+        layout->addStretch();
+    return row;
+}
+
+QLineEdit* textField(const QString& text, const QString& placeholder, const QString& name) {
+    auto* field = new QLineEdit;
+    field->setMaxLength(std::numeric_limits<int>::max());
+    field->setText(text);
+    field->setCursorPosition(0);
+    field->setPlaceholderText(placeholder);
+    field->setAccessibleName(name);
+    return field;
+}
+
+} // namespace velmora

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QList>
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QVBoxLayout;
+
+namespace velmora {
+
+/// A group of an editor's form: a heading over a box of rows, each a label beside its control. The
+/// labels of all forms end at one line.
+class FormGroup : public QWidget {
+    Q_OBJECT
+public:
+    explicit FormGroup(const QString& heading, QWidget* parent = nullptr);
+
+    /// Appends a row. The label, the control's accessible name too, is in line with the first line
+    /// of `control`, whose controls are side by side at the leading edge or as wide as there is
+    /// room.
+    QLabel* addRow(const QString& label, QWidget* control);
+
+    /// Controls beside each other, for addRow(); what is not `stretched` keeps its width.
+    static QWidget* beside(const QList<QWidget*>& controls, QWidget* stretched = nullptr);
+
+    /// Height in points of a control of one line.
+    static constexpr int controlHeight = 26;
+    /// Width in points of the pickers.
+    static constexpr int pickerWidth = 200;
+
+private:
+    QVBoxLayout* rows_;
+};
+
+/// A text field of one line for any text, with its accessible name.
+QLineEdit* textField(const QString& text, const QString& placeholder, const QString& name);
+
+} // namespace velmora

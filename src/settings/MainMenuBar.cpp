@@ -1,0 +1,73 @@
+#include "settings/MainMenuBar.h"
+
+#include "foundation/ActionMessages.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+namespace {
+
+/// The operation of a text field that answers an editing message; empty for other messages. Both
+/// kinds of field name theirs alike.
+QByteArray editOperation(const QString& message) {
+    static const QStringList messages{u"undo:"_s, u"redo:"_s,  u"cut:"_s,
+                                      u"copy:"_s, u"paste:"_s, u"selectAll:"_s};
+    return messages.contains(message) ? message.chopped(1).toLatin1() : QByteArray();
+}
+
+/// The text field with the keyboard focus, if any.
+QWidget* focusedField() {
+    QWidget* focused = QApplication::focusWidget();
+    const bool isField =
+        qobject_cast<QLineEdit*>(focused) || qobject_cast<QPlainTextEdit*>(focused);
+    return isField ? focused : nullptr;
+}
+
+QString literal(QString title) {
+    return title.replace(u'&', u"&&"_s);
+}
+
+} // namespace
+
+MainMenuBar::MainMenuBar(const QList<MenuModel>& menus, QWidget* parent) : QMenuBar(parent) {
+    // In the window, where its shortcuts belong, also on desktops that have a place for menus.
+    setNativeMenuBar(false);
+    for (const MenuModel& model : menus) {
+        // The application's own menu has no title; the program's name stands for it.
+        QMenu* menu = addMenu(literal(model.title.isEmpty() ? u"Velmora"_s : model.title));
+        addEntries(*menu, model.entries);
+    }
+}
+
+void MainMenuBar::addEntries(QMenu& menu, const QList<MenuEntry>& entries) {
+    for (const MenuEntry& entry : entries) {
+        if (entry.isSeparator()) {
+            menu.addSeparator();
+            continue;
+        }
+        QAction* action = menu.addAction(literal(entry.title));
+        action->setShortcut(entry.keyEquivalent);
+        const QByteArray operation = editOperation(entry.actionMessage);
+        if (operation.isEmpty()) {
+            connect(action, &QAction::triggered, this, [message = entry.actionMessage] {
+                ActionMessages::shared().send(message);
+            });
+            continue;
+        }
+        connect(action, &QAction::triggered, this, [operation] {
+            if (QWidget* field = focusedField())
+                QMetaObject::invokeMethod(field, operation.constData());
+        });
+        // Off only while the menu is open, so that the key equivalent always reaches the field.
+        connect(&menu, &QMenu::aboutToShow, action, [action] {
+            action->setEnabled(focusedField() != nullptr);
+        });
+        connect(&menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); });
+    }
+}
+
+} // namespace velmora

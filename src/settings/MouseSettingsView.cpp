@@ -1,0 +1,63 @@
+#include "settings/MouseSettingsView.h"
+
+#include "foundation/LocalizedString.h"
+#include "input/MouseButtonManager.h"
+#include "settings/MouseBindingEditorView.h"
+#include "settings/RecordListPane.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+namespace {
+
+RecordSnapshot snapshot(const QList<MouseButtonBinding>& bindings) {
+    QList<QUuid> ids;
+    ids.reserve(bindings.size());
+    for (const MouseButtonBinding& binding : bindings)
+        ids.append(binding.id());
+    return {.ids = ids, .row = [bindings](qsizetype position) {
+                const MouseButtonBinding& binding = bindings.at(position);
+                return RecordRow{
+                    .symbol = u"computermouse"_s,
+                    .title = binding.buttonDisplayName(),
+                    .detail = displayName(binding.action),
+                    .badge = {}};
+            }};
+}
+
+} // namespace
+
+MouseSettingsView::MouseSettingsView(
+    MouseButtonManager& mouseManager, EventTaps& eventTaps, QWidget* parent)
+    : QWidget(parent) {
+    MouseButtonManager& store = mouseManager;
+    pane_ = new RecordListPane(
+        localizedString("mouse_settings_title"),
+        {.snapshot = [&store] { return snapshot(store.bindings()); },
+         .remove = [&store](qsizetype index) { store.removeBinding(index); },
+         .makeEditor = [&store, &eventTaps](qsizetype index, std::function<void()> close)
+             -> std::unique_ptr<QWidget> {
+             const bool isEditing = index >= 0 && index < store.bindings().size();
+             const auto onSave = [&store, index, isEditing,
+                                  close](const MouseButtonBinding& binding) {
+                 if (isEditing)
+                     store.updateBinding(index, binding);
+                 else
+                     store.addBinding(binding);
+                 close();
+             };
+             return std::make_unique<MouseBindingEditorView>(
+                 isEditing ? std::optional(store.bindings().at(index)) : std::nullopt, onSave,
+                 close, eventTaps);
+         }});
+    connect(
+        &store, &MouseButtonManager::bindingsWillChange, pane_, &RecordListPane::scheduleReload);
+    auto* stack = new QVBoxLayout(this);
+    stack->setContentsMargins(0, 0, 0, 0);
+    stack->addWidget(pane_);
+    setFocusProxy(pane_);
+}
+
+} // namespace velmora

@@ -1,0 +1,137 @@
+#include "settings/RecordEditor.h"
+
+#include "foundation/LocalizedString.h"
+#include "input/KeyCaptureView.h"
+#include "settings/ActionForm.h"
+#include "settings/FormGroup.h"
+#include "settings/Headline.h"
+#include "viewkit/Alert.h"
+#include "viewkit/Sheet.h"
+#include "viewkit/Theme.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace velmora {
+namespace {
+
+constexpr int childSpacing = 20;
+constexpr int groupSpacing = 16;
+
+} // namespace
+
+RecordEditor::RecordEditor(
+    const Texts& texts, FormGroup* firstGroup, const std::optional<ShortcutAction>& action,
+    EventTaps& eventTaps, std::function<void()> onCancel)
+    : onCancel_(std::move(onCancel)) {
+    constexpr int padding = Theme::defaultPadding;
+    setWindowTitle(texts.heading);
+    QLabel* heading = headline(texts.heading);
+    heading->setAlignment(Qt::AlignCenter);
+    heading->setContentsMargins(0, padding, 0, 0);
+
+    actionForm_ = new ActionForm(
+        texts.actionHeading, action ? ActionFields(*action) : ActionFields(), eventTaps);
+    connect(actionForm_, &ActionForm::fieldsChanged, this, &RecordEditor::updateSaveButton);
+    auto* form = new QWidget;
+    auto* groups = new QVBoxLayout(form);
+    groups->setContentsMargins(padding, 0, padding, 0);
+    groups->setSpacing(groupSpacing);
+    groups->addWidget(firstGroup);
+    groups->addWidget(actionForm_);
+    groups->addStretch();
+    scrollArea_ = new QScrollArea;
+    scrollArea_->setFrameShape(QFrame::NoFrame);
+    scrollArea_->setFocusPolicy(Qt::NoFocus);
+    scrollArea_->setWidgetResizable(true);
+    scrollArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrollArea_->viewport()->setAutoFillBackground(false);
+    scrollArea_->setWidget(form);
+    form->setAutoFillBackground(false);
+    scrollArea_->setAccessibleName(texts.heading);
+    // The scroll bar takes its room from the margin: the form's lines stay where they are.
+    connect(
+        scrollArea_->verticalScrollBar(), &QScrollBar::rangeChanged, groups,
+        [this, groups](int, int maximum) {
+            const int bar = maximum > 0 ? scrollArea_->verticalScrollBar()->sizeHint().width() : 0;
+            groups->setContentsMargins(padding, 0, padding - bar, 0);
+        });
+    connect(
+        actionForm_, &ActionForm::typeChanged, this,
+        [this] {
+            scrollArea_->widget()->layout()->activate();
+            scrollArea_->ensureWidgetVisible(actionForm_, 0, 0);
+        },
+        Qt::QueuedConnection);
+
+    auto* cancel = new QPushButton(localizedString("button_cancel"));
+    cancel->setAutoDefault(false);
+    connect(cancel, &QPushButton::clicked, this, onCancel_);
+    save_ = new QPushButton(localizedString("button_save"));
+    save_->setDefault(true);
+    connect(save_, &QPushButton::clicked, this, &RecordEditor::requestSave);
+    auto* buttons = new QHBoxLayout;
+    buttons->setContentsMargins(padding, padding, padding, padding);
+    buttons->addWidget(cancel);
+    buttons->addStretch();
+    buttons->addWidget(save_);
+
+    auto* stack = new QVBoxLayout(this);
+    stack->setContentsMargins(0, 0, 0, 0);
+    stack->setSpacing(childSpacing);
+    stack->addWidget(heading);
+    stack->addWidget(scrollArea_, 1);
+    stack->addLayout(buttons);
+}
+
+void RecordEditor::finish(QSize size, QWidget* first) {
+    const bool recordsKeys = actionForm_->fields().type == ActionType::pressKey;
+    setFocusProxy(recordsKeys ? &actionForm_->keyCapture() : first);
+    const int needed = scrollArea_->widget()->minimumSizeHint().width() +
+                       scrollArea_->verticalScrollBar()->sizeHint().width();
+    setFixedSize(size.expandedTo(QSize(needed, 0)));
+    updateSaveButton();
+}
+
+bool RecordEditor::isValid() const {
+    return actionForm_->fields().isComplete();
+}
+
+void RecordEditor::updateSaveButton() {
+    save_->setEnabled(isValid());
+}
+
+void RecordEditor::requestSave() {
+    if (!isValid())
+        return;
+    if (actionForm_->fields().type != ActionType::executeShell) {
+        save();
+        return;
+    }
+    presentAlert(
+        *this,
+        {.title = localizedString("alert_shell_title"),
+         .message = localizedString("alert_shell_message"),
+         .cancel = localizedString("button_cancel"),
+         .destructive = localizedString("button_save")},
+        [self = QPointer(this)] {
+            if (self)
+                self->save();
+        });
+}
+
+void RecordEditor::keyPressEvent(QKeyEvent* event) {
+    // Before the sheet closes itself on it.
+    if (event->key() == Qt::Key_Escape)
+        onCancel_();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+} // namespace velmora

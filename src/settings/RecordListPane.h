@@ -1,0 +1,70 @@
+#pragma once
+
+#include "settings/RecordListModel.h"
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QHBoxLayout;
+class QPushButton;
+
+namespace velmora {
+
+class RecordListView;
+class Sheet;
+
+/// What a record list works on. All but `move` are required.
+struct RecordSource {
+    std::function<RecordSnapshot()> snapshot; ///< the records as they are now
+    std::function<void(qsizetype index)> remove;
+    /// Moves a record to an insertion position counted before the move; empty: rows stay put.
+    std::function<void(qsizetype source, qsizetype destination)> move = {};
+    /// The editor for the record at `index`, or for a new one when no record is there; `close`
+    /// closes its sheet.
+    std::function<std::unique_ptr<QWidget>(qsizetype index, std::function<void()> close)>
+        makeEditor;
+};
+
+/// A tab's title, the list of records, and the buttons that add, edit and delete one.
+class RecordListPane : public QWidget {
+    Q_OBJECT
+public:
+    RecordListPane(const QString& title, RecordSource source, QWidget* parent = nullptr);
+
+    /// Reads the records again in the next turn of the event loop, once for any number of calls.
+    void scheduleReload();
+
+    /// Appends a button to the bar, `leadingPadding` points further from the one before.
+    QPushButton* addButton(const QString& symbol, const QString& title, int leadingPadding = 0);
+
+    RecordListView& list() { return *list_; }
+    RecordListModel& model() { return model_; }
+    /// The id of the selected record, which may be gone from the list by now.
+    const std::optional<QUuid>& selection() const { return selection_; }
+    /// The sheet of the editor while it is open.
+    Sheet* editor() const;
+
+private:
+    /// An opening of the editor.
+    void openEditor(qsizetype index);
+    void reload();
+    void setSelection(std::optional<QUuid> selection);
+    void editSelected();
+    void deleteSelected();
+
+    const RecordSource source_;
+    RecordListModel model_;
+    RecordListView* const list_;
+    QHBoxLayout* const bar_;
+    QPushButton* edit_ = nullptr;
+    QPushButton* delete_ = nullptr;
+    std::optional<QUuid> selection_;
+    QPointer<Sheet> editor_;
+    bool isReloadScheduled_ = false;
+    bool isReloading_ = false;
+};
+
+} // namespace velmora

@@ -1,0 +1,30 @@
+#include "settings/SettingsView.h"
+
+#include "foundation/LocalizedString.h"
+#include "settings/MouseSettingsView.h"
+#include "viewkit/SymbolIcon.h"
+#include "viewkit/Symbols.h"
+#include "viewkit/WindowTheme.h"
+
+#include <QTabBar>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+
+SettingsView::SettingsView(const SettingsServices& services, QWidget* parent)
+    : QTabWidget(parent),
+      shortcuts_(new VelmoraSettingsView(
+          services.shortcutManager, services.eventTaps, services.relaunch,
+          services.infoDictionary)),
+      mouse_(new MouseSettingsView(services.mouseManager, services.eventTaps)) {
+    const int side = Symbols::sideLength(WindowTheme::fontSize);
+    setIconSize(QSize(side, side));
+    setMinimumSize(contentSize);
+    tabBar()->setDrawBase(false);
+    tabBar()->setExpanding(false);
+    addTab(shortcuts_, symbolIcon(u"menubar.rectangle"_s), localizedString("settings_tab_velmora"));
+    addTab(mouse_, symbolIcon(u"computermouse"_s), localizedString("settings_tab_mouse"));
+}
+
+} // namespace velmora

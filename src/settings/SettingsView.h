@@ -1,0 +1,39 @@
+#pragma once
+
+#include "settings/VelmoraSettingsView.h"
+
+#include <QTabWidget>
+
+namespace velmora {
+
+class MouseButtonManager;
+class MouseSettingsView;
+
+/// What the settings work on; all of it outlives them.
+struct SettingsServices {
+    ShortcutManager& shortcutManager;
+    MouseButtonManager& mouseManager;
+    EventTaps& eventTaps;
+    Relaunch relaunch;
+    std::optional<QVariantMap> infoDictionary;
+};
+
+/// The content of the settings window: its two tabs.
+class SettingsView : public QTabWidget {
+    Q_OBJECT
+public:
+    explicit SettingsView(const SettingsServices& services, QWidget* parent = nullptr);
+
+    static constexpr QSize contentSize{600, 500}; ///< points; the least, and at first
+
+    VelmoraSettingsView& shortcuts() { return *shortcuts_; }
+    MouseSettingsView& mouse() { return *mouse_; }
+
+    QSize sizeHint() const override { return contentSize; }
+
+private:
+    VelmoraSettingsView* const shortcuts_;
+    MouseSettingsView* const mouse_;
+};
+
+} // namespace velmora

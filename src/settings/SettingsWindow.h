@@ -1,0 +1,64 @@
+#pragma once
+
+#include "settings/SettingsView.h"
+#include "viewkit/MenuModel.h"
+
+#include <QList>
+#include <QTimer>
+#include <memory>
+
+namespace velmora {
+
+class UserDefaults;
+class WindowActivation;
+
+/// The settings window: made when it is shown, dropped when it closes. Main thread only.
+class SettingsWindow : public QObject {
+    Q_OBJECT
+public:
+    /// The process-wide instance over the current platform and the shared stores, made on first
+    /// use, never destroyed.
+    static SettingsWindow& shared();
+
+    /// `services` is asked once for each window. The others outlive the object.
+    SettingsWindow(
+        UserDefaults& defaults, WindowActivation& activation,
+        std::function<SettingsServices()> services);
+    ~SettingsWindow() override;
+
+    /// The menu bar of windows made from now on.
+    void setMainMenu(QList<MenuModel> menus) { mainMenu_ = std::move(menus); }
+    /// What the restart command uses, in windows made from now on.
+    void setRelaunch(Relaunch relaunch) { relaunch_ = std::move(relaunch); }
+
+    /// Shows the window in front of all others, or brings it forward as it is.
+    void show();
+    /// Closes the window if there is one, and forgets it.
+    void close();
+    /// Shows the About panel, in the settings window.
+    void showAboutPanel();
+
+    /// The window while there is one.
+    QWidget* window() const { return window_.get(); }
+    SettingsView* view() const { return view_; }
+
+private:
+    class Window;
+
+    void makeWindow();
+    /// Puts the window where it was last, else in the middle of the screen.
+    void restoreFrame();
+    void saveFrame();
+    void windowWillClose();
+
+    UserDefaults& defaults_;
+    WindowActivation& activation_;
+    const std::function<SettingsServices()> services_;
+    QList<MenuModel> mainMenu_;
+    Relaunch relaunch_;
+    std::unique_ptr<QWidget> window_;
+    SettingsView* view_ = nullptr; ///< in the window
+    QTimer saveTimer_;             ///< runs while a frame is to be saved
+};
+
+} // namespace velmora

@@ -1,0 +1,89 @@
+#include "settings/VelmoraSettingsView.h"
+
+#include "foundation/ActionMessages.h"
+#include "foundation/LocalizedString.h"
+#include "foundation/MainQueue.h"
+#include "model/ShortcutManager.h"
+#include "settings/RecordListPane.h"
+#include "settings/ShortcutEditorView.h"
+#include "settings/VersionLine.h"
+
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+namespace {
+
+constexpr int restartPadding = 8;
+constexpr int footerPadding = 8;
+
+QString alignmentName(ButtonAlignment alignment) {
+    return localizedString(
+        alignment == ButtonAlignment::left ? "shortcut_alignment_left"
+                                           : "shortcut_alignment_right");
+}
+
+RecordSnapshot snapshot(const QList<ShortcutButton>& shortcuts) {
+    QList<QUuid> ids;
+    ids.reserve(shortcuts.size());
+    for (const ShortcutButton& shortcut : shortcuts)
+        ids.append(shortcut.id());
+    return {.ids = ids, .row = [shortcuts](qsizetype position) {
+                const ShortcutButton& shortcut = shortcuts.at(position);
+                return RecordRow{
+                    .symbol = shortcut.icon,
+                    .title = shortcut.title,
+                    .detail = displayName(shortcut.action),
+                    .badge = alignmentName(shortcut.alignment)};
+            }};
+}
+
+} // namespace
+
+VelmoraSettingsView::VelmoraSettingsView(
+    ShortcutManager& shortcutManager, EventTaps& eventTaps, Relaunch relaunch,
+    std::optional<QVariantMap> infoDictionary, QWidget* parent)
+    : QWidget(parent), relaunch_(std::move(relaunch)) {
+    ShortcutManager& store = shortcutManager;
+    pane_ = new RecordListPane(
+        localizedString("shortcuts_title"),
+        {.snapshot = [&store] { return snapshot(store.shortcuts()); },
+         .remove = [&store](qsizetype index) { store.removeShortcut(index); },
+         .move = [&store](qsizetype from, qsizetype to) { store.moveShortcut(from, to); },
+         .makeEditor = [&store, &eventTaps](qsizetype index, std::function<void()> close)
+             -> std::unique_ptr<QWidget> {
+             const bool isEditing = index >= 0 && index < store.shortcuts().size();
+             const auto onSave = [&store, index, isEditing, close](const ShortcutButton& button) {
+                 if (isEditing)
+                     store.updateShortcut(index, button);
+                 else
+                     store.addShortcut(button);
+                 close();
+             };
+             return std::make_unique<ShortcutEditorView>(
+                 isEditing ? std::optional(store.shortcuts().at(index)) : std::nullopt, onSave,
+                 close, eventTaps);
+         }});
+    connect(&store, &ShortcutManager::shortcutsWillChange, pane_, &RecordListPane::scheduleReload);
+    QPushButton* restart =
+        pane_->addButton(u"arrow.clockwise"_s, localizedString("restart"), restartPadding);
+    connect(restart, &QPushButton::clicked, this, &VelmoraSettingsView::restartApp);
+
+    auto* stack = new QVBoxLayout(this);
+    stack->setContentsMargins(0, 0, 0, footerPadding);
+    stack->setSpacing(0);
+    stack->addWidget(pane_, 1);
+    stack->addWidget(new VersionLine(std::move(infoDictionary)));
+    setFocusProxy(pane_);
+}
+
+void VelmoraSettingsView::restartApp() {
+    const auto terminate = [] {
+        MainQueue::submit([] { ActionMessages::shared().send(u"terminate:"_s); });
+    };
+    relaunch_(terminate);
+}
+
+} // namespace velmora

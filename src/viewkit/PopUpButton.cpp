@@ -1,0 +1,65 @@
+#include "viewkit/PopUpButton.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QWheelEvent>
+
+namespace velmora {
+namespace {
+
+constexpr double chevronInset = 14; ///< its centre from the trailing edge
+constexpr double chevronHalfWidth = 3.5;
+constexpr double chevronHeight = 3.5;
+constexpr double chevronDistance = 2; ///< from the middle line
+
+} // namespace
+
+PopUpButton::PopUpButton(QWidget* parent) : QComboBox(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    constexpr int everyItem = 32;
+    setMaxVisibleItems(everyItem);
+}
+
+void PopUpButton::paintEvent(QPaintEvent* event) {
+    QComboBox::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(
+        palette().color(QPalette::ButtonText), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const double x = isRightToLeft() ? chevronInset : width() - chevronInset;
+    const double middle = height() / 2.0;
+    for (const int direction : {-1, 1}) {
+        const double base = middle + direction * chevronDistance;
+        QPainterPath chevron(QPointF(x - chevronHalfWidth, base));
+        chevron.lineTo(x, base + direction * chevronHeight);
+        chevron.lineTo(x + chevronHalfWidth, base);
+        painter.drawPath(chevron);
+    }
+}
+
+void PopUpButton::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        showPopup();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        event->ignore(); // the window's default button
+        break;
+    default:
+        QComboBox::keyPressEvent(event);
+    }
+}
+
+void PopUpButton::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+} // namespace velmora

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace velmora {
+
+/// A button that shows one of several items and opens a menu of them. The choice changes only in
+/// the menu: neither the wheel nor an arrow key passes through the items.
+class PopUpButton : public QComboBox {
+    Q_OBJECT
+public:
+    explicit PopUpButton(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+} // namespace velmora

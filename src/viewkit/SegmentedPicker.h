@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+class QButtonGroup;
+
+namespace velmora {
+
+/// A row of joined segments of which one is chosen; the arrow keys move the choice.
+class SegmentedPicker : public QWidget {
+    Q_OBJECT
+public:
+    explicit SegmentedPicker(const QStringList& titles, QWidget* parent = nullptr);
+
+    /// Position of the chosen segment.
+    int currentIndex() const;
+    void setCurrentIndex(int index);
+
+Q_SIGNALS:
+    /// The user chose another segment, or setCurrentIndex() did.
+    void currentIndexChanged(int index);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QButtonGroup* const segments_;
+};
+
+} // namespace velmora
