@@ -2,6 +2,7 @@
 // exec to the painted bar beside a minimal Qt Widgets window, private memory, wake-ups while idle,
 // and the time from a click to the start of the child it runs beside the shell's own start.
 
+#include "input/MouseButtonBinding.h"
 #include "model/StoredForm.h"
 #include "support/Desktop.h"
 #include "support/Driver.h"
@@ -12,6 +13,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <chrono>
@@ -120,6 +122,124 @@ long long now() {
     return std::chrono::nanoseconds(Clock::now().time_since_epoch()).count();
 }
 
+/// Times of one run after another, and how to say them.
+struct Series {
+    const char* name;
+    std::vector<double> milliseconds = {};
+};
+
+/// From a press to what it does: the bar's pixels, or the first instruction of the child that it
+/// starts, with hot-key daemons doing the same on the same display.
+void measureReactions(
+    const XClient& client, Driver& driver, const QString& folder, QRgb background) {
+    const QTemporaryDir home;
+    const QString stampFile = home.path() + u"/stamp"_s;
+    const QString command = u"exec %1/stamp %2"_s.arg(folder, stampFile);
+    store(home, 4, ExecuteShellCommand{command});
+    {
+        QSettings settings(home.path() + u"/velmora/velmora.conf"_s, QSettings::IniFormat);
+        settings.setValue(
+            u"SavedMouseBindings"_s,
+            encodedList(QList<MouseButtonBinding>{{3, ExecuteShellCommand{command}}}));
+    }
+    const auto write = [&](const QString& name, const QString& text) {
+        QFile file(home.path() + u'/' + name);
+        if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0)
+            qFatal("cannot write");
+        return file.fileName();
+    };
+    const QString sxhkdFile = write(u"sxhkdrc"_s, u"alt + n\n    %1\n"_s.arg(command));
+    const QString xbindkeysFile =
+        write(u"xbindkeysrc"_s, u"\"%1\"\n  alt + b\n\"%1\"\n  b:9\n"_s.arg(command));
+    qputenv("SXHKD_SHELL", "/bin/zsh");
+    qputenv("SHELL", "/bin/zsh");
+    QProcess sxhkd;
+    QProcess xbindkeys;
+    if (!QStandardPaths::findExecutable(u"sxhkd"_s).isEmpty())
+        sxhkd.start(u"sxhkd"_s, {u"-c"_s, sxhkdFile});
+    if (!QStandardPaths::findExecutable(u"xbindkeys"_s).isEmpty())
+        xbindkeys.start(u"xbindkeys"_s, {u"-n"_s, u"-f"_s, xbindkeysFile});
+
+    const Running program(folder + u"/velmora"_s, home);
+    program.untilPainted(client, background);
+    QThread::sleep(1); // the daemons have their grabs
+
+    Series shell{"the shell started bare"};
+    Series click{"click on a button"};
+    Series button{"bound mouse button"};
+    Series sxhkdKey{"sxhkd, hot key"};
+    Series xbindkeysKey{"xbindkeys, hot key"};
+    Series xbindkeysButton{"xbindkeys, mouse button"};
+    Series toggle{"hot key"};
+    const auto stampedSince = [&](long long start, Series& series) {
+        series.milliseconds.push_back(static_cast<double>(stampedTime(stampFile) - start) / 1e6);
+    };
+    const auto chord = [&](const char* key, Series& series) {
+        driver.pressKey("LALT");
+        const long long start = now();
+        driver.pressKey(key);
+        stampedSince(start, series);
+        driver.releaseKey(key);
+        driver.releaseKey("LALT");
+    };
+    const auto press = [&](uint8_t number, Series& series) {
+        const long long start = now();
+        driver.pressButton(number);
+        stampedSince(start, series);
+        driver.releaseButton(number);
+    };
+    driver.move(90, 12);
+    for (int run = 0; run < runs; ++run) {
+        const long long start = now();
+        QProcess::startDetached(u"/bin/zsh"_s, {u"-c"_s, command});
+        stampedSince(start, shell);
+
+        driver.pressButton(1);
+        const long long released = now();
+        driver.releaseButton(1);
+        stampedSince(released, click);
+
+        press(8, button);
+        if (sxhkd.state() == QProcess::Running)
+            chord("AB06", sxhkdKey);
+        if (xbindkeys.state() == QProcess::Running) {
+            chord("AB05", xbindkeysKey);
+            press(9, xbindkeysButton);
+        }
+
+        const QRgb before = pixel(client, probe);
+        driver.pressKey("LALT");
+        const long long pressed = now();
+        driver.pressKey("AB07");
+        while (pixel(client, probe) == before) {
+        }
+        toggle.milliseconds.push_back(static_cast<double>(now() - pressed) / 1e6);
+        driver.releaseKey("AB07");
+        driver.releaseKey("LALT");
+        // Shown again for the next run's click.
+        driver.pressKey("LALT");
+        driver.tapKey("AB07");
+        driver.releaseKey("LALT");
+        waitFor([&] { return pixel(client, probe) == before; });
+    }
+    for (QProcess* daemon : {&sxhkd, &xbindkeys}) {
+        daemon->terminate();
+        daemon->waitForFinished();
+    }
+    std::printf(
+        "\n| from the press to the child's first instruction | median | beside the shell |\n");
+    std::printf("|---|---|---|\n");
+    for (const Series& series : {shell, click, button, sxhkdKey, xbindkeysKey, xbindkeysButton}) {
+        if (!series.milliseconds.empty())
+            std::printf(
+                "| %s | %.2f ms | %+.2f ms |\n", series.name, median(series.milliseconds),
+                median(series.milliseconds) - median(shell.milliseconds));
+    }
+    std::printf(
+        "\nHot key to changed pixels: %.2f ms (median of %d).\n", median(toggle.milliseconds),
+        runs);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -175,29 +295,6 @@ int main(int argc, char** argv) {
     }
     std::printf("\n");
 
-    // The shell's own start, and the same through a click on the bar.
-    const QTemporaryDir clickHome;
-    const QString stampFile = clickHome.path() + u"/stamp"_s;
-    const QString command = u"exec %1/stamp %2"_s.arg(folder, stampFile);
-    store(clickHome, 4, ExecuteShellCommand{command});
-    std::vector<double> shell;
-    std::vector<double> click;
-    gone();
-    const Running program(folder + u"/velmora"_s, clickHome);
-    program.untilPainted(client, background);
-    driver.move(90, 12);
-    for (int run = 0; run < runs; ++run) {
-        long long start = now();
-        QProcess::startDetached(u"/bin/zsh"_s, {u"-c"_s, command});
-        shell.push_back(static_cast<double>(stampedTime(stampFile) - start) / 1e6);
-        driver.pressButton(1);
-        start = now();
-        driver.releaseButton(1);
-        click.push_back(static_cast<double>(stampedTime(stampFile) - start) / 1e6);
-    }
-    std::printf(
-        "\nClick to the child's first instruction: %.2f ms; the shell started bare: %.2f ms "
-        "(medians of %d).\n",
-        median(click), median(shell), runs);
+    measureReactions(client, driver, folder, background);
     return 0;
 }

@@ -13,9 +13,12 @@ runtime_packages=(zsh fonts-dejavu-core libqt6svg6 shared-mime-info desktop-file
 demo_packages=(xvfb openbox xdotool imagemagick x11-utils fonts-noto-cjk)
 # For ./test.
 test_packages=(
-    libgtest-dev libgmock-dev xvfb openbox xfwm4 dbus x11-utils x11-xserver-utils x11-xkb-utils
-    fonts-noto-cjk
+    libgtest-dev libgmock-dev xvfb openbox xfwm4 picom dbus x11-utils x11-xserver-utils x11-xkb-utils
+    fonts-noto-cjk trayer xfce4-panel at-spi2-core
 )
+
+# For the benchmarks: what Velmora is compared with on the same display.
+bench_packages=(libbenchmark-dev xvfb sxhkd xbindkeys)
 
 # install_missing PACKAGE...: installs those that are not there, as root or through sudo.
 install_missing() {

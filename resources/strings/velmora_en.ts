@@ -3,6 +3,18 @@
 <TS version="2.1" language="en">
 <context>
     <name></name>
+    <message id="Safari">
+        <source></source>
+        <translation>Safari</translation>
+    </message>
+    <message id="about_licence">
+        <source></source>
+        <translation>© 2026 The Velmora developers. Free software under the MIT licence.</translation>
+    </message>
+    <message id="about_title">
+        <source></source>
+        <translation>About Velmora</translation>
+    </message>
     <message id="action_desc_execute">
         <source></source>
         <translation>Run %1</translation>
@@ -18,6 +30,94 @@
     <message id="action_desc_open">
         <source></source>
         <translation>Open %1</translation>
+    </message>
+    <message id="action_execute_shell">
+        <source></source>
+        <translation>Run Shell Command</translation>
+    </message>
+    <message id="action_launch_app">
+        <source></source>
+        <translation>Launch Application</translation>
+    </message>
+    <message id="action_open_url">
+        <source></source>
+        <translation>Open Address</translation>
+    </message>
+    <message id="action_press_key">
+        <source></source>
+        <translation>Press Keys</translation>
+    </message>
+    <message id="add">
+        <source></source>
+        <translation>Add</translation>
+    </message>
+    <message id="alert_shell_message">
+        <source></source>
+        <translation>Velmora will run it with your rights and without asking again. Save it only if you understand what it does and trust it.</translation>
+    </message>
+    <message id="alert_shell_title">
+        <source></source>
+        <translation>Save this shell command?</translation>
+    </message>
+    <message id="button_cancel">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="button_close">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="button_save">
+        <source></source>
+        <translation>Save</translation>
+    </message>
+    <message id="button_select">
+        <source></source>
+        <translation>Choose…</translation>
+    </message>
+    <message id="delete">
+        <source></source>
+        <translation>Delete</translation>
+    </message>
+    <message id="edit">
+        <source></source>
+        <translation>Edit</translation>
+    </message>
+    <message id="group_action">
+        <source></source>
+        <translation>Action</translation>
+    </message>
+    <message id="group_basic">
+        <source></source>
+        <translation>Appearance</translation>
+    </message>
+    <message id="label_alignment">
+        <source></source>
+        <translation>Side</translation>
+    </message>
+    <message id="label_app">
+        <source></source>
+        <translation>Application</translation>
+    </message>
+    <message id="label_command">
+        <source></source>
+        <translation>Command</translation>
+    </message>
+    <message id="label_icon">
+        <source></source>
+        <translation>Symbol</translation>
+    </message>
+    <message id="label_key_combo">
+        <source></source>
+        <translation>Keys</translation>
+    </message>
+    <message id="label_title">
+        <source></source>
+        <translation>Title</translation>
+    </message>
+    <message id="label_url">
+        <source></source>
+        <translation>Address</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -35,6 +135,158 @@
     <message id="menu_toggle">
         <source></source>
         <translation>Hide or Show the Bar</translation>
+    </message>
+    <message id="mouse_action_label">
+        <source></source>
+        <translation>Action</translation>
+    </message>
+    <message id="mouse_add_title">
+        <source></source>
+        <translation>New Mouse Button</translation>
+    </message>
+    <message id="mouse_btn_4">
+        <source></source>
+        <translation>Button 4</translation>
+    </message>
+    <message id="mouse_btn_5">
+        <source></source>
+        <translation>Button 5</translation>
+    </message>
+    <message id="mouse_btn_6">
+        <source></source>
+        <translation>Button 6</translation>
+    </message>
+    <message id="mouse_btn_7">
+        <source></source>
+        <translation>Button 7</translation>
+    </message>
+    <message id="mouse_btn_8">
+        <source></source>
+        <translation>Button 8</translation>
+    </message>
+    <message id="mouse_btn_9">
+        <source></source>
+        <translation>Button 9</translation>
+    </message>
+    <message id="mouse_btn_label">
+        <source></source>
+        <translation>Mouse Button</translation>
+    </message>
+    <message id="mouse_btn_middle">
+        <source></source>
+        <translation>Middle Button</translation>
+    </message>
+    <message id="mouse_button">
+        <source></source>
+        <translation>Button</translation>
+    </message>
+    <message id="mouse_click_btn4">
+        <source></source>
+        <translation>Button 4</translation>
+    </message>
+    <message id="mouse_click_btn5">
+        <source></source>
+        <translation>Button 5</translation>
+    </message>
+    <message id="mouse_click_btn_format">
+        <source></source>
+        <translation>Button %1</translation>
+    </message>
+    <message id="mouse_click_left">
+        <source></source>
+        <translation>Left Button</translation>
+    </message>
+    <message id="mouse_click_middle">
+        <source></source>
+        <translation>Middle Button</translation>
+    </message>
+    <message id="mouse_click_right">
+        <source></source>
+        <translation>Right Button</translation>
+    </message>
+    <message id="mouse_edit_title">
+        <source></source>
+        <translation>Edit Mouse Button</translation>
+    </message>
+    <message id="mouse_settings_title">
+        <source></source>
+        <translation>Actions for Mouse Buttons</translation>
+    </message>
+    <message id="picker_app_clear">
+        <source></source>
+        <translation>Clear search</translation>
+    </message>
+    <message id="picker_app_loading">
+        <source></source>
+        <translation>Looking for applications…</translation>
+    </message>
+    <message id="picker_app_search">
+        <source></source>
+        <translation>Search applications</translation>
+    </message>
+    <message id="picker_app_show_all">
+        <source></source>
+        <translation>Show All %1 Applications</translation>
+    </message>
+    <message id="picker_app_title">
+        <source></source>
+        <translation>Choose an Application</translation>
+    </message>
+    <message id="picker_icon_title">
+        <source></source>
+        <translation>Choose a Symbol</translation>
+    </message>
+    <message id="placeholder_app_name">
+        <source></source>
+        <translation>Name of the application</translation>
+    </message>
+    <message id="placeholder_sf_symbol">
+        <source></source>
+        <translation>Name of a symbol, such as star</translation>
+    </message>
+    <message id="placeholder_url">
+        <source></source>
+        <translation>https://example.com</translation>
+    </message>
+    <message id="restart">
+        <source></source>
+        <translation>Restart</translation>
+    </message>
+    <message id="settings_tab_mouse">
+        <source></source>
+        <translation>Mouse Buttons</translation>
+    </message>
+    <message id="settings_tab_velmora">
+        <source></source>
+        <translation>Bar Buttons</translation>
+    </message>
+    <message id="shortcut_add_title">
+        <source></source>
+        <translation>New Button</translation>
+    </message>
+    <message id="shortcut_alignment_left">
+        <source></source>
+        <translation>Left</translation>
+    </message>
+    <message id="shortcut_alignment_right">
+        <source></source>
+        <translation>Right</translation>
+    </message>
+    <message id="shortcut_delete">
+        <source></source>
+        <translation>Delete</translation>
+    </message>
+    <message id="shortcut_edit">
+        <source></source>
+        <translation>Edit…</translation>
+    </message>
+    <message id="shortcut_edit_title">
+        <source></source>
+        <translation>Edit Button</translation>
+    </message>
+    <message id="shortcuts_title">
+        <source></source>
+        <translation>Buttons on the Bar</translation>
     </message>
     <message id="tos.agree">
         <source></source>
@@ -69,6 +321,22 @@ If you agree, Velmora starts now and does not ask again. If you do not, quit her
         <source></source>
         <extracomment>Terms of Service Title; Terms of Service</extracomment>
         <translation>Terms of Service</translation>
+    </message>
+    <message id="unknown_version">
+        <source></source>
+        <translation>Unknown version</translation>
+    </message>
+    <message id="version_format">
+        <source></source>
+        <translation>Version %1 (%2)</translation>
+    </message>
+    <message id="クリア">
+        <source></source>
+        <translation>Clear</translation>
+    </message>
+    <message id="例: ⌘C, ⌥⇧N, ⌃⌘Space">
+        <source></source>
+        <translation>For example ⌘C, ⌥⇧N, ⌃⌘Space</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,18 @@
 <TS version="2.1" language="ja">
 <context>
     <name></name>
+    <message id="Safari">
+        <source></source>
+        <translation>Safari</translation>
+    </message>
+    <message id="about_licence">
+        <source></source>
+        <translation>© 2026 The Velmora developers. MITライセンスのフリーソフトウェアです。</translation>
+    </message>
+    <message id="about_title">
+        <source></source>
+        <translation>Velmoraについて</translation>
+    </message>
     <message id="action_desc_execute">
         <source></source>
         <translation>%1を実行</translation>
@@ -18,6 +30,94 @@
     <message id="action_desc_open">
         <source></source>
         <translation>%1を開く</translation>
+    </message>
+    <message id="action_execute_shell">
+        <source></source>
+        <translation>シェルコマンドを実行</translation>
+    </message>
+    <message id="action_launch_app">
+        <source></source>
+        <translation>アプリを起動</translation>
+    </message>
+    <message id="action_open_url">
+        <source></source>
+        <translation>アドレスを開く</translation>
+    </message>
+    <message id="action_press_key">
+        <source></source>
+        <translation>キーを押す</translation>
+    </message>
+    <message id="add">
+        <source></source>
+        <translation>追加</translation>
+    </message>
+    <message id="alert_shell_message">
+        <source></source>
+        <translation>Velmoraはこのコマンドをお使いのアカウントの権限で、確認なしに実行します。内容を理解し、信頼できる場合だけ保存してください。</translation>
+    </message>
+    <message id="alert_shell_title">
+        <source></source>
+        <translation>このシェルコマンドを保存しますか？</translation>
+    </message>
+    <message id="button_cancel">
+        <source></source>
+        <translation>キャンセル</translation>
+    </message>
+    <message id="button_close">
+        <source></source>
+        <translation>閉じる</translation>
+    </message>
+    <message id="button_save">
+        <source></source>
+        <translation>保存</translation>
+    </message>
+    <message id="button_select">
+        <source></source>
+        <translation>選択…</translation>
+    </message>
+    <message id="delete">
+        <source></source>
+        <translation>削除</translation>
+    </message>
+    <message id="edit">
+        <source></source>
+        <translation>編集</translation>
+    </message>
+    <message id="group_action">
+        <source></source>
+        <translation>動作</translation>
+    </message>
+    <message id="group_basic">
+        <source></source>
+        <translation>表示</translation>
+    </message>
+    <message id="label_alignment">
+        <source></source>
+        <translation>位置</translation>
+    </message>
+    <message id="label_app">
+        <source></source>
+        <translation>アプリ</translation>
+    </message>
+    <message id="label_command">
+        <source></source>
+        <translation>コマンド</translation>
+    </message>
+    <message id="label_icon">
+        <source></source>
+        <translation>シンボル</translation>
+    </message>
+    <message id="label_key_combo">
+        <source></source>
+        <translation>キー</translation>
+    </message>
+    <message id="label_title">
+        <source></source>
+        <translation>タイトル</translation>
+    </message>
+    <message id="label_url">
+        <source></source>
+        <translation>アドレス</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -35,6 +135,158 @@
     <message id="menu_toggle">
         <source></source>
         <translation>バーの表示を切り替え</translation>
+    </message>
+    <message id="mouse_action_label">
+        <source></source>
+        <translation>動作</translation>
+    </message>
+    <message id="mouse_add_title">
+        <source></source>
+        <translation>新規マウスボタン</translation>
+    </message>
+    <message id="mouse_btn_4">
+        <source></source>
+        <translation>ボタン4</translation>
+    </message>
+    <message id="mouse_btn_5">
+        <source></source>
+        <translation>ボタン5</translation>
+    </message>
+    <message id="mouse_btn_6">
+        <source></source>
+        <translation>ボタン6</translation>
+    </message>
+    <message id="mouse_btn_7">
+        <source></source>
+        <translation>ボタン7</translation>
+    </message>
+    <message id="mouse_btn_8">
+        <source></source>
+        <translation>ボタン8</translation>
+    </message>
+    <message id="mouse_btn_9">
+        <source></source>
+        <translation>ボタン9</translation>
+    </message>
+    <message id="mouse_btn_label">
+        <source></source>
+        <translation>マウスボタン</translation>
+    </message>
+    <message id="mouse_btn_middle">
+        <source></source>
+        <translation>中ボタン</translation>
+    </message>
+    <message id="mouse_button">
+        <source></source>
+        <translation>ボタン</translation>
+    </message>
+    <message id="mouse_click_btn4">
+        <source></source>
+        <translation>ボタン4</translation>
+    </message>
+    <message id="mouse_click_btn5">
+        <source></source>
+        <translation>ボタン5</translation>
+    </message>
+    <message id="mouse_click_btn_format">
+        <source></source>
+        <translation>ボタン%1</translation>
+    </message>
+    <message id="mouse_click_left">
+        <source></source>
+        <translation>左ボタン</translation>
+    </message>
+    <message id="mouse_click_middle">
+        <source></source>
+        <translation>中ボタン</translation>
+    </message>
+    <message id="mouse_click_right">
+        <source></source>
+        <translation>右ボタン</translation>
+    </message>
+    <message id="mouse_edit_title">
+        <source></source>
+        <translation>マウスボタンを編集</translation>
+    </message>
+    <message id="mouse_settings_title">
+        <source></source>
+        <translation>マウスボタンの動作</translation>
+    </message>
+    <message id="picker_app_clear">
+        <source></source>
+        <translation>検索を消去</translation>
+    </message>
+    <message id="picker_app_loading">
+        <source></source>
+        <translation>アプリケーションを探しています…</translation>
+    </message>
+    <message id="picker_app_search">
+        <source></source>
+        <translation>アプリケーションを検索</translation>
+    </message>
+    <message id="picker_app_show_all">
+        <source></source>
+        <translation>%1個のアプリケーションをすべて表示</translation>
+    </message>
+    <message id="picker_app_title">
+        <source></source>
+        <translation>アプリケーションを選択</translation>
+    </message>
+    <message id="picker_icon_title">
+        <source></source>
+        <translation>シンボルを選択</translation>
+    </message>
+    <message id="placeholder_app_name">
+        <source></source>
+        <translation>アプリの名前</translation>
+    </message>
+    <message id="placeholder_sf_symbol">
+        <source></source>
+        <translation>シンボルの名前（例: star）</translation>
+    </message>
+    <message id="placeholder_url">
+        <source></source>
+        <translation>https://example.com</translation>
+    </message>
+    <message id="restart">
+        <source></source>
+        <translation>再起動</translation>
+    </message>
+    <message id="settings_tab_mouse">
+        <source></source>
+        <translation>マウスボタン</translation>
+    </message>
+    <message id="settings_tab_velmora">
+        <source></source>
+        <translation>バーのボタン</translation>
+    </message>
+    <message id="shortcut_add_title">
+        <source></source>
+        <translation>新規ボタン</translation>
+    </message>
+    <message id="shortcut_alignment_left">
+        <source></source>
+        <translation>左</translation>
+    </message>
+    <message id="shortcut_alignment_right">
+        <source></source>
+        <translation>右</translation>
+    </message>
+    <message id="shortcut_delete">
+        <source></source>
+        <translation>削除</translation>
+    </message>
+    <message id="shortcut_edit">
+        <source></source>
+        <translation>編集…</translation>
+    </message>
+    <message id="shortcut_edit_title">
+        <source></source>
+        <translation>ボタンを編集</translation>
+    </message>
+    <message id="shortcuts_title">
+        <source></source>
+        <translation>バーに表示するボタン</translation>
     </message>
     <message id="tos.agree">
         <source></source>
@@ -69,6 +321,22 @@ VelmoraはMITライセンスのフリーソフトウェアです。現状のま�
         <source></source>
         <extracomment>Terms of Service Title; Terms of Service</extracomment>
         <translation>利用規約</translation>
+    </message>
+    <message id="unknown_version">
+        <source></source>
+        <translation>バージョン不明</translation>
+    </message>
+    <message id="version_format">
+        <source></source>
+        <translation>バージョン %1（%2）</translation>
+    </message>
+    <message id="クリア">
+        <source></source>
+        <translation>クリア</translation>
+    </message>
+    <message id="例: ⌘C, ⌥⇧N, ⌃⌘Space">
+        <source></source>
+        <translation>例: ⌘C, ⌥⇧N, ⌃⌘Space</translation>
     </message>
 </context>
 </TS>

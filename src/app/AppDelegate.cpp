@@ -12,23 +12,40 @@
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
+#include "platform/Relaunch.h"
+#include "platform/SingleInstance.h"
 #include "settings/SettingsWindow.h"
+#include "viewkit/PopupMenu.h"
 #include "viewkit/WindowTheme.h"
 
 #include <QCoreApplication>
 #include <QPointer>
-#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
 namespace velmora {
+namespace {
+
+bool hasAgreed() {
+    return UserDefaults::standard().boolean(TermsOfServiceView::agreementKey);
+}
+
+} // namespace
 
 AppDelegate::AppDelegate()
-    : overlayController(ScreenManager::shared(), Platform::current().panelWindows) {}
+    : overlayController(ScreenManager::shared(), Platform::current().panelWindows),
+      hotKeyManager(HotKeyManager::shared()),
+      mouseButtonManager(MouseButtonManager::shared()),
+      statusBarController(
+          Platform::current().trayHost, [] { ActionMessages::shared().send(u"showSettings"_s); }) {}
 
 void AppDelegate::applicationDidFinishLaunching() {
     setupMainMenu();
     checkTermsAndStart();
+    Platform::current().singleInstance.setComeForwardHandler([self = QPointer(this)] {
+        if (self)
+            self->comeForward();
+    });
 }
 
 void AppDelegate::setupMainMenu() {
@@ -43,11 +60,15 @@ void AppDelegate::setupMainMenu() {
 }
 
 void AppDelegate::checkTermsAndStart() {
-    if (UserDefaults::standard().boolean(TermsOfServiceView::agreementKey)) {
+    if (hasAgreed()) {
         startServices();
         return;
     }
     followDesktopAppearance();
+    showTerms();
+}
+
+void AppDelegate::showTerms() {
     TermsOfServiceWindow::shared().show([self = QPointer(this)] {
         if (self)
             self->startServices();
@@ -67,6 +88,16 @@ void AppDelegate::startServices() {
     // Nothing waits for the answer.
     Platform::current().accessibility.isProcessTrustedWithPrompt();
     setupOverlay();
+    setupStatusBar();
+    setupHotKeys();
+    setupMouseButtonMonitoring();
+}
+
+void AppDelegate::comeForward() {
+    if (hasAgreed())
+        ActionMessages::shared().send(u"showSettings"_s);
+    else
+        showTerms();
 }
 
 void AppDelegate::setupOverlay() {
@@ -75,13 +106,28 @@ void AppDelegate::setupOverlay() {
         [](const ShortcutAction& action) { ActionEngine::shared().execute(action); }));
 }
 
+void AppDelegate::setupStatusBar() {
+    statusBarController.overlayController = &overlayController;
+    statusBarController.setupStatusBar();
+}
+
+void AppDelegate::setupHotKeys() {
+    hotKeyManager.overlayController = &overlayController;
+    hotKeyManager.setupHotKeys();
+    PopupMenu::setKeyFilter(
+        [this](const QKeyEvent& event) { return hotKeyManager.performKeyEquivalent(event); });
+}
+
+void AppDelegate::setupMouseButtonMonitoring() {
+    mouseButtonManager.startMonitoring();
+}
+
 void AppDelegate::showSettings() {
     followDesktopAppearance();
     SettingsWindow& settings = SettingsWindow::shared();
     settings.setMainMenu(mainMenu_);
     settings.setRelaunch([](const std::function<void()>& completion) {
-        QProcess::startDetached(QCoreApplication::applicationFilePath(), {});
-        completion();
+        relaunch(Platform::current().singleInstance, completion);
     });
     settings.show();
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "app/StatusBarController.h"
+#include "input/HotKeyManager.h"
+#include "input/MouseButtonManager.h"
 #include "overlay/OverlayController.h"
 #include "viewkit/MenuModel.h"
 
@@ -20,16 +23,25 @@ public:
     void applicationDidFinishLaunching();
 
     void setupOverlay();
+    void setupStatusBar();
+    void setupHotKeys();
+    void setupMouseButtonMonitoring();
 
     void showSettings();
     void toggleOverlayMenu();
     void quitApp();
 
     OverlayController overlayController;
+    HotKeyManager& hotKeyManager;
+    MouseButtonManager& mouseButtonManager;
+    StatusBarController statusBarController;
 
 private:
     void checkTermsAndStart();
+    void showTerms();
     void startServices();
+    /// The user started the program again: the settings, or, before agreement, the terms.
+    void comeForward();
     /// From the first window on.
     void followDesktopAppearance();
     void setupMainMenu();

@@ -4,6 +4,8 @@
 #include "app/TerminationSignals.h"
 #include "foundation/HelperPath.h"
 #include "foundation/LocalizedString.h"
+#include "platform/Platform.h"
+#include "platform/SingleInstance.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -20,6 +22,8 @@ int VelmoraApp::main() {
     appDelegate = std::make_unique<AppDelegate>();
     QTimer::singleShot(0, appDelegate.get(), &AppDelegate::applicationDidFinishLaunching);
     const int status = QApplication::exec();
+    // A launch from here on must not count on this instance.
+    Platform::current().singleInstance.makeRoom();
     appDelegate.reset();
     return status;
 }

@@ -2,9 +2,12 @@
 
 #include "app/VelmoraApp.h"
 #include "foundation/Log.h"
+#include "platform/EitherTrayHost.h"
 #include "platform/Platform.h"
+#include "platform/SingleInstance.h"
 #include "platform/freedesktop/FreedesktopAppearance.h"
 #include "platform/freedesktop/FreedesktopWorkspace.h"
+#include "platform/freedesktop/StatusNotifierTrayHost.h"
 #include "platform/x11/X11Session.h"
 
 #include <QApplication>
@@ -20,11 +23,15 @@ int main(int argc, char** argv) {
         Log::write(u"Velmora needs an X11 display; none answers."_s);
         return EXIT_FAILURE;
     }
+    if (!session->singleInstance().claim())
+        return EXIT_SUCCESS; // the one that runs comes forward
     QApplication::setApplicationName(u"velmora"_s);
     QApplication::setDesktopFileName(u"velmora"_s);
     const QApplication application(argc, argv);
     FreedesktopAppearance appearance;
     FreedesktopWorkspace workspace;
+    StatusNotifierTrayHost statusNotifierTrayHost;
+    EitherTrayHost trayHost(statusNotifierTrayHost, session->trayHost());
     const Platform platform{
         .accessibility = session->accessibility(),
         .appearance = appearance,
@@ -32,6 +39,8 @@ int main(int argc, char** argv) {
         .keyboardEvents = session->keyboardEvents(),
         .panelWindows = session->panelWindows(),
         .screens = session->screens(),
+        .singleInstance = session->singleInstance(),
+        .trayHost = trayHost,
         .windowActivation = session->windowActivation(),
         .workspace = workspace,
     };

@@ -1,8 +1,11 @@
 #include "foundation/Log.h"
 
+#include "foundation/Journal.h"
+
 #include <QDateTime>
 #include <cerrno>
 #include <mutex>
+#include <optional>
 #include <unistd.h>
 
 namespace velmora::Log {
@@ -29,6 +32,15 @@ void writeAll(int descriptor, const QByteArray& bytes) {
     }
 }
 
+/// The journal as far as it is wanted, found out by the first line.
+const std::optional<Journal>& journal() {
+    static const std::optional<Journal> instance =
+        wantsJournal(STDERR_FILENO, qgetenv("JOURNAL_STREAM"))
+            ? std::optional<Journal>(std::in_place)
+            : std::nullopt;
+    return instance;
+}
+
 } // namespace
 
 void write(const QString& line) {
@@ -37,9 +49,12 @@ void write(const QString& line) {
         sink(line);
         return;
     }
-    QByteArray bytes = QDateTime::currentDateTime().toString(Qt::ISODateWithMs).toUtf8();
-    bytes += " velmora[" + QByteArray::number(::getpid()) + "] " + line.toUtf8() + '\n';
-    writeAll(STDERR_FILENO, bytes);
+    const QByteArray text = line.toUtf8();
+    QByteArray stamped = QDateTime::currentDateTime().toString(Qt::ISODateWithMs).toUtf8();
+    stamped += " velmora[" + QByteArray::number(::getpid()) + "] " + text + '\n';
+    writeAll(STDERR_FILENO, stamped);
+    if (journal())
+        journal()->write(text);
 }
 
 void setSink(Sink sink) {

@@ -9,7 +9,8 @@ namespace velmora::Log {
 /// Receives each line without its time stamp, instead of standard error. On the caller's thread.
 using Sink = std::function<void(const QString& line)>;
 
-/// Writes `line` to standard error with a time stamp. Line breaks inside it are kept.
+/// Writes `line` to standard error with a time stamp, and, unless the program was started from a
+/// terminal, to the system's journal. Line breaks inside it are kept.
 void write(const QString& line);
 
 /// Sends all lines to `sink` from now on; an empty function restores standard error. For tests.

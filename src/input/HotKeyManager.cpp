@@ -4,6 +4,8 @@
 #include "platform/Accessibility.h"
 #include "platform/Platform.h"
 
+#include <QKeyEvent>
+
 namespace velmora {
 
 HotKeyManager& HotKeyManager::shared() {
@@ -44,16 +46,32 @@ std::optional<TapEvent> HotKeyManager::handleEvent(EventType type, const TapEven
             eventTap_->setEnabled(true);
         return event;
     }
-    const bool matches = type == EventType::keyDown && event.keyCode == keyCodeM &&
-                         (event.flags & kCGEventFlagMaskAlternate);
-    if (!matches)
+    if (type != EventType::keyDown || !matches(event.keyCode, event.flags))
         return event;
-    // Repeats are not filtered. Not from within the tap: a slow handler would be switched off.
+    // Repeats are not filtered.
+    submitToggle();
+    return std::nullopt;
+}
+
+bool HotKeyManager::performKeyEquivalent(const QKeyEvent& event) {
+    const EventFlags flags =
+        event.modifiers().testFlag(Qt::AltModifier) ? kCGEventFlagMaskAlternate : 0;
+    if (!eventTap_ || !matches(eventTaps_.keyCode(event.nativeScanCode()), flags))
+        return false;
+    submitToggle();
+    return true;
+}
+
+bool HotKeyManager::matches(KeyCode keyCode, EventFlags flags) {
+    return keyCode == keyCodeM && (flags & kCGEventFlagMaskAlternate);
+}
+
+void HotKeyManager::submitToggle() {
+    // Not from within the tap: a slow handler would be switched off.
     MainQueue::submit([self = QPointer(this)] {
         if (self && self->overlayController)
             self->overlayController->toggleOverlay();
     });
-    return std::nullopt;
 }
 
 } // namespace velmora

@@ -9,6 +9,8 @@
 #include <memory>
 #include <optional>
 
+class QKeyEvent;
+
 namespace velmora {
 
 /// Makes Option+M show and hide the bar whatever application is in front; that application never
@@ -35,9 +37,15 @@ public:
     /// Ends watching.
     void cleanup();
 
+    /// Toggles when `event` is the hot key, and says whether it was. For a menu of ours, which
+    /// holds the keyboard while it is open, so that no tap gets the key.
+    bool performKeyEquivalent(const QKeyEvent& event);
+
 private:
     static constexpr KeyCode keyCodeM = 46; ///< the position of M on the ANSI keyboard
 
+    static bool matches(KeyCode keyCode, EventFlags flags);
+    void submitToggle();
     std::optional<TapEvent> handleEvent(EventType type, const TapEvent& event);
 
     EventTaps& eventTaps_;

@@ -104,6 +104,10 @@ public:
     virtual std::unique_ptr<EventTap> create(
         EventTapLocation location, EventTapPlacement placement, EventTapOptions options,
         std::uint64_t eventsOfInterest, EventTapInterest interest, Handler handler) = 0;
+
+    /// The position of the key that a window's key event names by `nativeScanCode`; kNoKeyCode for
+    /// a key at no known position. For keys that a window of ours holds and no tap gets.
+    virtual KeyCode keyCode(std::uint32_t nativeScanCode) const = 0;
 };
 
 } // namespace velmora

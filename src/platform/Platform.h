@@ -8,6 +8,8 @@ class EventTaps;
 class KeyboardEvents;
 class PanelWindows;
 class Screens;
+class SingleInstance;
+class TrayHost;
 class WindowActivation;
 class Workspace;
 
@@ -21,6 +23,8 @@ struct Platform {
     KeyboardEvents& keyboardEvents;
     PanelWindows& panelWindows;
     Screens& screens;
+    SingleInstance& singleInstance;
+    TrayHost& trayHost;
     WindowActivation& windowActivation;
     Workspace& workspace;
 

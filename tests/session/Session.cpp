@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcessEnvironment>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -41,7 +40,11 @@ Session::~Session() {
     client_.reset();
 }
 
-void Session::launch() {
+QString Session::programFile() {
+    return QStringLiteral(VELMORA_PROGRAM);
+}
+
+QProcessEnvironment Session::environment() const {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"HOME"_s, home());
     environment.insert(u"XDG_CONFIG_HOME"_s, home() + u"/.config"_s);
@@ -62,12 +65,18 @@ void Session::launch() {
         else
             environment.insert(setting.left(equals), setting.mid(equals + 1));
     }
+    return environment;
+}
+
+void Session::launch(Launch launch) {
     program_ = std::make_unique<QProcess>();
-    program_->setProcessEnvironment(environment);
-    program_->start(QStringLiteral(VELMORA_PROGRAM), QStringList{});
+    program_->setProcessEnvironment(environment());
+    program_->start(programFile(), QStringList{});
     if (!program_->waitForStarted())
         qFatal("the program did not start");
-    if (options_.agreed && !waitFor([this] { return bar().has_value(); }))
+    if (launch == Launch::WithoutWaiting || !options_.agreed)
+        return;
+    if (!waitFor([this] { return bar().has_value(); }))
         qFatal("the bar did not come up:\n%s", qPrintable(log().join(u'\n')));
 }
 

@@ -6,6 +6,7 @@
 #include "support/TestDisplay.h"
 #include "support/Witness.h"
 
+#include <QProcessEnvironment>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <memory>
@@ -28,9 +29,14 @@ public:
     Session() : Session(Options{}) {}
     ~Session();
 
-    /// Starts the program; with `agreed`, waits until the bar is painted.
-    void launch();
+    enum class Launch { UntilTheBarIsThere, WithoutWaiting };
+    /// Starts the program. Without `agreed` there is no bar to wait for.
+    void launch(Launch launch = Launch::UntilTheBarIsThere);
     QProcess& program() { return *program_; }
+
+    /// The program's file and what it is started with, to start it again.
+    static QString programFile();
+    QProcessEnvironment environment() const;
 
     /// The home folder, and the file of the stored settings in it.
     QString home() const { return home_.path(); }

@@ -53,6 +53,11 @@ public:
     /// How often a tap was refused.
     int refusals = 0;
 
+    /// The test's key events carry the position itself.
+    KeyCode keyCode(std::uint32_t nativeScanCode) const override {
+        return static_cast<KeyCode>(nativeScanCode);
+    }
+
     std::unique_ptr<EventTap> create(
         EventTapLocation location, EventTapPlacement placement, EventTapOptions options,
         std::uint64_t eventsOfInterest, EventTapInterest interest, Handler handler) override {

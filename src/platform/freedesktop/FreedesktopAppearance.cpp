@@ -1,9 +1,9 @@
 #include "platform/freedesktop/FreedesktopAppearance.h"
 
-#include <QFileInfo>
-#include <gio/gio.h>
+#include "platform/freedesktop/SessionBus.h"
 
-using namespace Qt::StringLiterals;
+#include <gio/gio.h>
+#include <optional>
 
 namespace velmora {
 namespace {
@@ -17,12 +17,6 @@ constexpr unsigned portalPrefersDark = 1;
 
 constexpr auto gnomeSchema = "org.gnome.desktop.interface";
 constexpr auto gnomeKey = "color-scheme";
-
-/// Asking for a bus that is not there would start one that outlives us.
-bool hasSessionBus() {
-    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
-           QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + u"/bus"_s);
-}
 
 /// The number inside `value`, through any nesting of variants.
 std::optional<unsigned> unwrapped(GVariant* value) {

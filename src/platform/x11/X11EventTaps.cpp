@@ -45,4 +45,11 @@ std::unique_ptr<EventTap> X11EventTaps::create(
         makeGrab, eventsOfInterest, std::move(interest), std::move(handler));
 }
 
+KeyCode X11EventTaps::keyCode(std::uint32_t nativeScanCode) const {
+    // Qt's scan code on X11 is the keycode.
+    return keyboard_.positions()
+        .position(static_cast<xcb_keycode_t>(nativeScanCode))
+        .value_or(kNoKeyCode);
+}
+
 } // namespace velmora

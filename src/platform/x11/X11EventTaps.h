@@ -20,6 +20,7 @@ public:
     std::unique_ptr<EventTap> create(
         EventTapLocation location, EventTapPlacement placement, EventTapOptions options,
         std::uint64_t eventsOfInterest, EventTapInterest interest, Handler handler) override;
+    KeyCode keyCode(std::uint32_t nativeScanCode) const override;
 
 private:
     X11Connection& connection_;

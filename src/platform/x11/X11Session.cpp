@@ -6,6 +6,8 @@
 #include "platform/x11/X11KeyboardEvents.h"
 #include "platform/x11/X11PanelWindows.h"
 #include "platform/x11/X11Screens.h"
+#include "platform/x11/X11SingleInstance.h"
+#include "platform/x11/X11TrayHost.h"
 #include "platform/x11/X11WindowActivation.h"
 
 namespace velmora {
@@ -19,6 +21,7 @@ struct X11Session::Services {
           keyboardEvents(connection, keyboard),
           panelWindows(connection),
           screens(connection),
+          trayHost(connection),
           windowActivation(connection) {
         connection.startDelivery();
     }
@@ -29,6 +32,7 @@ struct X11Session::Services {
     X11KeyboardEvents keyboardEvents;
     X11PanelWindows panelWindows;
     X11Screens screens;
+    X11TrayHost trayHost;
     X11WindowActivation windowActivation;
 };
 
@@ -40,7 +44,8 @@ std::unique_ptr<X11Session> X11Session::create() {
 }
 
 X11Session::X11Session(std::unique_ptr<X11Connection> connection)
-    : connection_(std::move(connection)) {}
+    : connection_(std::move(connection)),
+      singleInstance_(std::make_unique<X11SingleInstance>(*connection_)) {}
 
 X11Session::~X11Session() = default;
 
@@ -68,6 +73,10 @@ PanelWindows& X11Session::panelWindows() {
 
 Screens& X11Session::screens() {
     return services().screens;
+}
+
+TrayHost& X11Session::trayHost() {
+    return services().trayHost;
 }
 
 WindowActivation& X11Session::windowActivation() {

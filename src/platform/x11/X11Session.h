@@ -9,6 +9,8 @@ class EventTaps;
 class KeyboardEvents;
 class PanelWindows;
 class Screens;
+class SingleInstance;
+class TrayHost;
 class WindowActivation;
 class X11Connection;
 
@@ -25,6 +27,9 @@ public:
     KeyboardEvents& keyboardEvents();
     PanelWindows& panelWindows();
     Screens& screens();
+    /// Needs no application object.
+    SingleInstance& singleInstance() { return *singleInstance_; }
+    TrayHost& trayHost();
     WindowActivation& windowActivation();
 
 private:
@@ -34,6 +39,7 @@ private:
     Services& services();
 
     std::unique_ptr<X11Connection> connection_;
+    std::unique_ptr<SingleInstance> singleInstance_;
     std::unique_ptr<Services> services_;
 };
 

@@ -1,0 +1,342 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name></name>
+    <message id="Safari">
+        <source></source>
+        <translation>Safari</translation>
+    </message>
+    <message id="about_licence">
+        <source></source>
+        <translation>© 2026 The Velmora developers. Freie Software unter der MIT-Lizenz.</translation>
+    </message>
+    <message id="about_title">
+        <source></source>
+        <translation>Über Velmora</translation>
+    </message>
+    <message id="action_desc_execute">
+        <source></source>
+        <translation>%1 ausführen</translation>
+    </message>
+    <message id="action_desc_key">
+        <source></source>
+        <translation>%1 drücken</translation>
+    </message>
+    <message id="action_desc_launch">
+        <source></source>
+        <translation>%1 starten</translation>
+    </message>
+    <message id="action_desc_open">
+        <source></source>
+        <translation>%1 öffnen</translation>
+    </message>
+    <message id="action_execute_shell">
+        <source></source>
+        <translation>Shell-Befehl ausführen</translation>
+    </message>
+    <message id="action_launch_app">
+        <source></source>
+        <translation>Programm starten</translation>
+    </message>
+    <message id="action_open_url">
+        <source></source>
+        <translation>Adresse öffnen</translation>
+    </message>
+    <message id="action_press_key">
+        <source></source>
+        <translation>Tasten drücken</translation>
+    </message>
+    <message id="add">
+        <source></source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message id="alert_shell_message">
+        <source></source>
+        <translation>Velmora führt ihn mit Ihren Rechten und ohne weitere Rückfrage aus. Speichern Sie ihn nur, wenn Sie verstehen, was er tut, und ihm vertrauen.</translation>
+    </message>
+    <message id="alert_shell_title">
+        <source></source>
+        <translation>Diesen Shell-Befehl speichern?</translation>
+    </message>
+    <message id="button_cancel">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="button_close">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="button_save">
+        <source></source>
+        <translation>Speichern</translation>
+    </message>
+    <message id="button_select">
+        <source></source>
+        <translation>Auswählen …</translation>
+    </message>
+    <message id="delete">
+        <source></source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="edit">
+        <source></source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message id="group_action">
+        <source></source>
+        <translation>Aktion</translation>
+    </message>
+    <message id="group_basic">
+        <source></source>
+        <translation>Darstellung</translation>
+    </message>
+    <message id="label_alignment">
+        <source></source>
+        <translation>Seite</translation>
+    </message>
+    <message id="label_app">
+        <source></source>
+        <translation>Programm</translation>
+    </message>
+    <message id="label_command">
+        <source></source>
+        <translation>Befehl</translation>
+    </message>
+    <message id="label_icon">
+        <source></source>
+        <translation>Symbol</translation>
+    </message>
+    <message id="label_key_combo">
+        <source></source>
+        <translation>Tasten</translation>
+    </message>
+    <message id="label_title">
+        <source></source>
+        <translation>Titel</translation>
+    </message>
+    <message id="label_url">
+        <source></source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="menu_help">
+        <source></source>
+        <extracomment>Menu tooltip</extracomment>
+        <translation>Velmora-Menü</translation>
+    </message>
+    <message id="menu_quit">
+        <source></source>
+        <translation>Velmora beenden</translation>
+    </message>
+    <message id="menu_settings">
+        <source></source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message id="menu_toggle">
+        <source></source>
+        <translation>Leiste ein- oder ausblenden</translation>
+    </message>
+    <message id="mouse_action_label">
+        <source></source>
+        <translation>Aktion</translation>
+    </message>
+    <message id="mouse_add_title">
+        <source></source>
+        <translation>Neue Maustaste</translation>
+    </message>
+    <message id="mouse_btn_4">
+        <source></source>
+        <translation>Taste 4</translation>
+    </message>
+    <message id="mouse_btn_5">
+        <source></source>
+        <translation>Taste 5</translation>
+    </message>
+    <message id="mouse_btn_6">
+        <source></source>
+        <translation>Taste 6</translation>
+    </message>
+    <message id="mouse_btn_7">
+        <source></source>
+        <translation>Taste 7</translation>
+    </message>
+    <message id="mouse_btn_8">
+        <source></source>
+        <translation>Taste 8</translation>
+    </message>
+    <message id="mouse_btn_9">
+        <source></source>
+        <translation>Taste 9</translation>
+    </message>
+    <message id="mouse_btn_label">
+        <source></source>
+        <translation>Maustaste</translation>
+    </message>
+    <message id="mouse_btn_middle">
+        <source></source>
+        <translation>Mittlere Taste</translation>
+    </message>
+    <message id="mouse_button">
+        <source></source>
+        <translation>Taste</translation>
+    </message>
+    <message id="mouse_click_btn4">
+        <source></source>
+        <translation>Taste 4</translation>
+    </message>
+    <message id="mouse_click_btn5">
+        <source></source>
+        <translation>Taste 5</translation>
+    </message>
+    <message id="mouse_click_btn_format">
+        <source></source>
+        <translation>Taste %1</translation>
+    </message>
+    <message id="mouse_click_left">
+        <source></source>
+        <translation>Linke Taste</translation>
+    </message>
+    <message id="mouse_click_middle">
+        <source></source>
+        <translation>Mittlere Taste</translation>
+    </message>
+    <message id="mouse_click_right">
+        <source></source>
+        <translation>Rechte Taste</translation>
+    </message>
+    <message id="mouse_edit_title">
+        <source></source>
+        <translation>Maustaste bearbeiten</translation>
+    </message>
+    <message id="mouse_settings_title">
+        <source></source>
+        <translation>Aktionen für Maustasten</translation>
+    </message>
+    <message id="picker_app_clear">
+        <source></source>
+        <translation>Suche löschen</translation>
+    </message>
+    <message id="picker_app_loading">
+        <source></source>
+        <translation>Programme werden gesucht …</translation>
+    </message>
+    <message id="picker_app_search">
+        <source></source>
+        <translation>Programme durchsuchen</translation>
+    </message>
+    <message id="picker_app_show_all">
+        <source></source>
+        <translation>Alle %1 Programme anzeigen</translation>
+    </message>
+    <message id="picker_app_title">
+        <source></source>
+        <translation>Programm auswählen</translation>
+    </message>
+    <message id="picker_icon_title">
+        <source></source>
+        <translation>Symbol auswählen</translation>
+    </message>
+    <message id="placeholder_app_name">
+        <source></source>
+        <translation>Name des Programms</translation>
+    </message>
+    <message id="placeholder_sf_symbol">
+        <source></source>
+        <translation>Name eines Symbols, etwa star</translation>
+    </message>
+    <message id="placeholder_url">
+        <source></source>
+        <translation>https://example.com</translation>
+    </message>
+    <message id="restart">
+        <source></source>
+        <translation>Neu starten</translation>
+    </message>
+    <message id="settings_tab_mouse">
+        <source></source>
+        <translation>Maustasten</translation>
+    </message>
+    <message id="settings_tab_velmora">
+        <source></source>
+        <translation>Leistenknöpfe</translation>
+    </message>
+    <message id="shortcut_add_title">
+        <source></source>
+        <translation>Neuer Knopf</translation>
+    </message>
+    <message id="shortcut_alignment_left">
+        <source></source>
+        <translation>Links</translation>
+    </message>
+    <message id="shortcut_alignment_right">
+        <source></source>
+        <translation>Rechts</translation>
+    </message>
+    <message id="shortcut_delete">
+        <source></source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="shortcut_edit">
+        <source></source>
+        <translation>Bearbeiten …</translation>
+    </message>
+    <message id="shortcut_edit_title">
+        <source></source>
+        <translation>Knopf bearbeiten</translation>
+    </message>
+    <message id="shortcuts_title">
+        <source></source>
+        <translation>Knöpfe in der Leiste</translation>
+    </message>
+    <message id="tos.agree">
+        <source></source>
+        <extracomment>Agree Button</extracomment>
+        <translation>Zustimmen</translation>
+    </message>
+    <message id="tos.content">
+        <source></source>
+        <extracomment>Terms of Service Content</extracomment>
+        <translation>Bitte lesen Sie diese wenigen Zeilen, bevor Sie Velmora benutzen.
+
+Was Velmora beobachtet
+Velmora bittet Ihren Desktop nur um zwei Arten von Eingaben: die Tastenkombination Option+M (Alt+M) und das Drücken der zusätzlichen Maustasten, die Sie belegen. Während Sie in den Einstellungen eine Tastenkombination aufzeichnen, sieht es auch die Tasten, die Sie dort drücken. Was Sie tippen oder anklicken, wird nicht festgehalten.
+
+Was auf diesem Computer bleibt
+Ihre Knöpfe, Ihre Maustastenbelegung und diese Zustimmung werden in Ihrem eigenen Konfigurationsordner gespeichert. Velmora sammelt nichts und sendet nichts: Es baut selbst keine Netzwerkverbindung auf. Webseiten, die Ihre Knöpfe öffnen, öffnet Ihr Browser, für den seine eigenen Bedingungen gelten.
+
+Was Velmora für Sie tut
+Ein Klick auf einen Knopf oder das Drücken einer belegten Maustaste startet ein Programm, öffnet eine Adresse, führt einen Shell-Befehl aus oder drückt eine Tastenkombination, genau wie Sie es eingerichtet haben. Shell-Befehle laufen mit Ihren Rechten und ohne weitere Rückfrage. Bitte geben Sie nur Befehle ein, die Sie verstehen und denen Sie vertrauen.
+
+Keine Gewährleistung
+Velmora ist freie Software unter der MIT-Lizenz. Es wird so bereitgestellt, wie es ist, ohne jede Gewährleistung; Sie benutzen es auf eigenes Risiko.
+
+Wenn Sie zustimmen, startet Velmora jetzt und fragt nicht wieder. Wenn nicht, beenden Sie es hier; dann wird nichts gespeichert.</translation>
+    </message>
+    <message id="tos.quit">
+        <source></source>
+        <extracomment>Quit Button</extracomment>
+        <translation>Beenden</translation>
+    </message>
+    <message id="tos.title">
+        <source></source>
+        <extracomment>Terms of Service Title; Terms of Service</extracomment>
+        <translation>Nutzungsbedingungen</translation>
+    </message>
+    <message id="unknown_version">
+        <source></source>
+        <translation>Version unbekannt</translation>
+    </message>
+    <message id="version_format">
+        <source></source>
+        <translation>Version %1 (%2)</translation>
+    </message>
+    <message id="クリア">
+        <source></source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="例: ⌘C, ⌥⇧N, ⌃⌘Space">
+        <source></source>
+        <translation>Zum Beispiel ⌘C, ⌥⇧N, ⌃⌘Space</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,342 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name></name>
+    <message id="Safari">
+        <source></source>
+        <translation>Safari</translation>
+    </message>
+    <message id="about_licence">
+        <source></source>
+        <translation>© 2026 The Velmora developers. Logiciel libre sous licence MIT.</translation>
+    </message>
+    <message id="about_title">
+        <source></source>
+        <translation>À propos de Velmora</translation>
+    </message>
+    <message id="action_desc_execute">
+        <source></source>
+        <translation>Exécuter %1</translation>
+    </message>
+    <message id="action_desc_key">
+        <source></source>
+        <translation>Appuyer sur %1</translation>
+    </message>
+    <message id="action_desc_launch">
+        <source></source>
+        <translation>Lancer %1</translation>
+    </message>
+    <message id="action_desc_open">
+        <source></source>
+        <translation>Ouvrir %1</translation>
+    </message>
+    <message id="action_execute_shell">
+        <source></source>
+        <translation>Exécuter une commande</translation>
+    </message>
+    <message id="action_launch_app">
+        <source></source>
+        <translation>Lancer une application</translation>
+    </message>
+    <message id="action_open_url">
+        <source></source>
+        <translation>Ouvrir une adresse</translation>
+    </message>
+    <message id="action_press_key">
+        <source></source>
+        <translation>Appuyer sur des touches</translation>
+    </message>
+    <message id="add">
+        <source></source>
+        <translation>Ajouter</translation>
+    </message>
+    <message id="alert_shell_message">
+        <source></source>
+        <translation>Velmora l’exécutera avec vos droits et sans autre confirmation. Enregistrez-la seulement si vous savez ce qu’elle fait et si vous lui faites confiance.</translation>
+    </message>
+    <message id="alert_shell_title">
+        <source></source>
+        <translation>Enregistrer cette commande ?</translation>
+    </message>
+    <message id="button_cancel">
+        <source></source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="button_close">
+        <source></source>
+        <translation>Fermer</translation>
+    </message>
+    <message id="button_save">
+        <source></source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message id="button_select">
+        <source></source>
+        <translation>Choisir…</translation>
+    </message>
+    <message id="delete">
+        <source></source>
+        <translation>Supprimer</translation>
+    </message>
+    <message id="edit">
+        <source></source>
+        <translation>Modifier</translation>
+    </message>
+    <message id="group_action">
+        <source></source>
+        <translation>Action</translation>
+    </message>
+    <message id="group_basic">
+        <source></source>
+        <translation>Apparence</translation>
+    </message>
+    <message id="label_alignment">
+        <source></source>
+        <translation>Côté</translation>
+    </message>
+    <message id="label_app">
+        <source></source>
+        <translation>Application</translation>
+    </message>
+    <message id="label_command">
+        <source></source>
+        <translation>Commande</translation>
+    </message>
+    <message id="label_icon">
+        <source></source>
+        <translation>Symbole</translation>
+    </message>
+    <message id="label_key_combo">
+        <source></source>
+        <translation>Touches</translation>
+    </message>
+    <message id="label_title">
+        <source></source>
+        <translation>Titre</translation>
+    </message>
+    <message id="label_url">
+        <source></source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="menu_help">
+        <source></source>
+        <extracomment>Menu tooltip</extracomment>
+        <translation>Menu de Velmora</translation>
+    </message>
+    <message id="menu_quit">
+        <source></source>
+        <translation>Quitter Velmora</translation>
+    </message>
+    <message id="menu_settings">
+        <source></source>
+        <translation>Réglages…</translation>
+    </message>
+    <message id="menu_toggle">
+        <source></source>
+        <translation>Masquer ou afficher la barre</translation>
+    </message>
+    <message id="mouse_action_label">
+        <source></source>
+        <translation>Action</translation>
+    </message>
+    <message id="mouse_add_title">
+        <source></source>
+        <translation>Nouveau bouton de souris</translation>
+    </message>
+    <message id="mouse_btn_4">
+        <source></source>
+        <translation>Bouton 4</translation>
+    </message>
+    <message id="mouse_btn_5">
+        <source></source>
+        <translation>Bouton 5</translation>
+    </message>
+    <message id="mouse_btn_6">
+        <source></source>
+        <translation>Bouton 6</translation>
+    </message>
+    <message id="mouse_btn_7">
+        <source></source>
+        <translation>Bouton 7</translation>
+    </message>
+    <message id="mouse_btn_8">
+        <source></source>
+        <translation>Bouton 8</translation>
+    </message>
+    <message id="mouse_btn_9">
+        <source></source>
+        <translation>Bouton 9</translation>
+    </message>
+    <message id="mouse_btn_label">
+        <source></source>
+        <translation>Bouton</translation>
+    </message>
+    <message id="mouse_btn_middle">
+        <source></source>
+        <translation>Bouton central</translation>
+    </message>
+    <message id="mouse_button">
+        <source></source>
+        <translation>Bouton</translation>
+    </message>
+    <message id="mouse_click_btn4">
+        <source></source>
+        <translation>Bouton 4</translation>
+    </message>
+    <message id="mouse_click_btn5">
+        <source></source>
+        <translation>Bouton 5</translation>
+    </message>
+    <message id="mouse_click_btn_format">
+        <source></source>
+        <translation>Bouton %1</translation>
+    </message>
+    <message id="mouse_click_left">
+        <source></source>
+        <translation>Bouton gauche</translation>
+    </message>
+    <message id="mouse_click_middle">
+        <source></source>
+        <translation>Bouton central</translation>
+    </message>
+    <message id="mouse_click_right">
+        <source></source>
+        <translation>Bouton droit</translation>
+    </message>
+    <message id="mouse_edit_title">
+        <source></source>
+        <translation>Modifier le bouton de souris</translation>
+    </message>
+    <message id="mouse_settings_title">
+        <source></source>
+        <translation>Actions des boutons de souris</translation>
+    </message>
+    <message id="picker_app_clear">
+        <source></source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message id="picker_app_loading">
+        <source></source>
+        <translation>Recherche des applications…</translation>
+    </message>
+    <message id="picker_app_search">
+        <source></source>
+        <translation>Rechercher une application</translation>
+    </message>
+    <message id="picker_app_show_all">
+        <source></source>
+        <translation>Afficher les %1 applications</translation>
+    </message>
+    <message id="picker_app_title">
+        <source></source>
+        <translation>Choisir une application</translation>
+    </message>
+    <message id="picker_icon_title">
+        <source></source>
+        <translation>Choisir un symbole</translation>
+    </message>
+    <message id="placeholder_app_name">
+        <source></source>
+        <translation>Nom de l’application</translation>
+    </message>
+    <message id="placeholder_sf_symbol">
+        <source></source>
+        <translation>Nom d’un symbole, par exemple star</translation>
+    </message>
+    <message id="placeholder_url">
+        <source></source>
+        <translation>https://example.com</translation>
+    </message>
+    <message id="restart">
+        <source></source>
+        <translation>Redémarrer</translation>
+    </message>
+    <message id="settings_tab_mouse">
+        <source></source>
+        <translation>Boutons de souris</translation>
+    </message>
+    <message id="settings_tab_velmora">
+        <source></source>
+        <translation>Boutons de la barre</translation>
+    </message>
+    <message id="shortcut_add_title">
+        <source></source>
+        <translation>Nouveau bouton</translation>
+    </message>
+    <message id="shortcut_alignment_left">
+        <source></source>
+        <translation>Gauche</translation>
+    </message>
+    <message id="shortcut_alignment_right">
+        <source></source>
+        <translation>Droite</translation>
+    </message>
+    <message id="shortcut_delete">
+        <source></source>
+        <translation>Supprimer</translation>
+    </message>
+    <message id="shortcut_edit">
+        <source></source>
+        <translation>Modifier…</translation>
+    </message>
+    <message id="shortcut_edit_title">
+        <source></source>
+        <translation>Modifier le bouton</translation>
+    </message>
+    <message id="shortcuts_title">
+        <source></source>
+        <translation>Boutons dans la barre</translation>
+    </message>
+    <message id="tos.agree">
+        <source></source>
+        <extracomment>Agree Button</extracomment>
+        <translation>Accepter</translation>
+    </message>
+    <message id="tos.content">
+        <source></source>
+        <extracomment>Terms of Service Content</extracomment>
+        <translation>Veuillez lire ces quelques lignes avant d’utiliser Velmora.
+
+Ce que Velmora observe
+Velmora ne demande à votre bureau que deux sortes d’entrées : la combinaison de touches Option+M (Alt+M) et l’appui sur les boutons supplémentaires de la souris que vous configurez. Pendant que vous enregistrez une combinaison de touches dans les réglages, Velmora voit aussi les touches que vous y pressez. Rien de ce que vous tapez ou cliquez n’est conservé.
+
+Ce qui reste sur cet ordinateur
+Vos boutons, vos boutons de souris et cet accord sont enregistrés dans votre propre dossier de configuration. Velmora ne collecte rien et n’envoie rien : il n’ouvre lui-même aucune connexion réseau. Les pages web que vos boutons ouvrent le sont par votre navigateur, selon ses propres conditions.
+
+Ce que Velmora fait pour vous
+Un clic sur un bouton, ou l’appui sur un bouton de souris configuré, lance une application, ouvre une adresse, exécute une commande ou appuie sur une combinaison de touches, exactement comme vous l’avez réglé. Les commandes s’exécutent avec vos droits et sans autre confirmation. N’entrez que des commandes que vous comprenez et auxquelles vous faites confiance.
+
+Aucune garantie
+Velmora est un logiciel libre sous licence MIT. Il est fourni tel quel, sans garantie d’aucune sorte ; vous l’utilisez à vos propres risques.
+
+Si vous acceptez, Velmora démarre maintenant et ne posera plus la question. Sinon, quittez ici : rien ne sera enregistré.</translation>
+    </message>
+    <message id="tos.quit">
+        <source></source>
+        <extracomment>Quit Button</extracomment>
+        <translation>Quitter</translation>
+    </message>
+    <message id="tos.title">
+        <source></source>
+        <extracomment>Terms of Service Title; Terms of Service</extracomment>
+        <translation>Conditions d’utilisation</translation>
+    </message>
+    <message id="unknown_version">
+        <source></source>
+        <translation>Version inconnue</translation>
+    </message>
+    <message id="version_format">
+        <source></source>
+        <translation>Version %1 (%2)</translation>
+    </message>
+    <message id="クリア">
+        <source></source>
+        <translation>Effacer</translation>
+    </message>
+    <message id="例: ⌘C, ⌥⇧N, ⌃⌘Space">
+        <source></source>
+        <translation>Par exemple ⌘C, ⌥⇧N, ⌃⌘Space</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,342 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko">
+<context>
+    <name></name>
+    <message id="Safari">
+        <source></source>
+        <translation>Safari</translation>
+    </message>
+    <message id="about_licence">
+        <source></source>
+        <translation>© 2026 The Velmora developers. MIT 라이선스를 따르는 자유 소프트웨어입니다.</translation>
+    </message>
+    <message id="about_title">
+        <source></source>
+        <translation>Velmora 정보</translation>
+    </message>
+    <message id="action_desc_execute">
+        <source></source>
+        <translation>%1 실행</translation>
+    </message>
+    <message id="action_desc_key">
+        <source></source>
+        <translation>%1 누르기</translation>
+    </message>
+    <message id="action_desc_launch">
+        <source></source>
+        <translation>%1 실행</translation>
+    </message>
+    <message id="action_desc_open">
+        <source></source>
+        <translation>%1 열기</translation>
+    </message>
+    <message id="action_execute_shell">
+        <source></source>
+        <translation>셸 명령 실행</translation>
+    </message>
+    <message id="action_launch_app">
+        <source></source>
+        <translation>앱 실행</translation>
+    </message>
+    <message id="action_open_url">
+        <source></source>
+        <translation>주소 열기</translation>
+    </message>
+    <message id="action_press_key">
+        <source></source>
+        <translation>키 누르기</translation>
+    </message>
+    <message id="add">
+        <source></source>
+        <translation>추가</translation>
+    </message>
+    <message id="alert_shell_message">
+        <source></source>
+        <translation>Velmora가 이 명령을 사용자 권한으로, 다시 묻지 않고 실행합니다. 내용을 이해하고 신뢰하는 경우에만 저장하십시오.</translation>
+    </message>
+    <message id="alert_shell_title">
+        <source></source>
+        <translation>이 셸 명령을 저장할까요?</translation>
+    </message>
+    <message id="button_cancel">
+        <source></source>
+        <translation>취소</translation>
+    </message>
+    <message id="button_close">
+        <source></source>
+        <translation>닫기</translation>
+    </message>
+    <message id="button_save">
+        <source></source>
+        <translation>저장</translation>
+    </message>
+    <message id="button_select">
+        <source></source>
+        <translation>선택…</translation>
+    </message>
+    <message id="delete">
+        <source></source>
+        <translation>삭제</translation>
+    </message>
+    <message id="edit">
+        <source></source>
+        <translation>편집</translation>
+    </message>
+    <message id="group_action">
+        <source></source>
+        <translation>동작</translation>
+    </message>
+    <message id="group_basic">
+        <source></source>
+        <translation>모양</translation>
+    </message>
+    <message id="label_alignment">
+        <source></source>
+        <translation>위치</translation>
+    </message>
+    <message id="label_app">
+        <source></source>
+        <translation>앱</translation>
+    </message>
+    <message id="label_command">
+        <source></source>
+        <translation>명령</translation>
+    </message>
+    <message id="label_icon">
+        <source></source>
+        <translation>기호</translation>
+    </message>
+    <message id="label_key_combo">
+        <source></source>
+        <translation>키</translation>
+    </message>
+    <message id="label_title">
+        <source></source>
+        <translation>제목</translation>
+    </message>
+    <message id="label_url">
+        <source></source>
+        <translation>주소</translation>
+    </message>
+    <message id="menu_help">
+        <source></source>
+        <extracomment>Menu tooltip</extracomment>
+        <translation>Velmora 메뉴</translation>
+    </message>
+    <message id="menu_quit">
+        <source></source>
+        <translation>Velmora 종료</translation>
+    </message>
+    <message id="menu_settings">
+        <source></source>
+        <translation>설정…</translation>
+    </message>
+    <message id="menu_toggle">
+        <source></source>
+        <translation>바 숨기기/보이기</translation>
+    </message>
+    <message id="mouse_action_label">
+        <source></source>
+        <translation>동작</translation>
+    </message>
+    <message id="mouse_add_title">
+        <source></source>
+        <translation>새 마우스 버튼</translation>
+    </message>
+    <message id="mouse_btn_4">
+        <source></source>
+        <translation>버튼 4</translation>
+    </message>
+    <message id="mouse_btn_5">
+        <source></source>
+        <translation>버튼 5</translation>
+    </message>
+    <message id="mouse_btn_6">
+        <source></source>
+        <translation>버튼 6</translation>
+    </message>
+    <message id="mouse_btn_7">
+        <source></source>
+        <translation>버튼 7</translation>
+    </message>
+    <message id="mouse_btn_8">
+        <source></source>
+        <translation>버튼 8</translation>
+    </message>
+    <message id="mouse_btn_9">
+        <source></source>
+        <translation>버튼 9</translation>
+    </message>
+    <message id="mouse_btn_label">
+        <source></source>
+        <translation>마우스 버튼</translation>
+    </message>
+    <message id="mouse_btn_middle">
+        <source></source>
+        <translation>가운데 버튼</translation>
+    </message>
+    <message id="mouse_button">
+        <source></source>
+        <translation>버튼</translation>
+    </message>
+    <message id="mouse_click_btn4">
+        <source></source>
+        <translation>버튼 4</translation>
+    </message>
+    <message id="mouse_click_btn5">
+        <source></source>
+        <translation>버튼 5</translation>
+    </message>
+    <message id="mouse_click_btn_format">
+        <source></source>
+        <translation>버튼 %1</translation>
+    </message>
+    <message id="mouse_click_left">
+        <source></source>
+        <translation>왼쪽 버튼</translation>
+    </message>
+    <message id="mouse_click_middle">
+        <source></source>
+        <translation>가운데 버튼</translation>
+    </message>
+    <message id="mouse_click_right">
+        <source></source>
+        <translation>오른쪽 버튼</translation>
+    </message>
+    <message id="mouse_edit_title">
+        <source></source>
+        <translation>마우스 버튼 편집</translation>
+    </message>
+    <message id="mouse_settings_title">
+        <source></source>
+        <translation>마우스 버튼 동작</translation>
+    </message>
+    <message id="picker_app_clear">
+        <source></source>
+        <translation>검색 지우기</translation>
+    </message>
+    <message id="picker_app_loading">
+        <source></source>
+        <translation>앱을 찾는 중…</translation>
+    </message>
+    <message id="picker_app_search">
+        <source></source>
+        <translation>앱 검색</translation>
+    </message>
+    <message id="picker_app_show_all">
+        <source></source>
+        <translation>앱 %1개 모두 보기</translation>
+    </message>
+    <message id="picker_app_title">
+        <source></source>
+        <translation>앱 선택</translation>
+    </message>
+    <message id="picker_icon_title">
+        <source></source>
+        <translation>기호 선택</translation>
+    </message>
+    <message id="placeholder_app_name">
+        <source></source>
+        <translation>앱 이름</translation>
+    </message>
+    <message id="placeholder_sf_symbol">
+        <source></source>
+        <translation>기호 이름(예: star)</translation>
+    </message>
+    <message id="placeholder_url">
+        <source></source>
+        <translation>https://example.com</translation>
+    </message>
+    <message id="restart">
+        <source></source>
+        <translation>다시 시작</translation>
+    </message>
+    <message id="settings_tab_mouse">
+        <source></source>
+        <translation>마우스 버튼</translation>
+    </message>
+    <message id="settings_tab_velmora">
+        <source></source>
+        <translation>바 버튼</translation>
+    </message>
+    <message id="shortcut_add_title">
+        <source></source>
+        <translation>새 버튼</translation>
+    </message>
+    <message id="shortcut_alignment_left">
+        <source></source>
+        <translation>왼쪽</translation>
+    </message>
+    <message id="shortcut_alignment_right">
+        <source></source>
+        <translation>오른쪽</translation>
+    </message>
+    <message id="shortcut_delete">
+        <source></source>
+        <translation>삭제</translation>
+    </message>
+    <message id="shortcut_edit">
+        <source></source>
+        <translation>편집…</translation>
+    </message>
+    <message id="shortcut_edit_title">
+        <source></source>
+        <translation>버튼 편집</translation>
+    </message>
+    <message id="shortcuts_title">
+        <source></source>
+        <translation>바에 표시할 버튼</translation>
+    </message>
+    <message id="tos.agree">
+        <source></source>
+        <extracomment>Agree Button</extracomment>
+        <translation>동의</translation>
+    </message>
+    <message id="tos.content">
+        <source></source>
+        <extracomment>Terms of Service Content</extracomment>
+        <translation>Velmora를 사용하기 전에 다음 내용을 읽어 주십시오.
+
+Velmora가 감지하는 것
+Velmora는 데스크톱에 두 가지 입력만 요청합니다. 키 조합 Option+M(Alt+M)과, 사용자가 지정한 추가 마우스 버튼입니다. 설정에서 키 조합을 기록하는 동안에는 그곳에서 누른 키도 받습니다. 입력하거나 클릭한 내용은 기록하지 않습니다.
+
+이 컴퓨터에 남는 것
+버튼, 마우스 설정, 이 동의는 사용자의 설정 폴더에 저장됩니다. Velmora는 아무것도 수집하거나 전송하지 않으며, 스스로 네트워크에 연결하지 않습니다. 버튼으로 여는 웹 페이지는 사용자의 브라우저에서 열리며 해당 브라우저의 약관이 적용됩니다.
+
+Velmora가 대신 하는 일
+버튼을 클릭하거나 지정한 마우스 버튼을 누르면, 설정한 그대로 앱을 실행하거나 주소를 열거나 셸 명령을 실행하거나 키 조합을 누릅니다. 셸 명령은 사용자 권한으로, 다시 묻지 않고 실행됩니다. 이해하고 신뢰하는 명령만 입력하십시오.
+
+보증 없음
+Velmora는 MIT 라이선스를 따르는 자유 소프트웨어입니다. 어떠한 보증도 없이 있는 그대로 제공되며, 사용에 따른 책임은 사용자에게 있습니다.
+
+동의하면 Velmora가 바로 시작되며 다시 묻지 않습니다. 동의하지 않으면 여기에서 종료하십시오. 아무것도 저장되지 않습니다.</translation>
+    </message>
+    <message id="tos.quit">
+        <source></source>
+        <extracomment>Quit Button</extracomment>
+        <translation>종료</translation>
+    </message>
+    <message id="tos.title">
+        <source></source>
+        <extracomment>Terms of Service Title; Terms of Service</extracomment>
+        <translation>이용 약관</translation>
+    </message>
+    <message id="unknown_version">
+        <source></source>
+        <translation>알 수 없는 버전</translation>
+    </message>
+    <message id="version_format">
+        <source></source>
+        <translation>버전 %1(%2)</translation>
+    </message>
+    <message id="クリア">
+        <source></source>
+        <translation>지우기</translation>
+    </message>
+    <message id="例: ⌘C, ⌥⇧N, ⌃⌘Space">
+        <source></source>
+        <translation>예: ⌘C, ⌥⇧N, ⌃⌘Space</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,123 @@
+// Launches on one display, each with a connection of its own.
+
+#include "Launch.h"
+#include "platform/Relaunch.h"
+#include "support/TestDisplay.h"
+#include "support/XClient.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <array>
+#include <atomic>
+#include <gmock/gmock.h>
+#include <thread>
+#include <vector>
+
+using namespace velmora;
+using namespace velmora::test;
+
+namespace {
+
+/// Whether a launch waits for the instance that has the place to go.
+bool isWaitedFor() {
+    const XClient client;
+    const Reply<xcb_get_selection_owner_reply_t> place(xcb_get_selection_owner_reply(
+        client, xcb_get_selection_owner(client, client.atom("_VELMORA_INSTANCE")), nullptr));
+    const Reply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+        client, xcb_get_window_attributes(client, place->owner), nullptr));
+    return attributes && attributes->all_event_masks & XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+}
+
+TEST(SingleInstance, ASecondLaunchAsksTheFirstToComeForward) {
+    Launch first;
+    ASSERT_TRUE(first.instance.claim());
+    // Asked before anyone listens: kept.
+    EXPECT_FALSE(Launch().instance.claim());
+    first.connection->startDelivery();
+    int asked = 0;
+    ASSERT_TRUE(waitFor([&] {
+        first.instance.setComeForwardHandler([&] { ++asked; });
+        return asked == 1;
+    }));
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_FALSE(Launch().instance.claim());
+    EXPECT_LT(clock.elapsed(), 100);
+    EXPECT_TRUE(waitFor([&] { return asked == 2; }));
+}
+
+TEST(SingleInstance, APlaceIsFreeOnceItsInstanceHasGone) {
+    for (int round = 0; round < 3; ++round) {
+        Launch launch;
+        EXPECT_TRUE(launch.instance.claim());
+    }
+}
+
+TEST(SingleInstance, OfLaunchesAtTheSameMomentOneStays) {
+    for (int round = 0; round < 50; ++round) {
+        constexpr int count = 4;
+        std::array<Launch, count> launches;
+        std::atomic<int> ready = 0;
+        std::atomic<int> winners = 0;
+        std::vector<std::thread> threads;
+        for (Launch& launch : launches)
+            threads.emplace_back([&] {
+                for (++ready; ready < count;)
+                    std::this_thread::yield();
+                winners += launch.instance.claim();
+            });
+        for (std::thread& thread : threads)
+            thread.join();
+        ASSERT_EQ(winners, 1);
+    }
+}
+
+TEST(SingleInstance, ALaunchWaitsForAnInstanceThatMakesRoom) {
+    auto old = std::make_unique<Launch>();
+    ASSERT_TRUE(old->instance.claim());
+    old->instance.makeRoom();
+    std::atomic<bool> hasEnded = false;
+    std::atomic<bool> claimedAfterEnd = false;
+    std::thread launching([&] {
+        Launch launch;
+        if (launch.instance.claim())
+            claimedAfterEnd = hasEnded.load();
+    });
+    EXPECT_TRUE(waitFor(isWaitedFor));
+    hasEnded = true;
+    old.reset();
+    launching.join();
+    EXPECT_TRUE(claimedAfterEnd);
+}
+
+TEST(SingleInstance, AnInstanceThatNeverGoesIsNotWaitedForForever) {
+    Launch old;
+    ASSERT_TRUE(old.instance.claim());
+    old.instance.makeRoom();
+    Launch launch;
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_TRUE(launch.instance.claim());
+    EXPECT_LT(clock.elapsed(), 8000);
+    EXPECT_FALSE(Launch().instance.claim()) << "the new one has the place";
+}
+
+TEST(Relaunch, StartsTheProgramAnewAndMakesRoom) {
+    auto old = std::make_unique<Launch>();
+    ASSERT_TRUE(old->instance.claim());
+    const QTemporaryDir folder;
+    const QString mark = folder.path() + QStringLiteral("/mark");
+    qputenv(relaunchMark, mark.toUtf8());
+    bool completed = false;
+    relaunch(old->instance, [&] { completed = true; });
+    qunsetenv(relaunchMark);
+    EXPECT_FALSE(completed) << "in a later turn";
+    EXPECT_TRUE(waitFor([&] { return completed; }));
+    EXPECT_TRUE(waitFor(isWaitedFor));
+    EXPECT_FALSE(QFile::exists(mark));
+    old.reset();
+    EXPECT_TRUE(waitFor([&] { return QFile::exists(mark); }));
+}
+
+} // namespace

@@ -1,0 +1,150 @@
+// The hot key and bound mouse buttons, pressed while another application is in front.
+
+#include "input/MouseButtonBinding.h"
+#include "model/StoredForm.h"
+#include "session/Session.h"
+
+#include <QSettings>
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using namespace velmora::test;
+
+namespace {
+
+constexpr uint8_t shiftLock = XCB_MOD_MASK_LOCK;
+constexpr uint8_t numLock = XCB_MOD_MASK_2;
+
+/// Whether the bar shows itself.
+bool isShown(Session& session) {
+    return !session.buttons().empty();
+}
+
+void pressHotKey(Driver& driver) {
+    driver.pressKey("LALT");
+    driver.tapKey("AB07");
+    driver.releaseKey("LALT");
+}
+
+/// Holds the hot key, as hands do, until the bar is hidden or shown; then lets go.
+testing::AssertionResult toggles(Session& session) {
+    const bool before = isShown(session);
+    session.driver().pressKey("LALT");
+    session.driver().pressKey("AB07");
+    const bool changed = waitFor([&] { return isShown(session) != before; });
+    session.driver().releaseKey("AB07");
+    session.driver().releaseKey("LALT");
+    if (changed)
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << (before ? "still shown" : "still hidden");
+}
+
+TEST(HotKey, TogglesOnEveryLayoutAndTheApplicationInFrontKeepsTheRest) {
+    Session session;
+    session.launch();
+    EXPECT_TRUE(waitFor([&] { return isShown(session); }));
+    Witness witness;
+    const xcb_window_t focus = inputFocus(session.client());
+    const uint8_t keyM = session.driver().keycode("AB07");
+    for (const QString& layout : {u"us"_s, u"fr"_s, u"jp"_s, u"ru"_s, u"us(dvorak)"_s}) {
+        for (const bool locked : {false, true}) {
+            SCOPED_TRACE(layout.toStdString() + (locked ? " with locks" : ""));
+            setLayout(layout);
+            lockModifiers(session.client(), shiftLock | numLock, locked);
+            witness.clear();
+            EXPECT_TRUE(toggles(session));
+            EXPECT_TRUE(toggles(session));
+            session.driver().tapKey("AB07");
+            const auto ofM = [&](uint8_t type) {
+                const auto keys = witness.keys();
+                return std::count_if(keys.begin(), keys.end(), [&](const Witness::Event& event) {
+                    return event.detail == keyM && event.type == type;
+                });
+            };
+            // Both releases of the hot key arrive, and the plain M whole.
+            EXPECT_TRUE(waitFor([&] { return ofM(XCB_KEY_RELEASE) == 3; }));
+            EXPECT_EQ(ofM(XCB_KEY_PRESS), 1);
+            EXPECT_EQ(inputFocus(session.client()), focus);
+            EXPECT_EQ(activeWindow(session.client()), witness.window());
+            lockModifiers(session.client(), shiftLock | numLock, false);
+        }
+    }
+    setLayout(u"us"_s);
+    EXPECT_FALSE(isAnythingDown(session.client()));
+}
+
+TEST(HotKey, WorksWhileTheBarsMenuIsOpen) {
+    Session session;
+    session.launch();
+    EXPECT_TRUE(waitFor([&] { return isShown(session); }));
+    const size_t windows = topWindows(session.client()).size();
+    session.driver().move(24, 12);
+    session.driver().click();
+    EXPECT_TRUE(waitFor([&] { return !isKeyboardFree(session.client()); }));
+    EXPECT_TRUE(toggles(session));
+    EXPECT_TRUE(toggles(session));
+    session.driver().tapKey("ESC");
+    EXPECT_TRUE(waitFor([&] { return isKeyboardFree(session.client()); }));
+    EXPECT_LE(topWindows(session.client()).size(), windows + 1);
+}
+
+TEST(HotKey, PressedDuringStartsNeverFreezesTheKeyboard) {
+    for (int start = 0; start < 8; ++start) {
+        Session session;
+        Witness witness;
+        session.launch(Session::Launch::WithoutWaiting);
+        while (!session.bar())
+            pressHotKey(session.driver());
+        // Whatever came of those presses, the key works now, and others reach the front.
+        EXPECT_TRUE(waitFor([&] { return isKeyboardFree(session.client()); }));
+        witness.clear();
+        session.driver().tapKey("AC01");
+        EXPECT_TRUE(witness.waitForInput(2));
+        EXPECT_TRUE(waitFor([&] {
+            pressHotKey(session.driver());
+            const bool before = isShown(session);
+            pressHotKey(session.driver());
+            return waitFor([&] { return isShown(session) != before; }, 300);
+        }));
+        EXPECT_FALSE(isAnythingDown(session.client()));
+    }
+}
+
+TEST(MouseButtons, OnlyBoundOnesAreTaken) {
+    Session session;
+    {
+        const QList<MouseButtonBinding> bindings{
+            {3, ExecuteShellCommand{u"echo three"_s}}, // the X server's button 8
+            {4, ExecuteShellCommand{u"echo four"_s}},  // and 9
+        };
+        QSettings settings(session.settingsFile(), QSettings::IniFormat);
+        settings.setValue(u"SavedMouseBindings"_s, encodedList(bindings));
+    }
+    session.launch();
+    Witness witness(QRect(100, 200, 400, 300));
+    session.driver().move(300, 350);
+    witness.clear();
+    session.driver().pressButton(8);
+    EXPECT_TRUE(session.waitForLog(u"📝 Command output: three"_s));
+    session.driver().releaseButton(8);
+    session.driver().pressButton(9);
+    EXPECT_TRUE(session.waitForLog(u"📝 Command output: four"_s));
+    session.driver().releaseButton(9);
+    session.driver().click(10);
+    EXPECT_EQ(session.log().filter(u"🚀"_s).size(), 2);
+
+    const auto seen = [&](uint8_t type) {
+        std::vector<int> buttons;
+        for (const Witness::Event& event : witness.events()) {
+            if (event.type == type)
+                buttons.push_back(event.detail);
+        }
+        return buttons;
+    };
+    EXPECT_TRUE(waitFor([&] { return seen(XCB_BUTTON_RELEASE).size() == 3; }));
+    EXPECT_THAT(seen(XCB_BUTTON_RELEASE), testing::ElementsAre(8, 9, 10));
+    EXPECT_THAT(seen(XCB_BUTTON_PRESS), testing::ElementsAre(10));
+}
+
+} // namespace

@@ -1,0 +1,119 @@
+// Several launches of the program in one session: one of them stays.
+
+#include "session/Session.h"
+
+#include <QElapsedTimer>
+#include <algorithm>
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using namespace velmora::test;
+
+namespace {
+
+/// One more launch in a session, ended with the object.
+class Launch {
+public:
+    explicit Launch(const Session& session) {
+        process_.setProcessEnvironment(session.environment());
+        clock_.start();
+        process_.start(Session::programFile(), QStringList{});
+    }
+    ~Launch() {
+        process_.terminate();
+        process_.waitForFinished();
+    }
+
+    qint64 processId() const { return process_.processId(); }
+    bool isRunning() const { return process_.state() != QProcess::NotRunning; }
+    /// Waits until it has ended by itself with status 0; gives the milliseconds from its start.
+    std::optional<qint64> untilDone() {
+        if (!process_.waitForFinished(10000) || process_.exitStatus() != QProcess::NormalExit ||
+            process_.exitCode() != 0)
+            return std::nullopt;
+        return clock_.elapsed();
+    }
+
+private:
+    QProcess process_;
+    QElapsedTimer clock_;
+};
+
+size_t bars(Session& session) {
+    size_t count = 0;
+    for (const TopWindow& window : topWindows(session.client()))
+        count += window.overrideRedirect && window.mapped &&
+                 window.geometry.width() == session.client().screen().width_in_pixels;
+    return count;
+}
+
+/// The process that shows the one bar.
+std::optional<qint64> barOf(Session& session) {
+    const auto bar = session.bar();
+    return bar && bars(session) == 1 ? std::optional(bar->processId) : std::nullopt;
+}
+
+TEST(Instances, ASecondLaunchEndsAtOnce) {
+    Session session;
+    session.launch();
+    std::vector<qint64> times;
+    for (int round = 0; round < 5; ++round) {
+        Launch second(session);
+        const auto time = second.untilDone();
+        ASSERT_TRUE(time);
+        times.push_back(*time);
+    }
+    // The best: the machine may be busy, and the sanitizers' own start counts too.
+    EXPECT_LT(*std::min_element(times.begin(), times.end()), 100);
+    EXPECT_EQ(bars(session), 1U);
+    EXPECT_EQ(session.program().state(), QProcess::Running);
+}
+
+TEST(Instances, BeforeAgreementASecondLaunchBringsTheTermsForward) {
+    Session session({.agreed = false});
+    session.launch();
+    const auto active = [&] { return activeWindow(session.client()); };
+    ASSERT_TRUE(waitFor([&] { return active() != 0; }));
+    const xcb_window_t terms = active();
+    Witness witness;
+    ASSERT_TRUE(waitFor([&] { return inputFocus(session.client()) == witness.window(); }));
+    EXPECT_TRUE(Launch(session).untilDone());
+    EXPECT_TRUE(waitFor([&] { return active() == terms; }));
+}
+
+TEST(Instances, OfTwoLaunchesAtTheSameMomentOneStays) {
+    for (int round = 0; round < 5; ++round) {
+        Session session;
+        Launch first(session);
+        Launch second(session);
+        EXPECT_TRUE(waitFor([&] { return first.isRunning() != second.isRunning(); }));
+        EXPECT_TRUE(waitFor([&] { return bars(session) == 1; }));
+        EXPECT_NE(first.isRunning(), second.isRunning());
+    }
+}
+
+TEST(Instances, ACrashedOneBlocksNobody) {
+    Session session;
+    for (int round = 0; round < 3; ++round) {
+        session.launch();
+        session.program().kill();
+        session.program().waitForFinished();
+    }
+    session.launch();
+    EXPECT_EQ(bars(session), 1U);
+}
+
+TEST(Instances, ALaunchTakesOverFromOneThatEnds) {
+    Session session;
+    auto current = std::make_unique<Launch>(session);
+    for (int round = 0; round < 10; ++round) {
+        ASSERT_TRUE(waitFor([&] { return barOf(session) == current->processId(); })) << round;
+        auto next = std::make_unique<Launch>(session);
+        current.reset(); // asked to end while the next one starts
+        current = std::move(next);
+    }
+    EXPECT_TRUE(waitFor([&] { return barOf(session) == current->processId(); }));
+}
+
+} // namespace
