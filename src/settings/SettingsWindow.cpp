@@ -124,8 +124,8 @@ void SettingsWindow::makeWindow() {
 }
 
 void SettingsWindow::restoreFrame() {
+    window_->layout()->menuBar()->ensurePolished();
     const QSize minimum = window_->minimumSizeHint();
-    window_->setMinimumSize(minimum);
     QRect frame(QPoint(), window_->sizeHint().expandedTo(minimum));
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         frame.moveCenter(screen->availableGeometry().center());

@@ -115,6 +115,10 @@ TEST_F(EditorTest, ANewButtonNeedsItsActionAndATitleOrSymbol) {
     title->setText(u"T"_s);
     app->setText(u"Mail"_s);
     editor.findChild<SegmentedPicker*>()->setCurrentIndex(1);
+    // The default button stays the default one after it had the focus.
+    editor.saveButton().setFocus();
+    button(editor, u"button_cancel"_s)->setFocus();
+    app->setFocus();
     QTest::keyClick(app, Qt::Key_Return);
     ASSERT_EQ(saved_.size(), 1);
     EXPECT_EQ(saved_[0].action, ShortcutAction(LaunchApp{u"Mail"_s, std::nullopt}));
