@@ -322,6 +322,16 @@ Wenn Sie zustimmen, startet Velmora jetzt und fragt nicht wieder. Wenn nicht, be
         <extracomment>Terms of Service Title; Terms of Service</extracomment>
         <translation>Nutzungsbedingungen</translation>
     </message>
+    <message id="trust_message">
+        <source></source>
+        <translation>Dies ist eine Wayland-Sitzung. Sie gibt Tasten und Maustasten nur an das Programm im Vordergrund. Die Leiste und ihre Knöpfe funktionieren; Option+M (Alt+M), belegte Maustasten und gesendete Tastenkombinationen brauchen eine X11-Sitzung.
+
+Meist lässt sie sich auf dem Anmeldebildschirm auswählen.</translation>
+    </message>
+    <message id="trust_title">
+        <source></source>
+        <translation>Velmora sieht in dieser Sitzung keine Tasten</translation>
+    </message>
     <message id="unknown_version">
         <source></source>
         <translation>Version unbekannt</translation>

@@ -322,6 +322,16 @@ If you agree, Velmora starts now and does not ask again. If you do not, quit her
         <extracomment>Terms of Service Title; Terms of Service</extracomment>
         <translation>Terms of Service</translation>
     </message>
+    <message id="trust_message">
+        <source></source>
+        <translation>This is a Wayland session, which hands keys and mouse buttons only to the application in front. The bar and its buttons work; Option+M (Alt+M), bound mouse buttons and typed key combinations need an X11 session.
+
+You can usually choose one on the login screen.</translation>
+    </message>
+    <message id="trust_title">
+        <source></source>
+        <translation>Velmora cannot see your keys in this session</translation>
+    </message>
     <message id="unknown_version">
         <source></source>
         <translation>Unknown version</translation>

@@ -322,6 +322,16 @@ Si acepta, Velmora se inicia ahora y no volverá a preguntar. Si no, salga aquí
         <extracomment>Terms of Service Title; Terms of Service</extracomment>
         <translation>Condiciones de uso</translation>
     </message>
+    <message id="trust_message">
+        <source></source>
+        <translation>Esta es una sesión Wayland, que solo entrega las teclas y los botones del ratón a la aplicación en primer plano. La barra y sus botones funcionan; Opción+M (Alt+M), los botones del ratón asignados y las combinaciones de teclas enviadas necesitan una sesión X11.
+
+Normalmente puede elegirla en la pantalla de inicio de sesión.</translation>
+    </message>
+    <message id="trust_title">
+        <source></source>
+        <translation>Velmora no ve las teclas en esta sesión</translation>
+    </message>
     <message id="unknown_version">
         <source></source>
         <translation>Versión desconocida</translation>

@@ -322,6 +322,16 @@ Si vous acceptez, Velmora démarre maintenant et ne posera plus la question. Sin
         <extracomment>Terms of Service Title; Terms of Service</extracomment>
         <translation>Conditions d’utilisation</translation>
     </message>
+    <message id="trust_message">
+        <source></source>
+        <translation>Cette session utilise Wayland, qui ne transmet les touches et les boutons de la souris qu’à l’application au premier plan. La barre et ses boutons fonctionnent ; Option+M (Alt+M), les boutons de souris associés et les combinaisons de touches envoyées demandent une session X11.
+
+On peut en général la choisir sur l’écran de connexion.</translation>
+    </message>
+    <message id="trust_title">
+        <source></source>
+        <translation>Velmora ne voit pas les touches dans cette session</translation>
+    </message>
     <message id="unknown_version">
         <source></source>
         <translation>Version inconnue</translation>

@@ -322,6 +322,16 @@ VelmoraはMITライセンスのフリーソフトウェアです。現状のま�
         <extracomment>Terms of Service Title; Terms of Service</extracomment>
         <translation>利用規約</translation>
     </message>
+    <message id="trust_message">
+        <source></source>
+        <translation>現在のセッションはWaylandです。Waylandでは、キーとマウスボタンは最前面のアプリケーションにしか届きません。バーとそのボタンは使えますが、Option+M（Alt+M）、割り当てたマウスボタン、キー入力の送信にはX11セッションが必要です。
+
+通常はログイン画面でX11セッションを選べます。</translation>
+    </message>
+    <message id="trust_title">
+        <source></source>
+        <translation>このセッションではVelmoraがキー操作を検知できません</translation>
+    </message>
     <message id="unknown_version">
         <source></source>
         <translation>バージョン不明</translation>

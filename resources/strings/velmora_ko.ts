@@ -322,6 +322,16 @@ Velmora는 MIT 라이선스를 따르는 자유 소프트웨어입니다. 어떠
         <extracomment>Terms of Service Title; Terms of Service</extracomment>
         <translation>이용 약관</translation>
     </message>
+    <message id="trust_message">
+        <source></source>
+        <translation>현재 Wayland 세션입니다. Wayland는 키와 마우스 버튼을 맨 앞의 앱에만 전달합니다. 바와 버튼은 사용할 수 있지만 Option+M(Alt+M), 지정한 마우스 버튼, 키 조합 입력에는 X11 세션이 필요합니다.
+
+보통 로그인 화면에서 X11 세션을 선택할 수 있습니다.</translation>
+    </message>
+    <message id="trust_title">
+        <source></source>
+        <translation>이 세션에서는 Velmora가 키 입력을 감지할 수 없습니다</translation>
+    </message>
     <message id="unknown_version">
         <source></source>
         <translation>알 수 없는 버전</translation>

@@ -322,6 +322,16 @@ Velmora 是基于 MIT 许可证的自由软件，按原样提供，不附带任�
         <extracomment>Terms of Service Title; Terms of Service</extracomment>
         <translation>使用条款</translation>
     </message>
+    <message id="trust_message">
+        <source></source>
+        <translation>这是 Wayland 会话，按键和鼠标按钮只会传给最前面的应用程序。栏及其按钮可以使用；Option+M (Alt+M)、已绑定的鼠标按钮以及发送组合键需要 X11 会话。
+
+通常可以在登录界面选择 X11 会话。</translation>
+    </message>
+    <message id="trust_title">
+        <source></source>
+        <translation>Velmora 在此会话中无法感知按键</translation>
+    </message>
     <message id="unknown_version">
         <source></source>
         <translation>未知版本</translation>

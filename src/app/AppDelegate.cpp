@@ -4,6 +4,7 @@
 #include "app/MainMenu.h"
 #include "app/TermsOfServiceView.h"
 #include "app/TermsOfServiceWindow.h"
+#include "app/TrustNotice.h"
 #include "foundation/ActionMessages.h"
 #include "foundation/UserDefaults.h"
 #include "model/ShortcutManager.h"
@@ -85,8 +86,13 @@ void AppDelegate::followDesktopAppearance() {
 }
 
 void AppDelegate::startServices() {
+    Accessibility& accessibility = Platform::current().accessibility;
+    accessibility.setPromptHandler([this] {
+        followDesktopAppearance();
+        showTrustNotice(Platform::current().windowActivation);
+    });
     // Nothing waits for the answer.
-    Platform::current().accessibility.isProcessTrustedWithPrompt();
+    accessibility.isProcessTrustedWithPrompt();
     setupOverlay();
     setupStatusBar();
     setupHotKeys();

@@ -99,6 +99,23 @@ TEST(Bar, SaysSoWithoutADisplay) {
     EXPECT_EQ(session.log().size(), 1);
 }
 
+TEST(Bar, SaysOnceThatAWaylandSessionKeepsTheKeys) {
+    Session session({.environment = {u"XDG_SESSION_TYPE=wayland"_s}});
+    session.launch();
+    EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
+    const auto notices = [&] {
+        return session.client().property(session.client().root(), "_NET_CLIENT_LIST").size();
+    };
+    EXPECT_TRUE(waitFor([&] { return notices() == 1; }));
+    EXPECT_TRUE(waitFor([&] { return inputFocus(session.client()) > 1; }));
+    session.driver().tapKey("RTRN");
+    EXPECT_TRUE(waitFor([&] { return notices() == 0; }));
+    // The bar's buttons work all the same.
+    session.driver().move(session.buttons()[2].center().x(), 12);
+    session.driver().click();
+    EXPECT_TRUE(session.waitForLog(u"🚀 Executing action: Open https://www.google.com/"_s));
+}
+
 TEST(Bar, ComesUpWithoutHomeOrBus) {
     Session session({.environment = {u"HOME"_s, u"DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"_s}});
     session.launch();

@@ -1,0 +1,55 @@
+#include "app/TrustNotice.h"
+
+#include "foundation/LocalizedString.h"
+#include "platform/WindowActivation.h"
+#include "viewkit/WindowTheme.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+namespace {
+
+constexpr int textWidth = 400;
+constexpr int padding = 20;
+
+} // namespace
+
+void showTrustNotice(WindowActivation& activation) {
+    auto* notice = new QDialog;
+    notice->setAttribute(Qt::WA_DeleteOnClose);
+    notice->setWindowTitle(u"Velmora"_s);
+    WindowTheme::follow(*notice);
+
+    auto* title = new QLabel(localizedString("trust_title"));
+    title->setTextFormat(Qt::PlainText);
+    title->setWordWrap(true);
+    QFont titleFont = notice->font();
+    titleFont.setPixelSize(WindowTheme::fontSize + 2);
+    titleFont.setWeight(QFont::DemiBold);
+    title->setFont(titleFont);
+
+    auto* message = new QLabel(localizedString("trust_message"));
+    message->setTextFormat(Qt::PlainText);
+    message->setWordWrap(true);
+    message->setFixedWidth(textWidth);
+
+    auto* close = new QPushButton(localizedString("button_close"));
+    close->setDefault(true);
+    QObject::connect(close, &QPushButton::clicked, notice, &QDialog::close);
+
+    auto* layout = new QVBoxLayout(notice);
+    layout->setContentsMargins(padding, padding, padding, padding);
+    layout->setSpacing(padding / 2);
+    layout->addWidget(title);
+    layout->addWidget(message);
+    layout->addWidget(close, 0, Qt::AlignTrailing);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    activation.makeKeyAndOrderFront(*notice);
+}
+
+} // namespace velmora
