@@ -2,6 +2,7 @@
 
 #include "viewkit/Theme.h"
 
+#include <QIconEngine>
 #include <QImage>
 #include <QPainter>
 
@@ -11,38 +12,61 @@ namespace velmora {
 namespace {
 
 constexpr int size = 18;
-/// Pixels a point: trays on dense screens find one that fits.
-constexpr int ratios[] = {1, 2, 3};
 
-/// What stands in for a title, which trays cannot show, on a ground of its own: the tray's may be
-/// light or dark.
-QImage titleImage(int side) {
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0x26, 0x26, 0x2b));
-    painter.drawRoundedRect(image.rect(), side / 4.5, side / 4.5);
-    painter.setPen(Qt::white);
-    painter.setFont(Theme::systemFont(side));
-    painter.drawText(image.rect(), Qt::AlignCenter, u"▦"_s);
-    return image;
-}
+class StatusItemIcon : public QIconEngine {
+public:
+    explicit StatusItemIcon(const QImage& image) : image_(image) {}
+
+    /// Into a tray's own cell: of the size that is meant, whatever the cell's.
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+        const int side = std::min({size, rect.width(), rect.height()});
+        QRect place(0, 0, side, side);
+        place.moveCenter(rect.center());
+        draw(*painter, place);
+    }
+
+    /// For a tray that draws it, in the size that it asks for.
+    QPixmap pixmap(const QSize& wanted, QIcon::Mode, QIcon::State) override {
+        QPixmap pixmap(wanted);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        draw(painter, pixmap.rect());
+        return pixmap;
+    }
+
+    /// In pixels, for screens of one to three pixels a point.
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+        return {{size, size}, {2 * size, 2 * size}, {3 * size, 3 * size}};
+    }
+
+    QIconEngine* clone() const override { return new StatusItemIcon(image_); }
+
+private:
+    void draw(QPainter& painter, const QRect& rect) const {
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        if (!image_.isNull()) {
+            const QSize pixels = rect.size() * painter.device()->devicePixelRatio();
+            painter.drawImage(
+                rect, image_.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+            return;
+        }
+        // What stands in for a title, which trays cannot show, on a ground of its own: the tray's
+        // may be light or dark.
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0x26, 0x26, 0x2b));
+        painter.drawRoundedRect(rect, rect.width() / 4.5, rect.height() / 4.5);
+        painter.setPen(Qt::white);
+        painter.setFont(Theme::systemFont(rect.height() * 4 / 5));
+        painter.drawText(rect, Qt::AlignCenter, u"▦"_s);
+    }
+
+    QImage image_;
+};
 
 } // namespace
 
 QIcon statusItemIcon(const std::optional<QString>& path) {
-    const QImage drawn = path ? QImage(*path) : QImage();
-    QIcon icon;
-    for (const int ratio : ratios) {
-        const int side = size * ratio;
-        icon.addPixmap(QPixmap::fromImage(
-            drawn.isNull()
-                ? titleImage(side)
-                : drawn.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
-    }
-    return icon;
+    return QIcon(new StatusItemIcon(path ? QImage(*path) : QImage()));
 }
 
 } // namespace velmora

@@ -7,6 +7,7 @@
 #include "platform/SingleInstance.h"
 #include "platform/freedesktop/FreedesktopAppearance.h"
 #include "platform/freedesktop/FreedesktopWorkspace.h"
+#include "platform/freedesktop/SessionBus.h"
 #include "platform/freedesktop/StatusNotifierTrayHost.h"
 #include "platform/x11/X11Session.h"
 
@@ -28,6 +29,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(u"velmora"_s);
     QApplication::setDesktopFileName(u"velmora"_s);
     const QApplication application(argc, argv);
+    startNoSessionBus();
     FreedesktopAppearance appearance;
     FreedesktopWorkspace workspace;
     StatusNotifierTrayHost statusNotifierTrayHost;

@@ -74,6 +74,8 @@ RecordEditor::RecordEditor(
     cancel->setAutoDefault(false);
     connect(cancel, &QPushButton::clicked, this, onCancel_);
     save_ = new QPushButton(localizedString("button_save"));
+    // Else losing the focus would make it an ordinary button.
+    save_->setAutoDefault(false);
     save_->setDefault(true);
     connect(save_, &QPushButton::clicked, this, &RecordEditor::requestSave);
     auto* buttons = new QHBoxLayout;

@@ -31,10 +31,13 @@ const QString frameKey = u"NSWindow Frame SettingsWindow"_s;
 /// A window that is being dragged is saved when it comes to rest.
 constexpr auto saveDelay = 300ms;
 
+/// Room for a title bar, whose height is known only once the window has one.
+constexpr int titleBarHeight = 36;
+
 QList<QRect> availableScreens() {
     QList<QRect> screens;
     for (const QScreen* screen : QGuiApplication::screens())
-        screens.append(screen->availableGeometry());
+        screens.append(screen->availableGeometry().adjusted(0, 0, 0, -titleBarHeight));
     return screens;
 }
 
@@ -121,8 +124,8 @@ void SettingsWindow::makeWindow() {
 }
 
 void SettingsWindow::restoreFrame() {
+    window_->layout()->menuBar()->ensurePolished();
     const QSize minimum = window_->minimumSizeHint();
-    window_->setMinimumSize(minimum);
     QRect frame(QPoint(), window_->sizeHint().expandedTo(minimum));
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         frame.moveCenter(screen->availableGeometry().center());

@@ -98,13 +98,13 @@ QString styleSheet(const Colors& colors) {
     QString sheet = uR"(
 QPushButton {
     background: @button; color: @text; border: 1px solid @border; border-radius: 6px;
-    padding: 4px 14px; min-height: 18px;
+    padding: 3px 14px; min-height: 18px;
 }
 QPushButton:hover { background: @hover; }
 QPushButton:pressed { background: @pressed; }
 QPushButton:default { background: @accent; color: white; border-color: @accent; }
 QPushButton:default:hover { background: @accenthover; border-color: @accenthover; }
-QPushButton:focus { border: 2px solid @accent; padding: 3px 13px; outline: none; }
+QPushButton:focus { border: 2px solid @accent; padding: 2px 13px; outline: none; }
 QPushButton:default:focus { border: 2px solid @text; }
 QPushButton:disabled { color: @disabled; background: @window; border-color: @border; }
 QLineEdit {

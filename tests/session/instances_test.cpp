@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <algorithm>
+#include <csignal>
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
@@ -117,6 +118,34 @@ TEST(Instances, ALaunchTakesOverFromOneThatEnds) {
         current = std::move(next);
     }
     EXPECT_TRUE(waitFor([&] { return barOf(session) == current->processId(); }));
+}
+
+/// The process of the window with the keyboard focus, 0 for none.
+qint64 focusedProcess(const XClient& client) {
+    const xcb_window_t window = inputFocus(client);
+    const auto process =
+        window > 1 ? client.property(window, "_NET_WM_PID") : std::vector<uint32_t>{};
+    return process.empty() ? 0 : process.front();
+}
+
+TEST(Instances, OneFollowsTheOtherWhenRestarted) {
+    Session session;
+    session.launch();
+    auto before = barOf(session);
+    ASSERT_TRUE(before);
+    for (int round = 0; round < 10; ++round) {
+        SCOPED_TRACE(round);
+        // A second launch opens the settings: two steps from the list to the restart button.
+        ASSERT_TRUE(Launch(session).untilDone());
+        ASSERT_TRUE(waitFor([&] { return focusedProcess(session.client()) == *before; }));
+        for (const char* const key : {"TAB", "TAB", "SPCE"})
+            session.driver().tapKey(key);
+        ASSERT_TRUE(waitFor([&] { return barOf(session).value_or(*before) != *before; }));
+        before = barOf(session);
+    }
+    ASSERT_TRUE(before);
+    ::kill(static_cast<pid_t>(*before), SIGTERM);
+    EXPECT_TRUE(waitFor([&] { return bars(session) == 0; }));
 }
 
 } // namespace

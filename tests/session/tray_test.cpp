@@ -2,6 +2,7 @@
 
 #include "session/Session.h"
 
+#include <QFile>
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
@@ -178,6 +179,30 @@ TEST_P(Tray, HasAMenuWithKeyEquivalents) {
         EXPECT_EQ(session.program().exitCode(), 0);
         EXPECT_TRUE(waitFor([this] { return !item(); }));
     }
+}
+
+TEST(TrayWithoutABus, HasTheItemAndNoBusIsStarted) {
+    // What the bus's library runs to start one, at the front of the search path.
+    const QTemporaryDir folder;
+    const QString asked = folder.path() + u"/asked"_s;
+    QFile launcher(folder.path() + u"/dbus-launch"_s);
+    ASSERT_TRUE(launcher.open(QIODevice::WriteOnly));
+    launcher.write("#!/bin/sh\ntouch " + asked.toUtf8() + "\nexit 1\n");
+    launcher.close();
+    launcher.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    Session session(
+        {.environment = {
+             u"DBUS_SESSION_BUS_ADDRESS"_s,
+             u"PATH="_s + folder.path() + u':' + qEnvironmentVariable("PATH")}});
+    session.display().start(u"trayer"_s, {u"--edge"_s, u"bottom"_s});
+    session.launch();
+    const auto ownWindows = [&] {
+        return session.display()
+            .run(u"xwininfo"_s, {u"-root"_s, u"-tree"_s})
+            .count("(\"velmora\" \"velmora\")");
+    };
+    EXPECT_TRUE(waitFor([&] { return ownWindows() == 2; })) << "the bar and the item";
+    EXPECT_FALSE(QFile::exists(asked));
 }
 
 INSTANTIATE_TEST_SUITE_P(

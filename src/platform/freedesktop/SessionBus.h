@@ -6,4 +6,8 @@ namespace velmora {
 /// daemon that outlives the program.
 bool hasSessionBus();
 
+/// Where there is no bus, keeps Qt from starting one: it asks by itself, for accessibility and for
+/// trays. Call once, after the application object was made.
+void startNoSessionBus();
+
 } // namespace velmora

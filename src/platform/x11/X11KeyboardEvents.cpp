@@ -61,14 +61,15 @@ X11KeyboardEvents::createKeyboardEvent(EventSource&, KeyCode keyCode, bool keyDo
 }
 
 void X11KeyboardEvents::post(EventTapLocation, const KeyboardEvent& event) {
-    const auto keycode = keyboard_.positions().keycode(event.keyCode);
+    // No key has the keycode 0.
+    const xcb_keycode_t keycode = keyboard_.positions().keycode(event.keyCode).value_or(0);
     if (!keycode)
         return;
     const uint8_t mask = keyboard_.modifiers().mask(event.flags);
     if (event.keyDown)
-        press(*keycode, mask);
+        press(keycode, mask);
     else
-        release(*keycode, mask);
+        release(keycode, mask);
     xcb_flush(connection_);
 }
 

@@ -8,7 +8,7 @@
 #include "support/TestDisplay.h"
 #include "viewkit/PopupMenu.h"
 
-#include <QCoreApplication>
+#include <QPainter>
 #include <QSystemTrayIcon>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
@@ -120,10 +120,18 @@ TEST(StatusItemIcon, IsEighteenPointsWithOrWithoutAFile) {
     for (const Case& given : {Case{square, true}, Case{broken, false}, Case{std::nullopt, false}}) {
         SCOPED_TRACE(given.path.value_or(u"none"_s).toStdString());
         const QIcon icon = statusItemIcon(given.path);
-        const QImage image = icon.pixmap(18, 18).toImage();
-        EXPECT_EQ(image.size(), QSize(18, 18));
-        EXPECT_EQ(image.pixelColor(9, 1) == QColor(Qt::red), given.isFromFile);
-        EXPECT_TRUE(icon.availableSizes().contains(QSize(36, 36)));
+        const QImage image = icon.pixmap(36, 36).toImage();
+        EXPECT_EQ(image.size(), QSize(36, 36));
+        EXPECT_EQ(image.pixelColor(18, 1) == QColor(Qt::red), given.isFromFile);
+        // In a larger cell.
+        QImage cell(24, 24, QImage::Format_ARGB32_Premultiplied);
+        cell.fill(Qt::transparent);
+        QPainter painter(&cell);
+        icon.paint(&painter, cell.rect());
+        EXPECT_EQ(cell.pixelColor(12, 2).alpha(), 0);
+        EXPECT_EQ(cell.pixelColor(12, 3).alpha(), 255);
+        EXPECT_EQ(cell.pixelColor(20, 12).alpha(), 255);
+        EXPECT_EQ(cell.pixelColor(21, 12).alpha(), 0);
     }
 }
 

@@ -1,0 +1,148 @@
+// The settings window of the real program: opened from the bar's menu, used by pointer and
+// keyboard.
+
+#include "session/Session.h"
+
+#include <QSettings>
+#include <csignal>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using namespace velmora::test;
+
+namespace {
+
+class SettingsTest : public testing::Test {
+protected:
+    SettingsTest() { session_.launch(); }
+
+    void key(const QByteArray& position) { session_.driver().tapKey(position); }
+    void keys(std::initializer_list<QByteArray> positions) {
+        for (const QByteArray& position : positions)
+            key(position);
+    }
+
+    QString title(xcb_window_t window) {
+        XClient& client = session_.client();
+        const auto cookie = xcb_get_property(
+            client, 0, window, client.atom("_NET_WM_NAME"), client.atom("UTF8_STRING"), 0, 100);
+        const Reply<xcb_get_property_reply_t> reply(
+            xcb_get_property_reply(client, cookie, nullptr));
+        if (!reply)
+            return {};
+        return QString::fromUtf8(
+            static_cast<const char*>(xcb_get_property_value(reply.get())),
+            xcb_get_property_value_length(reply.get()));
+    }
+    bool isSettings(xcb_window_t window) { return window && title(window) == u"Velmora 設定"_s; }
+
+    /// Where the window's own content begins on the screen.
+    QPoint origin(xcb_window_t window) {
+        XClient& client = session_.client();
+        const auto cookie = xcb_translate_coordinates(client, window, client.root(), 0, 0);
+        const Reply<xcb_translate_coordinates_reply_t> reply(
+            xcb_translate_coordinates_reply(client, cookie, nullptr));
+        return reply ? QPoint(reply->dst_x, reply->dst_y) : QPoint();
+    }
+
+    /// Opens the window by the third item of the bar's menu, and gives it when it has the focus.
+    xcb_window_t openSettings() {
+        Driver& driver = session_.driver();
+        driver.move(26, 12);
+        driver.click();
+        EXPECT_TRUE(waitForMenu(true));
+        keys({"DOWN", "DOWN", "RTRN"});
+        EXPECT_TRUE(waitForSettings());
+        return activeWindow(session_.client());
+    }
+
+    /// Waits until a menu holds the keyboard, or none does.
+    bool waitForMenu(bool isOpen) {
+        return waitFor([&] { return isKeyboardFree(session_.client()) != isOpen; });
+    }
+
+    /// Waits for a sheet over the settings window.
+    bool waitForSheet() {
+        return waitFor([&] {
+            const xcb_window_t active = activeWindow(session_.client());
+            return active && !isSettings(active) && inputFocus(session_.client()) == active;
+        });
+    }
+    bool waitForSettings() {
+        return waitFor([&] {
+            const xcb_window_t active = activeWindow(session_.client());
+            return isSettings(active) && inputFocus(session_.client()) == active;
+        });
+    }
+
+    QString storedText() {
+        const QSettings settings(session_.settingsFile(), QSettings::IniFormat);
+        return QString::fromUtf8(settings.value(u"SavedShortcuts"_s).toByteArray());
+    }
+    bool waitForButtons(size_t count) {
+        return waitFor([&] { return session_.buttons().size() == count; });
+    }
+
+    Session session_;
+};
+
+TEST_F(SettingsTest, AnAddedButtonIsOnTheBarAtOnceAndOutlivesACrash) {
+    ASSERT_TRUE(waitForButtons(4));
+    openSettings();
+    keys({"TAB", "SPCE"}); // from the list to Add
+    ASSERT_TRUE(waitForSheet());
+    keys({"AC03", "AD09", "AB03", "AC02"});     // "docs"
+    keys({"TAB", "TAB", "TAB", "TAB", "DOWN"}); // to the action's type, and open its menu
+    ASSERT_TRUE(waitForMenu(true));
+    keys({"DOWN", "RTRN"}); // open an address
+    ASSERT_TRUE(waitForMenu(false));
+    keys({"TAB", "AB02", "AB02", "RTRN"}); // "xx", and save
+    ASSERT_TRUE(waitForSettings());
+    ASSERT_TRUE(waitForButtons(5));
+    EXPECT_TRUE(storedText().contains(u"\"docs\""_s)) << qPrintable(storedText());
+    EXPECT_TRUE(storedText().contains(u"{\"openURL\":{\"url\":\"xx\"}}"_s));
+
+    session_.program().kill();
+    session_.program().waitForFinished();
+    ASSERT_TRUE(waitFor([&] { return !session_.bar(); }));
+    session_.launch();
+    ASSERT_TRUE(waitForButtons(5));
+
+    openSettings();
+    keys({"END", "DELE"});
+    ASSERT_TRUE(waitForButtons(4));
+    EXPECT_FALSE(storedText().contains(u"docs"_s));
+}
+
+TEST_F(SettingsTest, ARowIsDraggedToAnotherPlace) {
+    const QPoint content = origin(openSettings());
+    // Rows are 38 points high where the fonts are the usual ones.
+    const QPoint first = content + QPoint(150, 140);
+    Driver& driver = session_.driver();
+    driver.move(first.x(), first.y());
+    driver.pressButton(1);
+    for (int y = 10; y <= 50; y += 10)
+        driver.move(first.x(), first.y() + y);
+    driver.releaseButton(1);
+    EXPECT_TRUE(waitFor([&] {
+        return storedText().indexOf(u"Finder"_s) < storedText().indexOf(u"Safari"_s);
+    })) << qPrintable(storedText());
+}
+
+TEST_F(SettingsTest, RestartLeavesANewInstance) {
+    openSettings();
+    const uint32_t before = session_.bar()->processId;
+    keys({"TAB", "TAB", "SPCE"}); // Edit and Delete are off
+    EXPECT_TRUE(session_.program().waitForFinished(10000));
+    EXPECT_TRUE(waitFor([&] {
+        const auto bar = session_.bar();
+        return bar && bar->processId != 0 && bar->processId != before;
+    }));
+    if (const auto bar = session_.bar(); bar && bar->processId != before) {
+        EXPECT_EQ(kill(pid_t(bar->processId), SIGTERM), 0);
+        EXPECT_TRUE(waitFor([&] { return !session_.bar(); }));
+    }
+}
+
+} // namespace

@@ -1,0 +1,237 @@
+// Both editors in their sheets, by keyboard and through their controls.
+
+#include "input/KeyCaptureNSView.h"
+#include "input/KeyCaptureView.h"
+#include "settings/ActionForm.h"
+#include "settings/MouseBindingEditorView.h"
+#include "settings/ShortcutEditorView.h"
+#include "support/FakeEventTaps.h"
+#include "support/TestDisplay.h"
+#include "viewkit/PopUpButton.h"
+#include "viewkit/SegmentedPicker.h"
+#include "viewkit/Sheet.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using velmora::test::waitFor;
+
+namespace {
+
+/// The visible text field of that accessible name (its key, as no texts are loaded).
+QLineEdit* field(QWidget& editor, const QString& name) {
+    for (QLineEdit* edit : editor.findChildren<QLineEdit*>()) {
+        if (edit->accessibleName() == name)
+            return edit;
+    }
+    return nullptr;
+}
+
+void choose(RecordEditor& editor, ActionType type) {
+    editor.actionForm().typePicker().setCurrentIndex(static_cast<int>(type));
+}
+
+QPushButton* button(QWidget& view, const QString& text) {
+    for (QPushButton* candidate : view.findChildren<QPushButton*>()) {
+        if (candidate->text() == text)
+            return candidate;
+    }
+    return nullptr;
+}
+
+class EditorTest : public testing::Test {
+protected:
+    EditorTest() { window_.show(); }
+
+    ShortcutEditorView& open(std::optional<ShortcutButton> shortcut = {}) {
+        return present(std::make_unique<ShortcutEditorView>(
+            std::move(shortcut), [this](const ShortcutButton& button) { saved_.append(button); },
+            [this] { ++cancelled_; }, taps_));
+    }
+
+    MouseBindingEditorView& openMouse(std::optional<MouseButtonBinding> binding = {}) {
+        return present(std::make_unique<MouseBindingEditorView>(
+            std::move(binding),
+            [this](const MouseButtonBinding& made) { savedBindings_.append(made); },
+            [this] { ++cancelled_; }, taps_));
+    }
+
+    /// The alert over the editor, once it is there.
+    Sheet* alert() {
+        for (Sheet* sheet : sheet_->findChildren<Sheet*>()) {
+            if (sheet->isVisible())
+                return sheet;
+        }
+        return nullptr;
+    }
+
+    test::FakeEventTaps taps_;
+    QWidget window_;
+    Sheet* sheet_ = nullptr;
+    QList<ShortcutButton> saved_;
+    QList<MouseButtonBinding> savedBindings_;
+    int cancelled_ = 0;
+
+private:
+    template<typename Editor>
+    Editor& present(std::unique_ptr<Editor> editor) {
+        Editor& shown = *editor;
+        sheet_ = &Sheet::present(window_, std::move(editor));
+        QApplication::setActiveWindow(sheet_);
+        EXPECT_TRUE(waitFor([&] { return QApplication::focusWidget() != nullptr; }));
+        return shown;
+    }
+};
+
+TEST_F(EditorTest, ANewButtonNeedsItsActionAndATitleOrSymbol) {
+    ShortcutEditorView& editor = open();
+    EXPECT_EQ(editor.windowTitle(), u"shortcut_add_title"_s);
+    QLineEdit* title = field(editor, u"label_title"_s);
+    QLineEdit* icon = field(editor, u"label_icon"_s);
+    QLineEdit* app = field(editor, u"label_app"_s);
+    EXPECT_TRUE(title->hasFocus());
+    EXPECT_EQ(icon->text(), u"star"_s);
+    const struct {
+        QString title, icon, app;
+        bool canSave;
+    } cases[] = {
+        {{}, u"star"_s, {}, false}, {{}, u"star"_s, u" "_s, true}, {u"T"_s, {}, u"A"_s, true},
+        {{}, {}, u"A"_s, false},    {u" "_s, {}, u"A"_s, true},    {u"T"_s, u"star"_s, {}, false},
+    };
+    for (const auto& [titleText, iconText, appText, canSave] : cases) {
+        title->setText(titleText);
+        icon->setText(iconText);
+        app->setText(appText);
+        EXPECT_EQ(editor.saveButton().isEnabled(), canSave);
+        QTest::keyClick(title, Qt::Key_Return);
+        EXPECT_EQ(saved_.size(), canSave ? 1 : 0);
+        saved_.clear();
+    }
+    title->setText(u"T"_s);
+    app->setText(u"Mail"_s);
+    editor.findChild<SegmentedPicker*>()->setCurrentIndex(1);
+    // The default button stays the default one after it had the focus.
+    editor.saveButton().setFocus();
+    button(editor, u"button_cancel"_s)->setFocus();
+    app->setFocus();
+    QTest::keyClick(app, Qt::Key_Return);
+    ASSERT_EQ(saved_.size(), 1);
+    EXPECT_EQ(saved_[0].action, ShortcutAction(LaunchApp{u"Mail"_s, std::nullopt}));
+    EXPECT_EQ(saved_[0].alignment, ButtonAlignment::right);
+}
+
+TEST_F(EditorTest, EditingKeepsTheIdAndWhatIsNotTouched) {
+    const ShortcutButton stored(
+        u"two\nlines"_s, u"folder"_s, PressKeyCombo{{u"Hyper"_s}, u"F5"_s}, ButtonAlignment::right);
+    ShortcutEditorView& editor = open(stored);
+    EXPECT_EQ(editor.windowTitle(), u"shortcut_edit_title"_s);
+    EXPECT_TRUE(editor.actionForm().keyCapture().view().hasFocus());
+    editor.requestSave();
+    ASSERT_EQ(saved_.size(), 1);
+    EXPECT_EQ(saved_[0].id(), stored.id());
+    EXPECT_EQ(saved_[0].title, stored.title);
+    EXPECT_EQ(saved_[0].icon, stored.icon);
+    EXPECT_EQ(saved_[0].action, stored.action);
+    EXPECT_EQ(saved_[0].alignment, stored.alignment);
+}
+
+TEST_F(EditorTest, SwitchingTheTypeKeepsWhatWasTyped) {
+    ShortcutEditorView& editor =
+        open(ShortcutButton(u"T"_s, {}, OpenUrl{u"https://velmora.invalid"_s}));
+    choose(editor, ActionType::launchApp);
+    EXPECT_FALSE(editor.saveButton().isEnabled());
+    field(editor, u"label_app"_s)->setText(u"Mail"_s);
+    choose(editor, ActionType::openURL);
+    EXPECT_EQ(field(editor, u"label_url"_s)->text(), u"https://velmora.invalid"_s);
+    choose(editor, ActionType::launchApp);
+    editor.requestSave();
+    ASSERT_EQ(saved_.size(), 1);
+    EXPECT_EQ(saved_[0].action, ShortcutAction(LaunchApp{u"Mail"_s, std::nullopt}));
+}
+
+TEST_F(EditorTest, AShellCommandIsSavedOnlyOnceTheQuestionIsAnswered) {
+    ShortcutEditorView& editor = open(ShortcutButton(u"T"_s, {}, ExecuteShellCommand{u"ls"_s}));
+    editor.saveButton().click();
+    ASSERT_TRUE(waitFor([&] { return alert() != nullptr; }));
+    EXPECT_TRUE(saved_.isEmpty());
+    QTest::keyClick(alert(), Qt::Key_Escape);
+    ASSERT_TRUE(waitFor([&] { return alert() == nullptr; }));
+    EXPECT_TRUE(saved_.isEmpty());
+    EXPECT_EQ(cancelled_, 0);
+    EXPECT_EQ(editor.findChild<QPlainTextEdit*>()->toPlainText(), u"ls"_s);
+    editor.saveButton().click();
+    ASSERT_TRUE(waitFor([&] { return alert() != nullptr; }));
+    button(*alert(), u"button_save"_s)->click();
+    EXPECT_EQ(saved_.size(), 1);
+}
+
+TEST_F(EditorTest, EscapeAndTheButtonCancelOnce) {
+    ShortcutEditorView& editor = open();
+    QTest::keyClick(field(editor, u"label_title"_s), Qt::Key_Escape);
+    EXPECT_EQ(cancelled_, 1);
+    EXPECT_TRUE(sheet_->isVisible()) << "closing it is the presenter's part";
+    button(editor, u"button_cancel"_s)->click();
+    EXPECT_EQ(cancelled_, 2);
+}
+
+TEST_F(EditorTest, ReturnIsAKeyLikeAnyOtherWhileAButtonsKeysAreRecorded) {
+    ShortcutEditorView& editor = open();
+    choose(editor, ActionType::pressKey);
+    EXPECT_TRUE(*editor.actionForm().isKeyCaptureFocused());
+    EXPECT_FALSE(editor.saveButton().isDefault());
+    taps_.sendKey(36, 0, u"\r"_s);
+    EXPECT_TRUE(saved_.isEmpty());
+    EXPECT_EQ(editor.actionForm().fields().keyValue, u"Return"_s);
+    EXPECT_TRUE(editor.saveButton().isEnabled());
+    field(editor, u"label_title"_s)->setFocus();
+    EXPECT_TRUE(editor.saveButton().isDefault());
+    QTest::keyClick(field(editor, u"label_title"_s), Qt::Key_Return);
+    EXPECT_EQ(saved_.size(), 1);
+}
+
+TEST_F(EditorTest, ReturnSavesAMouseBindingWhileItsKeysAreRecorded) {
+    MouseBindingEditorView& editor = openMouse();
+    choose(editor, ActionType::pressKey);
+    taps_.sendKey(36, 0, u"\r"_s);
+    EXPECT_TRUE(savedBindings_.isEmpty()) << "nothing to save yet";
+    taps_.sendKey(45, kCGEventFlagMaskCommand, u"n"_s);
+    taps_.sendKey(36, 0, u"\r"_s);
+    ASSERT_EQ(savedBindings_.size(), 1);
+    EXPECT_EQ(savedBindings_[0].buttonNumber, 3);
+    EXPECT_EQ(savedBindings_[0].action, ShortcutAction(PressKeyCombo{{u"Command"_s}, u"N"_s}));
+}
+
+TEST_F(EditorTest, AButtonThatIsNotOfferedSurvivesEditing) {
+    for (const std::int64_t number :
+         {std::int64_t(0), std::int64_t(2), std::int64_t(8), std::int64_t(12),
+          std::numeric_limits<std::int64_t>::max()}) {
+        const MouseButtonBinding stored(number, OpenUrl{u"x:"_s});
+        MouseBindingEditorView& editor = openMouse(stored);
+        const bool isOffered = number >= 2 && number <= 8;
+        EXPECT_EQ(editor.buttonPicker().count(), isOffered ? 7 : 8) << number;
+        editor.requestSave();
+        ASSERT_EQ(savedBindings_.size(), 1);
+        EXPECT_EQ(savedBindings_[0].buttonNumber, number);
+        EXPECT_EQ(savedBindings_[0].id(), stored.id());
+        savedBindings_.clear();
+        sheet_->reject();
+    }
+}
+
+TEST_F(EditorTest, PickersChangeOnlyInTheirMenu) {
+    MouseBindingEditorView& editor = openMouse();
+    QWheelEvent wheel(
+        {5, 5}, editor.buttonPicker().mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
+        Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&editor.buttonPicker(), &wheel);
+    QTest::keyClick(&editor.buttonPicker(), Qt::Key_Down);
+    EXPECT_EQ(editor.buttonPicker().currentData(), 3);
+    editor.buttonPicker().hidePopup();
+}
+
+} // namespace

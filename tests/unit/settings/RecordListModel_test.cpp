@@ -1,0 +1,79 @@
+// The rows of a record list from one snapshot to the next.
+
+#include "settings/RecordListModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QPersistentModelIndex>
+#include <QRandomGenerator>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+
+namespace {
+
+RecordSnapshot snapshot(const QList<QUuid>& ids) {
+    return {.ids = ids, .row = [ids](qsizetype position) {
+                return RecordRow{
+                    .symbol = {}, .title = ids.at(position).toString(), .detail = {}, .badge = {}};
+            }};
+}
+
+TEST(RecordListModel, FollowsAnyEditAndKeepsRowsOutsideIt) {
+    QRandomGenerator random(7);
+    QAbstractItemModelTester tester(
+        new RecordListModel(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    auto& model = *static_cast<RecordListModel*>(tester.model());
+    QList<QUuid> ids;
+    for (int round = 0; round < 400; ++round) {
+        const QList<QUuid> before = ids;
+        switch (ids.isEmpty() ? 0 : random.bounded(5)) {
+        case 0:
+            ids.insert(random.bounded(int(ids.size()) + 1), QUuid::createUuid());
+            break;
+        case 1:
+            ids.removeAt(random.bounded(int(ids.size())));
+            break;
+        case 2:
+            ids.move(random.bounded(int(ids.size())), random.bounded(int(ids.size())));
+            break;
+        case 3: // an id twice: ids are not checked
+            ids.insert(random.bounded(int(ids.size()) + 1), ids.first());
+            break;
+        default:
+            ids = ids.mid(random.bounded(int(ids.size())));
+            break;
+        }
+        const auto first = std::mismatch(before.begin(), before.end(), ids.begin(), ids.end());
+        QList<QPersistentModelIndex> kept;
+        for (int row = 0; row < first.first - before.begin(); ++row)
+            kept.append(model.index(row));
+        model.setSnapshot(snapshot(ids));
+        ASSERT_EQ(model.rowCount(), ids.size());
+        for (int row = 0; row < model.rowCount(); ++row) {
+            ASSERT_EQ(model.id(model.index(row)), ids.at(row));
+            ASSERT_EQ(model.row(model.index(row)).title, ids.at(row).toString());
+        }
+        for (int row = 0; row < kept.size(); ++row)
+            ASSERT_EQ(kept.at(row).row(), row) << round;
+    }
+    delete &model;
+}
+
+TEST(RecordListModel, TitlesTakeOneLine) {
+    const struct {
+        QString text;
+        QString line;
+    } cases[] = {
+        {u"plain"_s, u"plain"_s},
+        {u"two\nlines\r\n\tand"_s, u"two lines   and"_s},
+        {u"a\u2028b\u2029c\u0085d"_s, u"a b c d"_s},
+        {u"<b>&amp;</b>"_s, u"<b>&amp;</b>"_s},
+        {u"🗑️ שלום"_s, u"🗑️ שלום"_s},
+    };
+    for (const auto& [text, line] : cases)
+        EXPECT_EQ(singleLine(text), line);
+    EXPECT_LE(singleLine(QString(1'000'000, u'x')).size(), 1000);
+}
+
+} // namespace

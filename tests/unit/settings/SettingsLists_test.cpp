@@ -1,0 +1,287 @@
+// Both tabs over real stores: selection, the commands by button, key, menu and drag, and restart.
+
+#include "foundation/ActionMessages.h"
+#include "foundation/Bundle.h"
+#include "foundation/UserDefaults.h"
+#include "input/MouseButtonManager.h"
+#include "model/ShortcutManager.h"
+#include "settings/MouseSettingsView.h"
+#include "settings/RecordListPane.h"
+#include "settings/RecordListView.h"
+#include "settings/RecordRowDelegate.h"
+#include "settings/ShortcutEditorView.h"
+#include "settings/VelmoraSettingsView.h"
+#include "settings/VersionLine.h"
+#include "support/FakeAccessibility.h"
+#include "support/FakeEventTaps.h"
+#include "support/TestDisplay.h"
+#include "viewkit/PopupMenu.h"
+#include "viewkit/Sheet.h"
+
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using velmora::test::waitFor;
+
+namespace {
+
+class SettingsListsTest : public testing::Test {
+protected:
+    SettingsListsTest() {
+        while (!store_.shortcuts().isEmpty())
+            store_.removeShortcut(0);
+        for (const QChar title : u"abcde"_s)
+            store_.addShortcut({title, u"star"_s, OpenUrl{u"x:"_s}});
+    }
+
+    RecordListPane& open() {
+        view_.emplace(
+            store_, taps_,
+            [this](const std::function<void()>& completion) {
+                ++launches_;
+                completion();
+            },
+            Bundle::infoDictionary());
+        view_->resize(600, 500);
+        view_->show();
+        QApplication::setActiveWindow(&*view_);
+        EXPECT_TRUE(waitFor([&] { return list().hasFocus(); }));
+        return view_->pane();
+    }
+
+    RecordListView& list() { return view_->pane().list(); }
+    QPoint rowCentre(int row) { return list().visualRect(list().model()->index(row, 0)).center(); }
+    void clickRow(int row) {
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, rowCentre(row));
+    }
+    QPushButton* button(const QString& text) {
+        for (QPushButton* candidate : view_->findChildren<QPushButton*>()) {
+            if (candidate->text() == text)
+                return candidate;
+        }
+        return nullptr;
+    }
+    bool isEnabled(const QString& text) { return button(text)->isEnabled(); }
+
+    QString stored() const {
+        QString titles;
+        for (const ShortcutButton& shortcut : store_.shortcuts())
+            titles += shortcut.title;
+        return titles;
+    }
+    /// What the rows say, once they have followed the store.
+    QString shown() {
+        EXPECT_TRUE(
+            waitFor([&] { return list().model()->rowCount() == store_.shortcuts().size(); }));
+        QCoreApplication::processEvents();
+        QString titles;
+        for (int row = 0; row < list().model()->rowCount(); ++row)
+            titles += list().model()->index(row, 0).data().toString();
+        return titles;
+    }
+    /// The title of the row that is drawn as selected.
+    QString selectedRow() {
+        const QModelIndexList rows = list().selectionModel()->selectedIndexes();
+        return rows.isEmpty() ? QString() : rows.first().data().toString();
+    }
+
+    void chooseInMenu(int row, const QString& item) {
+        const QPoint place = rowCentre(row);
+        QContextMenuEvent event(
+            QContextMenuEvent::Mouse, place, list().viewport()->mapToGlobal(place));
+        QApplication::sendEvent(list().viewport(), &event);
+        auto* menu = list().findChild<PopupMenu*>();
+        ASSERT_TRUE(menu);
+        for (QAction* action : menu->actions()) {
+            if (action->text() == item)
+                action->trigger();
+        }
+        menu->close();
+    }
+
+    const QTemporaryDir root_;
+    UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
+    ShortcutManager store_{defaults_};
+    test::FakeEventTaps taps_;
+    int launches_ = 0;
+    std::optional<VelmoraSettingsView> view_;
+};
+
+TEST_F(SettingsListsTest, SelectionFollowsTheRecordById) {
+    open();
+    EXPECT_FALSE(isEnabled(u"edit"_s));
+    EXPECT_FALSE(isEnabled(u"delete"_s));
+    clickRow(2);
+    EXPECT_TRUE(isEnabled(u"edit"_s));
+    ShortcutButton changed = store_.shortcuts().at(2);
+    changed.title = u"C"_s;
+    store_.updateShortcut(2, changed);
+    store_.moveShortcut(2, 0);
+    EXPECT_EQ(shown(), u"Cabde"_s);
+    EXPECT_EQ(selectedRow(), u"C"_s);
+    QTest::keyClick(&list(), Qt::Key_Delete);
+    EXPECT_EQ(stored(), u"abde"_s);
+    EXPECT_EQ(shown(), u"abde"_s);
+    EXPECT_EQ(selectedRow(), QString());
+    EXPECT_FALSE(isEnabled(u"delete"_s));
+    QTest::keyClick(&list(), Qt::Key_Delete);
+    EXPECT_EQ(stored(), u"abde"_s);
+}
+
+TEST_F(SettingsListsTest, DeleteThatFindsNothingKeepsTheSelection) {
+    RecordListPane& pane = open();
+    clickRow(1);
+    const auto selected = pane.selection();
+    store_.removeShortcut(1);
+    EXPECT_EQ(shown(), u"acde"_s);
+    button(u"delete"_s)->click();
+    EXPECT_EQ(stored(), u"acde"_s);
+    EXPECT_EQ(pane.selection(), selected);
+    button(u"edit"_s)->click();
+    EXPECT_FALSE(pane.editor());
+    EXPECT_EQ(selectedRow(), QString()) << "nothing is drawn as selected that is not";
+}
+
+TEST_F(SettingsListsTest, TheMenuOfARowIsAboutThatRow) {
+    RecordListPane& pane = open();
+    clickRow(0);
+    QTest::mouseClick(list().viewport(), Qt::RightButton, {}, rowCentre(3));
+    EXPECT_EQ(selectedRow(), u"a"_s);
+    chooseInMenu(3, u"shortcut_delete"_s);
+    EXPECT_EQ(stored(), u"abce"_s);
+    EXPECT_FALSE(pane.selection());
+    EXPECT_EQ(shown(), u"abce"_s);
+    chooseInMenu(3, u"shortcut_edit"_s);
+    ASSERT_TRUE(pane.editor());
+    EXPECT_EQ(pane.editor()->findChild<QLineEdit*>()->text(), u"e"_s);
+}
+
+TEST_F(SettingsListsTest, EditorsWorkOnTheStore) {
+    RecordListPane& pane = open();
+    const auto save = [&](const QString& title) {
+        ASSERT_TRUE(pane.editor());
+        pane.editor()->findChild<QLineEdit*>()->setText(title);
+        pane.editor()->findChild<ShortcutEditorView*>()->requestSave();
+        ASSERT_TRUE(waitFor([&] { return !pane.editor(); }));
+    };
+    clickRow(3);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_F2}) {
+        QTest::keyClick(&list(), key);
+        save(key == Qt::Key_F2 ? u"Y"_s : u"X"_s);
+    }
+    EXPECT_EQ(stored(), u"abcYe"_s);
+    button(u"add"_s)->click();
+    ASSERT_TRUE(pane.editor());
+    EXPECT_EQ(pane.editor()->windowTitle(), u"shortcut_add_title"_s);
+    QTest::keyClick(pane.editor()->findChild<QLineEdit*>(), Qt::Key_Escape);
+    ASSERT_TRUE(waitFor([&] { return !pane.editor(); }));
+    EXPECT_EQ(stored(), u"abcYe"_s);
+    EXPECT_EQ(selectedRow(), u"Y"_s);
+}
+
+TEST_F(SettingsListsTest, RowsMoveByDragAndByKey) {
+    open();
+    const int height = RecordRowDelegate::rowHeight();
+    const auto drag = [&](int row, int y) {
+        QTest::mousePress(list().viewport(), Qt::LeftButton, {}, rowCentre(row));
+        // QTest::mouseMove() has no buttons down.
+        for (const QPoint& place : {rowCentre(row) + QPoint(0, 30), QPoint(100, y)}) {
+            QMouseEvent move(
+                QEvent::MouseMove, place, list().viewport()->mapToGlobal(place), Qt::NoButton,
+                Qt::LeftButton, {});
+            QApplication::sendEvent(list().viewport(), &move);
+        }
+    };
+    const auto drop = [&](int y) {
+        QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, {100, y});
+        return shown();
+    };
+    drag(0, 3 * height);
+    EXPECT_EQ(drop(3 * height), u"bcade"_s);
+    EXPECT_EQ(selectedRow(), u"a"_s);
+    drag(4, -50);
+    EXPECT_EQ(drop(-50), u"ebcad"_s);
+    drag(0, 400);
+    EXPECT_EQ(drop(400), u"bcade"_s);
+    drag(1, 1 * height + 2);
+    EXPECT_EQ(drop(1 * height + 2), u"bcade"_s) << "onto its own place";
+    drag(1, 4 * height);
+    QTest::keyClick(&list(), Qt::Key_Escape);
+    EXPECT_EQ(drop(4 * height), u"bcade"_s) << "called off";
+
+    clickRow(4);
+    for (int i = 0; i < 6; ++i) {
+        QTest::keyClick(&list(), Qt::Key_Up, Qt::AltModifier);
+        shown();
+    }
+    EXPECT_EQ(shown(), u"ebcad"_s);
+    QTest::keyClick(&list(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(shown(), u"becad"_s);
+    EXPECT_EQ(selectedRow(), u"e"_s);
+}
+
+TEST_F(SettingsListsTest, RestartLaunchesAndThenTerminates) {
+    open();
+    int terminations = 0;
+    ActionMessages::shared().setHandler(u"terminate:"_s, [&] { ++terminations; });
+    button(u"restart"_s)->click();
+    EXPECT_EQ(launches_, 1);
+    EXPECT_EQ(terminations, 0) << "in a later turn";
+    EXPECT_TRUE(waitFor([&] { return terminations == 1; }));
+    ActionMessages::shared().setHandler(u"terminate:"_s, [] {});
+}
+
+TEST_F(SettingsListsTest, MouseBindingsCannotBeMovedAndAddingReplaces) {
+    test::FakeAccessibility accessibility;
+    MouseButtonManager manager(defaults_, taps_, accessibility, [](const ShortcutAction&) {});
+    manager.addBinding({2, OpenUrl{u"x:"_s}});
+    manager.addBinding({4, OpenUrl{u"y:"_s}});
+    MouseSettingsView view(manager, taps_);
+    view.resize(600, 500);
+    view.show();
+    RecordListView& rows = view.pane().list();
+    rows.setCurrentIndex(rows.model()->index(1, 0));
+    QTest::keyClick(&rows, Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(manager.bindings().at(1).buttonNumber, 4);
+    EXPECT_EQ(rows.model()->index(1, 0).data().toString(), u"mouse_click_btn5"_s);
+    QTest::keyClick(&rows, Qt::Key_Delete);
+    EXPECT_EQ(manager.bindings().size(), 1);
+    EXPECT_TRUE(waitFor([&] { return rows.model()->rowCount() == 1; }));
+}
+
+TEST(VersionLine, SaysSoEachTimeItShowsAnUnknownVersion) {
+    const QString shortVersion(Bundle::shortVersionKey);
+    const QString build(Bundle::versionKey);
+    const struct {
+        std::optional<QVariantMap> dictionary;
+        bool isKnown;
+        QString description;
+    } cases[] = {
+        {Bundle::infoDictionary(), true, {}},
+        {std::nullopt, false, u"nil"_s},
+        {QVariantMap{{shortVersion, u"1.0"_s}}, false, u"[CFBundleShortVersionString: 1.0]"_s},
+        {QVariantMap{{shortVersion, u"1.0"_s}, {build, 7}}, false,
+         u"[CFBundleShortVersionString: 1.0, CFBundleVersion: 7]"_s},
+    };
+    for (const auto& [dictionary, isKnown, description] : cases) {
+        VersionLine line(dictionary);
+        EXPECT_EQ(line.text(), isKnown ? u"version_format"_s : u"unknown_version"_s);
+        testing::internal::CaptureStdout();
+        line.show();
+        line.hide();
+        line.show();
+        const QString once = u"⚠️ InfoDictionary is nil or missing keys.\nBundle Path: %1\n"
+                             u"InfoDictionary: %2\n"_s.arg(Bundle::bundlePath(), description);
+        EXPECT_EQ(
+            QString::fromStdString(testing::internal::GetCapturedStdout()),
+            isKnown ? QString() : once.repeated(2));
+    }
+}
+
+} // namespace

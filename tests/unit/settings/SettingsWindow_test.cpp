@@ -1,0 +1,165 @@
+// The life of the settings window, its frame and its menu bar.
+
+#include "foundation/ActionMessages.h"
+#include "foundation/Bundle.h"
+#include "foundation/UserDefaults.h"
+#include "input/MouseButtonManager.h"
+#include "model/ShortcutManager.h"
+#include "platform/WindowActivation.h"
+#include "settings/AboutView.h"
+#include "settings/MainMenuBar.h"
+#include "settings/RecordListPane.h"
+#include "settings/SettingsWindow.h"
+#include "support/FakeAccessibility.h"
+#include "support/FakeEventTaps.h"
+#include "support/TestDisplay.h"
+#include "viewkit/Sheet.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using velmora::test::waitFor;
+
+namespace {
+
+class FakeActivation : public WindowActivation {
+public:
+    QList<QPointer<QWidget>> activated;
+    void makeKeyAndOrderFront(QWidget& window) override {
+        activated.append(&window);
+        window.show();
+    }
+};
+
+class SettingsWindowTest : public testing::Test {
+protected:
+    const QTemporaryDir root_;
+    UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
+    test::FakeEventTaps taps_;
+    test::FakeAccessibility accessibility_;
+    ShortcutManager shortcuts_{defaults_};
+    MouseButtonManager mouse_{defaults_, taps_, accessibility_, [](const ShortcutAction&) {}};
+    FakeActivation activation_;
+    SettingsWindow window_{defaults_, activation_, [this] {
+                               return SettingsServices{
+                                   .shortcutManager = shortcuts_,
+                                   .mouseManager = mouse_,
+                                   .eventTaps = taps_,
+                                   .relaunch = {},
+                                   .infoDictionary = Bundle::infoDictionary()};
+                           }};
+};
+
+TEST_F(SettingsWindowTest, IsMadeOnceAndDroppedWhenItCloses) {
+    window_.show();
+    const QPointer<QWidget> first = window_.window();
+    ASSERT_TRUE(first);
+    EXPECT_EQ(first->windowTitle(), u"Velmora 設定"_s);
+    EXPECT_GE(window_.view()->width(), 600);
+    EXPECT_GE(window_.view()->height(), 500);
+    window_.view()->setCurrentIndex(1);
+    window_.show();
+    EXPECT_EQ(window_.window(), first);
+    EXPECT_EQ(window_.view()->currentIndex(), 1);
+    EXPECT_EQ(activation_.activated.size(), 2);
+
+    testing::internal::CaptureStdout();
+    first->close();
+    EXPECT_FALSE(window_.window());
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    testing::internal::CaptureStdout();
+    EXPECT_TRUE(waitFor([&] { return !first; }));
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "🗑️ SettingsWindow released\n");
+
+    window_.show();
+    EXPECT_EQ(window_.view()->currentIndex(), 0);
+    window_.close();
+    window_.close();
+}
+
+TEST_F(SettingsWindowTest, AnEditorGoesWithItUnsaved) {
+    window_.show();
+    RecordListPane& pane = window_.view()->shortcuts().pane();
+    pane.findChild<QPushButton*>()->click();
+    const QPointer<Sheet> editor = pane.editor();
+    ASSERT_TRUE(editor);
+    window_.show();
+    EXPECT_EQ(activation_.activated.last(), editor.data());
+    window_.close();
+    EXPECT_TRUE(waitFor([&] { return !editor; }));
+    EXPECT_EQ(shortcuts_.shortcuts().size(), 4);
+}
+
+TEST_F(SettingsWindowTest, ComesBackWhereItWas) {
+    const QString key = u"NSWindow Frame SettingsWindow"_s;
+    window_.show();
+    window_.window()->move(20, 30);
+    window_.window()->resize(640, 560);
+    // At rest it is saved without being closed.
+    EXPECT_TRUE(waitFor([&] { return defaults_.data(key) == "20 30 640 560"; }));
+    window_.window()->resize(650, 560);
+    window_.close();
+    window_.show();
+    EXPECT_EQ(window_.window()->pos(), QPoint(20, 30));
+    EXPECT_EQ(window_.window()->size(), QSize(650, 560));
+    window_.close();
+    defaults_.setData(key, "90000 90000 640 560");
+    window_.show();
+    const QRect screen = window_.window()->screen()->availableGeometry();
+    const QRect place(window_.window()->pos(), window_.window()->size());
+    EXPECT_TRUE(screen.contains(place)) << place.x() << ' ' << place.y();
+}
+
+TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
+    window_.setMainMenu(
+        {{u""_s,
+          {{u"Tom & Jerry"_s, u"testMessage:"_s, {}},
+           {},
+           {u"About"_s, u"orderFrontStandardAboutPanel:"_s, {}}}},
+         {u"Edit"_s,
+          {{u"Copy"_s, u"copy:"_s, QKeySequence(u"Ctrl+C"_s)},
+           {u"Select All"_s, u"selectAll:"_s, {}}}}});
+    int sent = 0;
+    ActionMessages::shared().setHandler(u"testMessage:"_s, [&] { ++sent; });
+    window_.show();
+    const auto* bar = window_.window()->findChild<MainMenuBar*>();
+    ASSERT_TRUE(bar);
+    ASSERT_EQ(bar->actions().size(), 2);
+    EXPECT_EQ(bar->actions()[0]->text(), u"Velmora"_s);
+    const auto program = bar->actions()[0]->menu()->actions();
+    EXPECT_EQ(program[0]->text(), u"Tom && Jerry"_s);
+    EXPECT_TRUE(program[1]->isSeparator());
+    program[0]->trigger();
+    EXPECT_EQ(sent, 1);
+    ActionMessages::shared().setHandler(u"testMessage:"_s, [] {});
+
+    QMenu* edit = bar->actions()[1]->menu();
+    QAction* selectAll = edit->actions()[1];
+    Q_EMIT edit->aboutToShow();
+    EXPECT_FALSE(selectAll->isEnabled());
+    Q_EMIT edit->aboutToHide();
+    QLineEdit field(u"text"_s);
+    field.show();
+    QApplication::setActiveWindow(&field);
+    field.setFocus();
+    field.deselect();
+    Q_EMIT edit->aboutToShow();
+    EXPECT_TRUE(selectAll->isEnabled());
+    selectAll->trigger();
+    EXPECT_EQ(field.selectedText(), u"text"_s);
+
+    window_.showAboutPanel();
+    window_.showAboutPanel();
+    EXPECT_EQ(window_.window()->findChildren<AboutView*>().size(), 1);
+    window_.close();
+}
+
+} // namespace
