@@ -48,10 +48,6 @@ void KeyCaptureNSView::updateDisplay(const QStringList& modifiers, const QString
 
 void KeyCaptureNSView::keyDown(const TapEvent& event) {
     const QStringList modifiers = CapturedKey::modifierNames(event.flags);
-    if (onDefaultKey && event.keyCode == keyCodeReturn && modifiers.isEmpty()) {
-        onDefaultKey();
-        return;
-    }
     if (onKeyCapture)
         onKeyCapture(
             modifiers, CapturedKey::keyName(event.keyCode, event.charactersIgnoringModifiers));
@@ -95,7 +91,11 @@ void KeyCaptureNSView::handleWindowKey(QKeyEvent& event) {
     const auto keyEvent = windowKeyEvent(event);
     if (!keyEvent)
         return;
-    if (keyEvent->type == EventType::keyDown)
+    const bool isDefaultKey = keyEvent->type == EventType::keyDown &&
+                              keyEvent->keyCode == keyCodeReturn && keyEvent->flags == 0;
+    if (isDefaultKey && onDefaultKey)
+        onDefaultKey();
+    else if (keyEvent->type == EventType::keyDown)
         keyDown(*keyEvent);
     else
         flagsChanged(*keyEvent);

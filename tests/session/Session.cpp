@@ -112,6 +112,15 @@ std::optional<TopWindow> Session::bar() {
     return std::nullopt;
 }
 
+std::optional<TopWindow> Session::menu() {
+    constexpr int leastHeight = 50; // tool tips and the bar are lower
+    for (const TopWindow& window : topWindows(*client_)) {
+        if (window.overrideRedirect && window.mapped && window.geometry.height() >= leastHeight)
+            return window;
+    }
+    return std::nullopt;
+}
+
 std::vector<QRect> Session::buttons() {
     const auto window = bar();
     if (!window)

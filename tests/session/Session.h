@@ -50,6 +50,9 @@ public:
     /// The bar's window on the screen, if it is there.
     std::optional<TopWindow> bar();
 
+    /// A menu that is open now. Asking for the keyboard instead could keep it from the menu.
+    std::optional<TopWindow> menu();
+
     /// The places of the bar's buttons on the screen, left to right, found by their lighter
     /// background. Pixels; without the menu button, which has none.
     std::vector<QRect> buttons();

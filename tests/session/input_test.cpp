@@ -81,7 +81,7 @@ TEST(HotKey, WorksWhileTheBarsMenuIsOpen) {
     const size_t windows = topWindows(session.client()).size();
     session.driver().move(24, 12);
     session.driver().click();
-    EXPECT_TRUE(waitFor([&] { return !isKeyboardFree(session.client()); }));
+    EXPECT_TRUE(waitFor([&] { return session.menu().has_value(); }));
     EXPECT_TRUE(toggles(session));
     EXPECT_TRUE(toggles(session));
     session.driver().tapKey("ESC");

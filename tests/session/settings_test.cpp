@@ -57,9 +57,8 @@ protected:
         return activeWindow(session_.client());
     }
 
-    /// Waits until a menu holds the keyboard, or none does.
     bool waitForMenu(bool isOpen) {
-        return waitFor([&] { return isKeyboardFree(session_.client()) != isOpen; });
+        return waitFor([&] { return session_.menu().has_value() == isOpen; });
     }
 
     /// Waits for a sheet over the settings window.

@@ -176,7 +176,7 @@ TEST_P(Tray, HasAMenuWithKeyEquivalents) {
         session.driver().tapKey("AD01");
         session.driver().releaseKey("LCTL");
         EXPECT_TRUE(waitFor([this] { return session.program().state() == QProcess::NotRunning; }));
-        EXPECT_EQ(session.program().exitCode(), 0);
+        EXPECT_EQ(session.program().exitCode(), 0) << session.log().join(u'\n').toStdString();
         EXPECT_TRUE(waitFor([this] { return !item(); }));
     }
 }

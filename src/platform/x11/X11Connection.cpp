@@ -8,6 +8,25 @@
 using namespace Qt::StringLiterals;
 
 namespace velmora {
+namespace {
+
+[[noreturn]] void endWithTheServer() {
+    Log::write(u"The X server went away; Velmora ends."_s);
+    std::_Exit(EXIT_FAILURE);
+}
+
+QtMessageHandler previousHandler = nullptr;
+
+/// Qt's own connection may notice first. It then says so and runs destructors that would need the
+/// server, each with a complaint of its own.
+void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (message.startsWith("The X11 connection broke"_L1))
+        endWithTheServer();
+    if (previousHandler)
+        previousHandler(type, context, message);
+}
+
+} // namespace
 
 std::unique_ptr<X11Connection> X11Connection::open() {
     int screenNumber = 0;
@@ -65,6 +84,7 @@ X11Connection::Subscription X11Connection::subscribe(Listener listener) {
 }
 
 void X11Connection::startDelivery() {
+    previousHandler = qInstallMessageHandler(handleMessage);
     notifier_ = std::make_unique<QSocketNotifier>(
         xcb_get_file_descriptor(connection_), QSocketNotifier::Read);
     QObject::connect(
@@ -88,10 +108,8 @@ void X11Connection::deliverEvents() {
     listeners_.remove_if([](const Listener& listener) { return !listener; });
     delivering_ = false;
     xcb_flush(connection_);
-    if (xcb_connection_has_error(connection_)) {
-        Log::write(u"The X server went away; Velmora ends."_s);
-        std::_Exit(EXIT_FAILURE);
-    }
+    if (xcb_connection_has_error(connection_))
+        endWithTheServer();
 }
 
 } // namespace velmora

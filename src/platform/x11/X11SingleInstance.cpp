@@ -30,8 +30,9 @@ private:
     X11Connection& connection_;
 };
 
-/// Returns once the server has carried out all that was asked before.
-void waitForServer(X11Connection& connection) {
+/// Returns when the server has carried out all requests so far. One that closes its connection
+/// earlier can lose what it sent last.
+void awaitServer(X11Connection& connection) {
     const XcbOwned<xcb_get_input_focus_reply_t> reply(
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
@@ -54,8 +55,7 @@ void askToComeForward(X11Connection& connection, xcb_window_t window) {
     xcb_send_event(
         connection, false, window, XCB_EVENT_MASK_NO_EVENT,
         reinterpret_cast<const char*>(&message));
-    // This launch ends next, and the server drops what it has not read of a connection that closed.
-    waitForServer(connection);
+    awaitServer(connection);
 }
 
 /// Waits for the end of `window`, whose structure events are selected; false after `deadline`.
@@ -122,7 +122,7 @@ void X11SingleInstance::makeRoom() {
         connection_, XCB_PROP_MODE_REPLACE, window_, connection_.atom(kMakesRoom),
         XCB_ATOM_CARDINAL, 32, 0, nullptr);
     // In force before the next launch looks.
-    waitForServer(connection_);
+    awaitServer(connection_);
 }
 
 void X11SingleInstance::handle(const xcb_generic_event_t& event) {

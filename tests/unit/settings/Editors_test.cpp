@@ -194,13 +194,16 @@ TEST_F(EditorTest, ReturnIsAKeyLikeAnyOtherWhileAButtonsKeysAreRecorded) {
     EXPECT_EQ(saved_.size(), 1);
 }
 
-TEST_F(EditorTest, ReturnSavesAMouseBindingWhileItsKeysAreRecorded) {
+TEST_F(EditorTest, ReturnSavesAMouseBindingUnlessTheTapTakesIt) {
     MouseBindingEditorView& editor = openMouse();
     choose(editor, ActionType::pressKey);
+    EXPECT_TRUE(editor.saveButton().isDefault());
     taps_.sendKey(36, 0, u"\r"_s);
-    EXPECT_TRUE(savedBindings_.isEmpty()) << "nothing to save yet";
+    EXPECT_EQ(editor.actionForm().fields().keyValue, u"Return"_s);
+    EXPECT_TRUE(savedBindings_.isEmpty());
     taps_.sendKey(45, kCGEventFlagMaskCommand, u"n"_s);
-    taps_.sendKey(36, 0, u"\r"_s);
+    taps_.disable(*taps_.taps.front(), EventType::tapDisabledByUserInput);
+    QTest::keyClick(&editor.actionForm().keyCapture().view(), Qt::Key_Return);
     ASSERT_EQ(savedBindings_.size(), 1);
     EXPECT_EQ(savedBindings_[0].buttonNumber, 3);
     EXPECT_EQ(savedBindings_[0].action, ShortcutAction(PressKeyCombo{{u"Command"_s}, u"N"_s}));
