@@ -7,8 +7,10 @@ build_packages=(
     libgl-dev libxcb1-dev libxcb-xkb-dev libxcb-xtest0-dev libxcb-xinput-dev libxcb-shape0-dev
     libxcb-randr0-dev libxkbcommon-dev libxkbcommon-x11-dev libglib2.0-dev bootstrap-icons
 )
-# To use it: the shell for commands, a font, and the desktop's default handlers.
-runtime_packages=(zsh fonts-dejavu-core libqt6svg6 shared-mime-info desktop-file-utils)
+# To use it: the shell for commands, a font, the texts of Qt's own menus, default handlers.
+runtime_packages=(
+    zsh fonts-dejavu-core libqt6svg6 qt6-translations-l10n shared-mime-info desktop-file-utils
+)
 # For the guided session of ./run on a machine without a display.
 demo_packages=(xvfb openbox xdotool imagemagick x11-utils fonts-noto-cjk)
 # For ./test.

@@ -1,6 +1,7 @@
 #include "foundation/LocalizedString.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -26,12 +27,18 @@ void installLocalizedStrings() {
         const QString code = language.section(u'-', 0, 0);
         if (code == "en"_L1)
             return;
-        auto* translator = new QTranslator(QCoreApplication::instance());
-        if (translator->load(QLocale(language), u":/strings/velmora"_s, u"_"_s)) {
-            QCoreApplication::installTranslator(translator);
+        const auto installFor = [&](const QString& name, const QString& directory) {
+            auto* translator = new QTranslator(QCoreApplication::instance());
+            if (translator->load(QLocale(language), name, u"_"_s, directory))
+                return QCoreApplication::installTranslator(translator);
+            delete translator;
+            return false;
+        };
+        if (installFor(u"velmora"_s, u":/strings"_s)) {
+            // The menu a text field opens with the secondary button is Qt's, and so are its texts.
+            installFor(u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
             return;
         }
-        delete translator;
     }
 }
 

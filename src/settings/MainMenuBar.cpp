@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -41,6 +42,12 @@ MainMenuBar::MainMenuBar(const QList<MenuModel>& menus, QWidget* parent) : QMenu
         QMenu* menu = addMenu(literal(model.title.isEmpty() ? u"Velmora"_s : model.title));
         addEntries(*menu, model.entries);
     }
+    auto* open = new QShortcut(Qt::Key_F10, this);
+    connect(open, &QShortcut::activated, this, [this] { setActiveAction(actions().value(0)); });
+}
+
+bool MainMenuBar::eventFilter(QObject* /*object*/, QEvent* /*event*/) {
+    return false;
 }
 
 void MainMenuBar::addEntries(QMenu& menu, const QList<MenuEntry>& entries) {

@@ -8,11 +8,16 @@ namespace velmora {
 
 /// The application's main menu as a window's menu bar. Messages of editing ("copy:", …) act on the
 /// field with the keyboard focus and are off while there is none; all others are sent as action
-/// messages.
+/// messages. F10 opens it from the keyboard; Alt alone does not, being the hot key's modifier: its
+/// release after Option+M would take the keyboard away from the window.
 class MainMenuBar : public QMenuBar {
     Q_OBJECT
 public:
     explicit MainMenuBar(const QList<MenuModel>& menus, QWidget* parent = nullptr);
+
+protected:
+    /// Where the base class watches for Alt.
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void addEntries(QMenu& menu, const QList<MenuEntry>& entries);

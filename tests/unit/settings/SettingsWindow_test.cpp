@@ -22,6 +22,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -159,6 +160,24 @@ TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
     window_.showAboutPanel();
     window_.showAboutPanel();
     EXPECT_EQ(window_.window()->findChildren<AboutView*>().size(), 1);
+    window_.close();
+}
+
+TEST_F(SettingsWindowTest, AltIsTheHotKeysAndF10OpensTheMenuBar) {
+    window_.setMainMenu({{u""_s, {{u"About"_s, u"testMessage:"_s, {}}}}});
+    window_.show();
+    QWidget& window = *window_.window();
+    QApplication::setActiveWindow(&window);
+    const auto* bar = window.findChild<MainMenuBar*>();
+    QWidget* focused = QApplication::focusWidget();
+    ASSERT_TRUE(focused);
+    // The M between press and release is the hot key's: the window never sees it.
+    QTest::keyPress(&window, Qt::Key_Alt);
+    QTest::keyRelease(&window, Qt::Key_Alt, Qt::AltModifier);
+    EXPECT_FALSE(bar->activeAction());
+    EXPECT_EQ(QApplication::focusWidget(), focused);
+    QTest::keyClick(&window, Qt::Key_F10);
+    EXPECT_EQ(bar->activeAction(), bar->actions()[0]);
     window_.close();
 }
 
