@@ -2,13 +2,26 @@
 
 #include "settings/AppInfo.h"
 
+#include <QImage>
 #include <QPixmapCache>
+#include <algorithm>
 
 namespace velmora {
 namespace {
 
 QString key(const AppInfo& app, double devicePixelRatio) {
     return app.path + u'@' + QString::number(devicePixelRatio);
+}
+
+/// Whether nothing can be seen: a drawing that the picture reader does not understand.
+bool isBlank(const QPixmap& pixmap) {
+    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_Alpha8);
+    for (int y = 0; y < image.height(); ++y) {
+        const uchar* line = image.constScanLine(y);
+        if (std::any_of(line, line + image.width(), [](uchar alpha) { return alpha != 0; }))
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -23,9 +36,10 @@ std::optional<QPixmap> AppIcons::find(const AppInfo& app, double devicePixelRati
 }
 
 void AppIcons::load(const AppInfo& app, double devicePixelRatio) {
-    pixmaps_.insert(
-        key(app, devicePixelRatio),
-        new QPixmap(app.getIcon().pixmap(QSize(side, side), devicePixelRatio)));
+    QPixmap pixmap = app.getIcon().pixmap(QSize(side, side), devicePixelRatio);
+    if (isBlank(pixmap))
+        pixmap = {};
+    pixmaps_.insert(key(app, devicePixelRatio), new QPixmap(std::move(pixmap)));
 }
 
 } // namespace velmora
