@@ -84,6 +84,14 @@ TEST(Bar, ShowsTitlesOfAnyShape) {
 TEST(Bar, EndsQuietlyWithTheServer) {
     Session session;
     session.launch();
+    // Start-up is over once the hot key, which comes up last, has hidden the bar.
+    EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
+    EXPECT_TRUE(waitFor([&] {
+        session.driver().pressKey("LALT");
+        session.driver().tapKey("AB07");
+        session.driver().releaseKey("LALT");
+        return waitFor([&] { return session.buttons().empty(); }, 500);
+    }));
     // Killed, not asked: what a crash of the server looks like.
     session.display().kill();
     EXPECT_TRUE(waitFor([&] { return session.program().state() == QProcess::NotRunning; }));
