@@ -398,7 +398,7 @@ TEST_P(WindowManager, SwitchesWindowsAndLeavesNoSwitcherOpen) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Keyboard, WindowManager, testing::Values("openbox", "xfwm4"),
+    Keyboard, WindowManager, testing::Values("openbox"),
     [](const auto& manager) { return std::string(manager.param); });
 
 } // namespace
