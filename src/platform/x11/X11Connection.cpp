@@ -4,6 +4,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <cstdlib>
+#include <poll.h>
 
 using namespace Qt::StringLiterals;
 
@@ -16,11 +17,18 @@ namespace {
 }
 
 QtMessageHandler previousHandler = nullptr;
+int watchedDescriptor = -1;
 
-/// Qt's own connection may notice first. It then says so and runs destructors that would need the
-/// server, each with a complaint of its own.
+/// Whether the server has closed our connection.
+bool hasServerGone() {
+    pollfd descriptor{watchedDescriptor, 0, 0};
+    return ::poll(&descriptor, 1, 0) == 1 && descriptor.revents & (POLLHUP | POLLERR);
+}
+
+/// Qt's own connection may notice first. It then complains about each answer that does not come,
+/// and runs destructors that would need the server.
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-    if (message.startsWith("The X11 connection broke"_L1))
+    if (hasServerGone() || message.startsWith("The X11 connection broke"_L1))
         endWithTheServer();
     if (previousHandler)
         previousHandler(type, context, message);
@@ -46,6 +54,7 @@ X11Connection::X11Connection(xcb_connection_t* connection, const xcb_screen_t& s
 
 X11Connection::~X11Connection() {
     QObject::disconnect(aboutToBlock_);
+    watchedDescriptor = -1; // poll() passes over it
     notifier_.reset();
     xcb_disconnect(connection_);
 }
@@ -84,7 +93,9 @@ X11Connection::Subscription X11Connection::subscribe(Listener listener) {
 }
 
 void X11Connection::startDelivery() {
-    previousHandler = qInstallMessageHandler(handleMessage);
+    watchedDescriptor = xcb_get_file_descriptor(connection_);
+    if (!previousHandler)
+        previousHandler = qInstallMessageHandler(handleMessage);
     notifier_ = std::make_unique<QSocketNotifier>(
         xcb_get_file_descriptor(connection_), QSocketNotifier::Read);
     QObject::connect(
