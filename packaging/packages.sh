@@ -5,7 +5,8 @@ build_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     libgl-dev libxcb1-dev libxcb-xkb-dev libxcb-xtest0-dev libxcb-xinput-dev libxcb-shape0-dev
-    libxcb-randr0-dev libxkbcommon-dev libxkbcommon-x11-dev libglib2.0-dev bootstrap-icons
+    libxcb-randr0-dev libxkbcommon-dev libxkbcommon-x11-dev libglib2.0-dev libfontconfig-dev libpng-dev
+    bootstrap-icons
 )
 # To use it: the shell for commands, a font, the texts of Qt's own menus, default handlers.
 runtime_packages=(

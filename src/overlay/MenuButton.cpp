@@ -3,6 +3,7 @@
 #include "foundation/ActionMessages.h"
 #include "foundation/Bundle.h"
 #include "foundation/LocalizedString.h"
+#include "viewkit/PngFile.h"
 #include "viewkit/PopupMenu.h"
 
 #include <QCursor>
@@ -42,7 +43,7 @@ void showMenu() {
 const QImage& cachedMenuIcon() {
     static const QImage icon = [] {
         const auto resourcePath = Bundle::resourcePath();
-        return resourcePath ? QImage(*resourcePath + u"/icon/i-menu-wh.png"_s) : QImage();
+        return resourcePath ? readPng(*resourcePath + u"/icon/i-menu-wh.png"_s) : QImage();
     }();
     return icon;
 }

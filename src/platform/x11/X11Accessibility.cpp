@@ -1,26 +1,25 @@
 #include "platform/x11/X11Accessibility.h"
 
 #include "platform/x11/X11Connection.h"
+#include "platform/x11/Xkb.h"
 
 #include <cstdint>
 #include <xcb/xinput.h>
+#include <xcb/xtest.h>
 
 namespace velmora {
 namespace {
 
-bool serverOffers(X11Connection& connection, const QByteArray& extension) {
-    const auto cookie = xcb_query_extension(
-        connection, static_cast<std::uint16_t>(extension.size()), extension.constData());
-    const XcbOwned<xcb_query_extension_reply_t> reply(
-        xcb_query_extension_reply(connection, cookie, nullptr));
-    return reply && reply->present;
+bool serverOffers(X11Connection& connection, xcb_extension_t& id) {
+    const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection, &id);
+    return extension && extension->present;
 }
 
 bool offersXInput2(X11Connection& connection) {
-    const QByteArray name = "XInputExtension";
-    if (!serverOffers(connection, name))
+    if (!serverOffers(connection, xcb_input_id))
         return false;
     // Asks for the server's version without settling this client's, unlike XIQueryVersion.
+    const QByteArray name = "XInputExtension";
     const auto cookie = xcb_input_get_extension_version(
         connection, static_cast<std::uint16_t>(name.size()), name.constData());
     const XcbOwned<xcb_input_get_extension_version_reply_t> version(
@@ -28,15 +27,23 @@ bool offersXInput2(X11Connection& connection) {
     return version && version->server_major >= 2;
 }
 
+bool isXwayland(X11Connection& connection) {
+    const QByteArray name = "XWAYLAND";
+    const XcbOwned<xcb_query_extension_reply_t> reply(xcb_query_extension_reply(
+        connection,
+        xcb_query_extension(connection, static_cast<std::uint16_t>(name.size()), name.constData()),
+        nullptr));
+    return reply && reply->present;
+}
+
 } // namespace
 
 X11Accessibility::X11Accessibility(X11Connection& connection)
     : trusted_(
-          serverOffers(connection, "XTEST") && serverOffers(connection, "XKEYBOARD") &&
+          serverOffers(connection, xcb_test_id) && serverOffers(connection, xcb_xkb_id) &&
           offersXInput2(connection) &&
           !isWaylandSession(
-              serverOffers(connection, "XWAYLAND"), qgetenv("XDG_SESSION_TYPE"),
-              qgetenv("WAYLAND_DISPLAY"))) {}
+              isXwayland(connection), qgetenv("XDG_SESSION_TYPE"), qgetenv("WAYLAND_DISPLAY"))) {}
 
 bool isWaylandSession(
     bool serverIsXwayland, const QByteArray& sessionType, const QByteArray& waylandDisplay) {

@@ -1,10 +1,15 @@
 #include "platform/x11/X11Connection.h"
 
 #include "foundation/Log.h"
+#include "platform/x11/Xkb.h"
 
 #include <QAbstractEventDispatcher>
 #include <cstdlib>
 #include <poll.h>
+#include <xcb/randr.h>
+#include <xcb/shape.h>
+#include <xcb/xinput.h>
+#include <xcb/xtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -46,6 +51,10 @@ std::unique_ptr<X11Connection> X11Connection::open() {
     xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
     while (screenNumber-- > 0 && screens.rem > 1)
         xcb_screen_next(&screens);
+    // One wait for all of them instead of one each.
+    for (xcb_extension_t* extension :
+         {&xcb_input_id, &xcb_randr_id, &xcb_shape_id, &xcb_test_id, &xcb_xkb_id})
+        xcb_prefetch_extension_data(connection, extension);
     return std::unique_ptr<X11Connection>(new X11Connection(connection, *screens.data));
 }
 

@@ -8,10 +8,10 @@ namespace velmora {
 
 /// The appearance that the desktop portal announces ("org.freedesktop.appearance color-scheme"),
 /// and before it answers, or without it, the GNOME interface setting.
-class FreedesktopAppearance : public Appearance {
+class GioAppearance : public Appearance {
 public:
-    FreedesktopAppearance();
-    ~FreedesktopAppearance() override;
+    GioAppearance();
+    ~GioAppearance() override;
 
     void observe(std::function<void(bool prefersDark)> handler) override;
 

@@ -1,10 +1,10 @@
-#include "platform/freedesktop/FreedesktopWorkspace.h"
+#include "platform/gio/GioWorkspace.h"
 
 #include "foundation/MainQueue.h"
 #include "platform/freedesktop/ApplicationRoles.h"
 #include "platform/freedesktop/DesktopEntryListing.h"
-#include "platform/freedesktop/DesktopLaunch.h"
-#include "platform/freedesktop/GioPointer.h"
+#include "platform/gio/DesktopLaunch.h"
+#include "platform/gio/GioPointer.h"
 
 #include <QFile>
 #include <QThread>
@@ -45,12 +45,12 @@ void runAside(std::function<void()> task) {
 
 } // namespace
 
-std::optional<QString> FreedesktopWorkspace::applicationLocation(const QString& identifier) const {
+std::optional<QString> GioWorkspace::applicationLocation(const QString& identifier) const {
     const QStringList locations = applicationLocations(identifier);
     return locations.isEmpty() ? std::nullopt : std::optional(locations.first());
 }
 
-QStringList FreedesktopWorkspace::applicationLocations(const QString& identifier) const {
+QStringList GioWorkspace::applicationLocations(const QString& identifier) const {
     QStringList locations;
     if (identifier.isEmpty())
         return locations;
@@ -66,11 +66,11 @@ QStringList FreedesktopWorkspace::applicationLocations(const QString& identifier
     return locations;
 }
 
-QList<InstalledApplication> FreedesktopWorkspace::installedApplications() const {
+QList<InstalledApplication> GioWorkspace::installedApplications() const {
     return DesktopEntryListing::ofSession().applications();
 }
 
-void FreedesktopWorkspace::openApplication(
+void GioWorkspace::openApplication(
     const QString& location, const OpenConfiguration&, OpenCompletion completion) {
     runAside([location, completion = std::move(completion)] {
         MainQueue::submit([completion, failure = DesktopLaunch::openApplication(location)] {
@@ -79,7 +79,7 @@ void FreedesktopWorkspace::openApplication(
     });
 }
 
-bool FreedesktopWorkspace::openUrl(const QUrl& url) {
+bool GioWorkspace::openUrl(const QUrl& url) {
     if (url.isRelative())
         return false;
     runAside([text = url.toEncoded()] { DesktopLaunch::openUrl(text); });

@@ -1,7 +1,7 @@
-#include "platform/freedesktop/DesktopLaunch.h"
+#include "platform/gio/DesktopLaunch.h"
 
-#include "platform/freedesktop/GioPointer.h"
 #include "platform/freedesktop/TerminalCommand.h"
+#include "platform/gio/GioPointer.h"
 
 #include <QFile>
 #include <QFileInfo>

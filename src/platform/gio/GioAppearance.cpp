@@ -1,4 +1,4 @@
-#include "platform/freedesktop/FreedesktopAppearance.h"
+#include "platform/gio/GioAppearance.h"
 
 #include "platform/freedesktop/SessionBus.h"
 
@@ -33,7 +33,7 @@ std::optional<unsigned> unwrapped(GVariant* value) {
 } // namespace
 
 /// What the answers come from. Handlers run on the main thread, from GLib's main context.
-struct FreedesktopAppearance::Sources {
+struct GioAppearance::Sources {
     std::function<void(bool)> handler;
     GSettings* gnome = nullptr;
     GDBusConnection* bus = nullptr;
@@ -132,10 +132,10 @@ struct FreedesktopAppearance::Sources {
     }
 };
 
-FreedesktopAppearance::FreedesktopAppearance() = default;
-FreedesktopAppearance::~FreedesktopAppearance() = default;
+GioAppearance::GioAppearance() = default;
+GioAppearance::~GioAppearance() = default;
 
-void FreedesktopAppearance::observe(std::function<void(bool prefersDark)> handler) {
+void GioAppearance::observe(std::function<void(bool prefersDark)> handler) {
     sources_ = std::make_unique<Sources>();
     sources_->handler = std::move(handler);
     sources_->openGnome();

@@ -1,4 +1,4 @@
-#include "platform/freedesktop/FreedesktopWorkspace.h"
+#include "platform/gio/GioWorkspace.h"
 
 #include "platform/freedesktop/ApplicationRoles.h"
 
@@ -21,7 +21,7 @@ namespace {
 const bool isolated = qputenv("XDG_DATA_DIRS", "/nonexistent") &&
                       qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
 
-class FreedesktopWorkspaceTest : public testing::Test {
+class GioWorkspaceTest : public testing::Test {
 protected:
     using Location = std::optional<QString>;
 
@@ -41,12 +41,12 @@ protected:
     }
 
     test::ApplicationsFolder folder;
-    FreedesktopWorkspace workspace;
+    GioWorkspace workspace;
 };
 
 } // namespace
 
-TEST_F(FreedesktopWorkspaceTest, FindsEntriesByIdentifier) {
+TEST_F(GioWorkspaceTest, FindsEntriesByIdentifier) {
     const QString plain = folder.add(u"editor"_s);
     const QString reversed = folder.add(u"org.example.Editor"_s);
     folder.add(u"gone"_s, {u"Exec=/nonexistent/program"_s});
@@ -80,7 +80,7 @@ TEST_F(FreedesktopWorkspaceTest, FindsEntriesByIdentifier) {
     EXPECT_TRUE(becomes(u"late"_s, {}));
 }
 
-TEST_F(FreedesktopWorkspaceTest, FindsWhatPlaysAWellKnownApplication) {
+TEST_F(GioWorkspaceTest, FindsWhatPlaysAWellKnownApplication) {
     const QString browser = folder.add(u"browser"_s);
     const QString other = folder.add(u"other"_s);
     const QString chromium = folder.add(u"chromium"_s);
@@ -101,7 +101,7 @@ TEST_F(FreedesktopWorkspaceTest, FindsWhatPlaysAWellKnownApplication) {
     EXPECT_EQ(workspace.applicationLocations(u"com.google.Chrome"_s), (QStringList{own, chromium}));
 }
 
-TEST_F(FreedesktopWorkspaceTest, StartsTheProgramAsItsEntrySays) {
+TEST_F(GioWorkspaceTest, StartsTheProgramAsItsEntrySays) {
     const QString location = folder.add(
         u"app"_s, {u"Icon=icon"_s, u"Path=%1"_s.arg(folder.file(QString())),
                    u"Exec=env VIA=%% %1 \"two words\" %f %U %i"_s.arg(folder.program())});
@@ -115,7 +115,7 @@ TEST_F(FreedesktopWorkspaceTest, StartsTheProgramAsItsEntrySays) {
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "it is a child of ours";
 }
 
-TEST_F(FreedesktopWorkspaceTest, RunsTerminalProgramsInTheTerminalEmulator) {
+TEST_F(GioWorkspaceTest, RunsTerminalProgramsInTheTerminalEmulator) {
     const QByteArray path = qgetenv("PATH");
     const QString tools = folder.file(u"bin"_s);
     QDir().mkpath(tools);
@@ -135,7 +135,7 @@ TEST_F(FreedesktopWorkspaceTest, RunsTerminalProgramsInTheTerminalEmulator) {
     qputenv("PATH", path);
 }
 
-TEST_F(FreedesktopWorkspaceTest, SaysWhyAnApplicationDoesNotStart) {
+TEST_F(GioWorkspaceTest, SaysWhyAnApplicationDoesNotStart) {
     folder.write(folder.file(u"data"_s), u"not a program"_s);
     const struct {
         QString location, error;
@@ -156,7 +156,7 @@ TEST_F(FreedesktopWorkspaceTest, SaysWhyAnApplicationDoesNotStart) {
             << qPrintable(location + u": "_s + open(location).value_or(u"started"_s));
 }
 
-TEST_F(FreedesktopWorkspaceTest, OpensUrlsWithTheDefaultHandler) {
+TEST_F(GioWorkspaceTest, OpensUrlsWithTheDefaultHandler) {
     folder.add(u"handler"_s, {u"Exec=%1 %u"_s.arg(folder.program())});
     const struct {
         QString type;
@@ -196,7 +196,7 @@ public Q_SLOTS:
 
 } // namespace
 
-TEST_F(FreedesktopWorkspaceTest, ActivatesOverTheBus) {
+TEST_F(GioWorkspaceTest, ActivatesOverTheBus) {
     const QStringList lines{u"DBusActivatable=true"_s, u"Exec="_s + folder.program()};
     const QString present = folder.add(u"org.example.Present"_s, lines);
     const QString absent = folder.add(u"org.example.Absent"_s, lines);
@@ -238,4 +238,4 @@ TEST(ApplicationRoles, KnowsExactIdentifiersOnly) {
         EXPECT_TRUE(applicationRole(unknown).isEmpty());
 }
 
-#include "FreedesktopWorkspace_test.moc"
+#include "GioWorkspace_test.moc"

@@ -8,7 +8,7 @@ namespace velmora {
 /// of a desktop entry, with or without ".desktop", or else that of a well-known application for
 /// which a substitute is found (applicationRole). Changes of entries and handlers made while the
 /// program runs are noticed.
-class FreedesktopWorkspace : public Workspace {
+class GioWorkspace : public Workspace {
 public:
     std::optional<QString> applicationLocation(const QString& identifier) const override;
     QStringList applicationLocations(const QString& identifier) const override;
