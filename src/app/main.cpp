@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 using namespace velmora;
 
 int main(int argc, char** argv) {
-    // What a short thread allocates must not keep a heap of its own: that is a third more memory.
+    // One heap: what a short thread allocates would keep another one.
     mallopt(M_ARENA_MAX, 1);
     // Before Qt, which aborts without a display.
     const auto session = X11Session::create();
