@@ -242,7 +242,7 @@
     </message>
     <message id="placeholder_sf_symbol">
         <source></source>
-        <translation>Name eines Symbols, etwa star</translation>
+        <translation>Name eines Symbols, z. B. star</translation>
     </message>
     <message id="placeholder_url">
         <source></source>
@@ -258,7 +258,7 @@
     </message>
     <message id="settings_tab_velmora">
         <source></source>
-        <translation>Leistenknöpfe</translation>
+        <translation>Knöpfe</translation>
     </message>
     <message id="shortcut_add_title">
         <source></source>
@@ -296,21 +296,21 @@
     <message id="tos.content">
         <source></source>
         <extracomment>Terms of Service Content</extracomment>
-        <translation>Bitte lesen Sie diese wenigen Zeilen, bevor Sie Velmora benutzen.
+        <translation>Bitte lesen Sie die folgenden Hinweise, bevor Sie Velmora benutzen.
 
 Was Velmora beobachtet
-Velmora bittet Ihren Desktop nur um zwei Arten von Eingaben: die Tastenkombination Option+M (Alt+M) und das Drücken der zusätzlichen Maustasten, die Sie belegen. Während Sie in den Einstellungen eine Tastenkombination aufzeichnen, sieht es auch die Tasten, die Sie dort drücken. Was Sie tippen oder anklicken, wird nicht festgehalten.
+Velmora empfängt von Ihrem Desktop nur zwei Arten von Eingaben: die Tastenkombination Option+M (Alt+M) und die zusätzlichen Maustasten, die Sie belegt haben. Während Sie in den Einstellungen eine Tastenkombination aufzeichnen, empfängt es auch die Tasten, die Sie dort drücken. Was Sie tippen oder anklicken, wird nicht aufgezeichnet.
 
 Was auf diesem Computer bleibt
-Ihre Knöpfe, Ihre Maustastenbelegung und diese Zustimmung werden in Ihrem eigenen Konfigurationsordner gespeichert. Velmora sammelt nichts und sendet nichts: Es baut selbst keine Netzwerkverbindung auf. Webseiten, die Ihre Knöpfe öffnen, öffnet Ihr Browser, für den seine eigenen Bedingungen gelten.
+Ihre Knöpfe, Ihre Maustastenbelegung und diese Zustimmung werden in Ihrem eigenen Konfigurationsordner gespeichert. Velmora sammelt nichts und sendet nichts: Es baut selbst keine Netzwerkverbindung auf. Webseiten, die Sie über Ihre Knöpfe aufrufen, öffnet Ihr Browser; dafür gelten dessen eigene Bedingungen.
 
 Was Velmora für Sie tut
-Ein Klick auf einen Knopf oder das Drücken einer belegten Maustaste startet ein Programm, öffnet eine Adresse, führt einen Shell-Befehl aus oder drückt eine Tastenkombination, genau wie Sie es eingerichtet haben. Shell-Befehle laufen mit Ihren Rechten und ohne weitere Rückfrage. Bitte geben Sie nur Befehle ein, die Sie verstehen und denen Sie vertrauen.
+Ein Klick auf einen Knopf oder das Drücken einer belegten Maustaste startet ein Programm, öffnet eine Adresse, führt einen Shell-Befehl aus oder sendet eine Tastenkombination, genau so, wie Sie es eingerichtet haben. Shell-Befehle werden mit Ihren Rechten und ohne weitere Rückfrage ausgeführt. Bitte geben Sie nur Befehle ein, die Sie verstehen und denen Sie vertrauen.
 
 Keine Gewährleistung
 Velmora ist freie Software unter der MIT-Lizenz. Es wird so bereitgestellt, wie es ist, ohne jede Gewährleistung; Sie benutzen es auf eigenes Risiko.
 
-Wenn Sie zustimmen, startet Velmora jetzt und fragt nicht wieder. Wenn nicht, beenden Sie es hier; dann wird nichts gespeichert.</translation>
+Wenn Sie zustimmen, startet Velmora sofort und fragt nicht wieder. Wenn nicht, beenden Sie es hier; dann wird nichts gespeichert.</translation>
     </message>
     <message id="tos.quit">
         <source></source>
@@ -324,13 +324,13 @@ Wenn Sie zustimmen, startet Velmora jetzt und fragt nicht wieder. Wenn nicht, be
     </message>
     <message id="trust_message">
         <source></source>
-        <translation>Dies ist eine Wayland-Sitzung. Sie gibt Tasten und Maustasten nur an das Programm im Vordergrund. Die Leiste und ihre Knöpfe funktionieren; Option+M (Alt+M), belegte Maustasten und gesendete Tastenkombinationen brauchen eine X11-Sitzung.
+        <translation>Dies ist eine Wayland-Sitzung. Darin erhält nur das Programm im Vordergrund Tastendrücke und Mausklicks. Die Leiste und ihre Knöpfe funktionieren; für Option+M (Alt+M), belegte Maustasten und gesendete Tastenkombinationen ist eine X11-Sitzung nötig.
 
 Meist lässt sie sich auf dem Anmeldebildschirm auswählen.</translation>
     </message>
     <message id="trust_title">
         <source></source>
-        <translation>Velmora sieht in dieser Sitzung keine Tasten</translation>
+        <translation>Velmora kann in dieser Sitzung keine Tasten erkennen</translation>
     </message>
     <message id="unknown_version">
         <source></source>
@@ -342,7 +342,7 @@ Meist lässt sie sich auf dem Anmeldebildschirm auswählen.</translation>
     </message>
     <message id="クリア">
         <source></source>
-        <translation>Löschen</translation>
+        <translation>Leeren</translation>
     </message>
     <message id="例: ⌘C, ⌥⇧N, ⌃⌘Space">
         <source></source>

@@ -41,7 +41,7 @@
     </message>
     <message id="action_open_url">
         <source></source>
-        <translation>Abrir dirección</translation>
+        <translation>Abrir URL</translation>
     </message>
     <message id="action_press_key">
         <source></source>
@@ -117,7 +117,7 @@
     </message>
     <message id="label_url">
         <source></source>
-        <translation>Dirección</translation>
+        <translation>URL</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -296,21 +296,21 @@
     <message id="tos.content">
         <source></source>
         <extracomment>Terms of Service Content</extracomment>
-        <translation>Lea estas pocas líneas antes de usar Velmora.
+        <translation>Lea estas líneas antes de usar Velmora.
 
 Qué observa Velmora
-Velmora solo pide a su escritorio dos tipos de entrada: la combinación de teclas Option+M (Alt+M) y las pulsaciones de los botones adicionales del ratón que usted configure. Mientras graba una combinación de teclas en los ajustes, también ve las teclas que pulsa allí. No guarda registro de nada de lo que escribe o pulsa.
+Velmora solo recibe de su escritorio dos tipos de entrada: la combinación de teclas Option+M (Alt+M) y las pulsaciones de los botones adicionales del ratón que usted configure. Mientras graba una combinación de teclas en los ajustes, también recibe las teclas que pulsa allí. No registra nada de lo que escribe ni dónde hace clic.
 
 Qué permanece en este equipo
-Sus botones, sus botones del ratón y esta aceptación se guardan en su propia carpeta de configuración. Velmora no recopila ni envía nada: no abre ninguna conexión de red propia. Las páginas web que abren sus botones las abre su navegador, según sus propias condiciones.
+Sus botones, los botones del ratón que configure y su aceptación se guardan en su propia carpeta de configuración. Velmora no recopila ni envía nada: no establece por sí mismo ninguna conexión de red. Las páginas web que abren sus botones se muestran en su navegador, según las condiciones de este.
 
 Qué hace Velmora por usted
-Un clic en un botón, o la pulsación de un botón del ratón configurado, abre una aplicación, abre una dirección, ejecuta un comando o pulsa una combinación de teclas, exactamente como usted lo haya definido. Los comandos se ejecutan con sus permisos y sin volver a preguntar. Introduzca solo comandos que entienda y en los que confíe.
+Un clic en un botón, o la pulsación de un botón del ratón configurado, abre una aplicación o una URL, ejecuta un comando o envía una combinación de teclas, exactamente como usted lo haya configurado. Los comandos se ejecutan con sus permisos y sin volver a preguntar. Introduzca solo comandos que entienda y en los que confíe.
 
 Sin garantía
-Velmora es software libre con licencia MIT. Se ofrece tal cual, sin garantía de ningún tipo; lo usa por su cuenta y riesgo.
+Velmora es software libre con licencia MIT. Se ofrece tal cual, sin garantía de ningún tipo; usted lo usa por su cuenta y riesgo.
 
-Si acepta, Velmora se inicia ahora y no volverá a preguntar. Si no, salga aquí y no se guardará nada.</translation>
+Si acepta, Velmora se inicia de inmediato y no volverá a preguntar. Si no, salga aquí y no se guardará nada.</translation>
     </message>
     <message id="tos.quit">
         <source></source>
@@ -324,13 +324,13 @@ Si acepta, Velmora se inicia ahora y no volverá a preguntar. Si no, salga aquí
     </message>
     <message id="trust_message">
         <source></source>
-        <translation>Esta es una sesión Wayland, que solo entrega las teclas y los botones del ratón a la aplicación en primer plano. La barra y sus botones funcionan; Opción+M (Alt+M), los botones del ratón asignados y las combinaciones de teclas enviadas necesitan una sesión X11.
+        <translation>Esta es una sesión Wayland, en la que solo la aplicación en primer plano recibe las teclas y los botones del ratón. La barra y sus botones funcionan, pero Option+M (Alt+M), los botones del ratón configurados y el envío de combinaciones de teclas necesitan una sesión X11.
 
 Normalmente puede elegirla en la pantalla de inicio de sesión.</translation>
     </message>
     <message id="trust_title">
         <source></source>
-        <translation>Velmora no ve las teclas en esta sesión</translation>
+        <translation>Velmora no puede detectar las teclas en esta sesión</translation>
     </message>
     <message id="unknown_version">
         <source></source>

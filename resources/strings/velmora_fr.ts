@@ -57,7 +57,7 @@
     </message>
     <message id="alert_shell_title">
         <source></source>
-        <translation>Enregistrer cette commande ?</translation>
+        <translation>Enregistrer cette commande ?</translation>
     </message>
     <message id="button_cancel">
         <source></source>
@@ -299,18 +299,18 @@
         <translation>Veuillez lire ces quelques lignes avant d’utiliser Velmora.
 
 Ce que Velmora observe
-Velmora ne demande à votre bureau que deux sortes d’entrées : la combinaison de touches Option+M (Alt+M) et l’appui sur les boutons supplémentaires de la souris que vous configurez. Pendant que vous enregistrez une combinaison de touches dans les réglages, Velmora voit aussi les touches que vous y pressez. Rien de ce que vous tapez ou cliquez n’est conservé.
+Velmora ne reçoit de votre bureau que deux types d’entrées : la combinaison de touches Option+M (Alt+M) et l’appui sur les boutons supplémentaires de la souris que vous configurez. Pendant que vous enregistrez une combinaison de touches dans les réglages, Velmora reçoit aussi les touches sur lesquelles vous y appuyez. Rien de ce que vous tapez ou de ce sur quoi vous cliquez n’est conservé.
 
 Ce qui reste sur cet ordinateur
-Vos boutons, vos boutons de souris et cet accord sont enregistrés dans votre propre dossier de configuration. Velmora ne collecte rien et n’envoie rien : il n’ouvre lui-même aucune connexion réseau. Les pages web que vos boutons ouvrent le sont par votre navigateur, selon ses propres conditions.
+Vos boutons, vos boutons de souris et votre accord sont enregistrés dans votre propre dossier de configuration. Velmora ne collecte rien et n’envoie rien : il n’ouvre lui-même aucune connexion réseau. Les pages web que vos boutons ouvrent s’affichent dans votre navigateur, selon les conditions de celui-ci.
 
 Ce que Velmora fait pour vous
-Un clic sur un bouton, ou l’appui sur un bouton de souris configuré, lance une application, ouvre une adresse, exécute une commande ou appuie sur une combinaison de touches, exactement comme vous l’avez réglé. Les commandes s’exécutent avec vos droits et sans autre confirmation. N’entrez que des commandes que vous comprenez et auxquelles vous faites confiance.
+Un clic sur un bouton, ou l’appui sur un bouton de souris configuré, lance une application, ouvre une adresse, exécute une commande ou envoie une combinaison de touches, exactement comme vous l’avez configuré. Les commandes s’exécutent avec vos droits et sans autre confirmation. Ne saisissez que des commandes que vous comprenez et auxquelles vous faites confiance.
 
 Aucune garantie
-Velmora est un logiciel libre sous licence MIT. Il est fourni tel quel, sans garantie d’aucune sorte ; vous l’utilisez à vos propres risques.
+Velmora est un logiciel libre sous licence MIT. Il est fourni tel quel, sans garantie d’aucune sorte ; vous l’utilisez à vos propres risques.
 
-Si vous acceptez, Velmora démarre maintenant et ne posera plus la question. Sinon, quittez ici : rien ne sera enregistré.</translation>
+Si vous acceptez, Velmora démarre aussitôt et ne posera plus la question. Sinon, quittez ici : rien ne sera enregistré.</translation>
     </message>
     <message id="tos.quit">
         <source></source>
@@ -324,13 +324,13 @@ Si vous acceptez, Velmora démarre maintenant et ne posera plus la question. Sin
     </message>
     <message id="trust_message">
         <source></source>
-        <translation>Cette session utilise Wayland, qui ne transmet les touches et les boutons de la souris qu’à l’application au premier plan. La barre et ses boutons fonctionnent ; Option+M (Alt+M), les boutons de souris associés et les combinaisons de touches envoyées demandent une session X11.
+        <translation>Cette session utilise Wayland, qui ne transmet les touches et les boutons de la souris qu’à l’application au premier plan. La barre et ses boutons fonctionnent ; Option+M (Alt+M), les boutons de souris configurés et l’envoi de combinaisons de touches nécessitent une session X11.
 
-On peut en général la choisir sur l’écran de connexion.</translation>
+Vous pouvez généralement la choisir sur l’écran de connexion.</translation>
     </message>
     <message id="trust_title">
         <source></source>
-        <translation>Velmora ne voit pas les touches dans cette session</translation>
+        <translation>Velmora ne peut pas détecter les touches dans cette session</translation>
     </message>
     <message id="unknown_version">
         <source></source>

@@ -41,7 +41,7 @@
     </message>
     <message id="action_open_url">
         <source></source>
-        <translation>アドレスを開く</translation>
+        <translation>URLを開く</translation>
     </message>
     <message id="action_press_key">
         <source></source>
@@ -53,7 +53,7 @@
     </message>
     <message id="alert_shell_message">
         <source></source>
-        <translation>Velmoraはこのコマンドをお使いのアカウントの権限で、確認なしに実行します。内容を理解し、信頼できる場合だけ保存してください。</translation>
+        <translation>Velmoraはこのコマンドをお使いのアカウントの権限で、確認なしに実行します。内容を理解し、信頼できる場合にのみ保存してください。</translation>
     </message>
     <message id="alert_shell_title">
         <source></source>
@@ -73,7 +73,7 @@
     </message>
     <message id="button_select">
         <source></source>
-        <translation>選択…</translation>
+        <translation>選択...</translation>
     </message>
     <message id="delete">
         <source></source>
@@ -117,7 +117,7 @@
     </message>
     <message id="label_url">
         <source></source>
-        <translation>アドレス</translation>
+        <translation>URL</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -130,7 +130,7 @@
     </message>
     <message id="menu_settings">
         <source></source>
-        <translation>設定…</translation>
+        <translation>設定...</translation>
     </message>
     <message id="menu_toggle">
         <source></source>
@@ -174,7 +174,7 @@
     </message>
     <message id="mouse_btn_middle">
         <source></source>
-        <translation>中ボタン</translation>
+        <translation>中央ボタン</translation>
     </message>
     <message id="mouse_button">
         <source></source>
@@ -198,7 +198,7 @@
     </message>
     <message id="mouse_click_middle">
         <source></source>
-        <translation>中ボタン</translation>
+        <translation>中央ボタン</translation>
     </message>
     <message id="mouse_click_right">
         <source></source>
@@ -218,19 +218,19 @@
     </message>
     <message id="picker_app_loading">
         <source></source>
-        <translation>アプリケーションを探しています…</translation>
+        <translation>アプリを探しています...</translation>
     </message>
     <message id="picker_app_search">
         <source></source>
-        <translation>アプリケーションを検索</translation>
+        <translation>アプリを検索</translation>
     </message>
     <message id="picker_app_show_all">
         <source></source>
-        <translation>%1個のアプリケーションをすべて表示</translation>
+        <translation>%1個のアプリをすべて表示</translation>
     </message>
     <message id="picker_app_title">
         <source></source>
-        <translation>アプリケーションを選択</translation>
+        <translation>アプリを選択</translation>
     </message>
     <message id="picker_icon_title">
         <source></source>
@@ -278,7 +278,7 @@
     </message>
     <message id="shortcut_edit">
         <source></source>
-        <translation>編集…</translation>
+        <translation>編集...</translation>
     </message>
     <message id="shortcut_edit_title">
         <source></source>
@@ -299,18 +299,18 @@
         <translation>ご利用の前に、以下の内容をお読みください。
 
 Velmoraが検知するもの
-Velmoraが受け取る入力は2種類だけです。キーの組み合わせOption+M（Alt+M）と、ご自身で割り当てたマウスの追加ボタンです。設定画面でキーの組み合わせを記録している間は、そこで押されたキーも受け取ります。入力やクリックの内容を記録に残すことはありません。
+Velmoraが受け取る入力は2種類だけです。Option+M（Alt+M）のキー操作と、ご自身で割り当てたマウスの追加ボタンの操作です。設定画面でキーの組み合わせを登録している間は、そこで押されたキーも受け取ります。入力やクリックの内容を記録に残すことはありません。
 
 このコンピュータに残るもの
 ボタン、マウスの割り当て、そしてこの同意は、ご自身の設定フォルダに保存されます。Velmoraは情報を収集せず、どこにも送信しません。Velmora自身がネットワークに接続することもありません。ボタンで開くWebページはお使いのブラウザが開き、そのブラウザの規約が適用されます。
 
 Velmoraが代わりに行うこと
-ボタンをクリックするか、割り当てたマウスボタンを押すと、設定したとおりにアプリケーションの起動、アドレスを開く操作、シェルコマンドの実行、キー入力を行います。シェルコマンドはお使いのアカウントの権限で、確認なしに実行されます。内容を理解し、信頼できるコマンドだけを登録してください。
+ボタンをクリックするか、割り当てたマウスボタンを押すと、設定した内容に応じて、アプリの起動、URLの表示、シェルコマンドの実行、キー入力のいずれかを行います。シェルコマンドはお使いのアカウントの権限で、確認なしに実行されます。内容を理解し、信頼できるコマンドだけを登録してください。
 
 無保証
 VelmoraはMITライセンスのフリーソフトウェアです。現状のまま提供され、いかなる保証もありません。ご自身の責任でお使いください。
 
-同意するとVelmoraが起動し、次回からこの画面は表示されません。同意しない場合は、ここで終了してください。何も保存されません。</translation>
+同意するとVelmoraがすぐに起動し、次回からこの画面は表示されません。同意しない場合は、ここで終了してください。何も保存されません。</translation>
     </message>
     <message id="tos.quit">
         <source></source>

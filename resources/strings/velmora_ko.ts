@@ -9,7 +9,7 @@
     </message>
     <message id="about_licence">
         <source></source>
-        <translation>© 2026 The Velmora developers. MIT 라이선스를 따르는 자유 소프트웨어입니다.</translation>
+        <translation>© 2026 The Velmora developers. MIT 라이선스에 따라 배포되는 자유 소프트웨어입니다.</translation>
     </message>
     <message id="about_title">
         <source></source>
@@ -41,7 +41,7 @@
     </message>
     <message id="action_open_url">
         <source></source>
-        <translation>주소 열기</translation>
+        <translation>URL 열기</translation>
     </message>
     <message id="action_press_key">
         <source></source>
@@ -53,7 +53,7 @@
     </message>
     <message id="alert_shell_message">
         <source></source>
-        <translation>Velmora가 이 명령을 사용자 권한으로, 다시 묻지 않고 실행합니다. 내용을 이해하고 신뢰하는 경우에만 저장하십시오.</translation>
+        <translation>Velmora는 이 명령을 사용자 권한으로, 다시 묻지 않고 실행합니다. 내용을 이해하고 신뢰할 수 있는 경우에만 저장하십시오.</translation>
     </message>
     <message id="alert_shell_title">
         <source></source>
@@ -73,7 +73,7 @@
     </message>
     <message id="button_select">
         <source></source>
-        <translation>선택…</translation>
+        <translation>선택...</translation>
     </message>
     <message id="delete">
         <source></source>
@@ -105,7 +105,7 @@
     </message>
     <message id="label_icon">
         <source></source>
-        <translation>기호</translation>
+        <translation>아이콘</translation>
     </message>
     <message id="label_key_combo">
         <source></source>
@@ -117,7 +117,7 @@
     </message>
     <message id="label_url">
         <source></source>
-        <translation>주소</translation>
+        <translation>URL</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -130,11 +130,11 @@
     </message>
     <message id="menu_settings">
         <source></source>
-        <translation>설정…</translation>
+        <translation>설정...</translation>
     </message>
     <message id="menu_toggle">
         <source></source>
-        <translation>바 숨기기/보이기</translation>
+        <translation>바 보이기/숨기기</translation>
     </message>
     <message id="mouse_action_label">
         <source></source>
@@ -218,7 +218,7 @@
     </message>
     <message id="picker_app_loading">
         <source></source>
-        <translation>앱을 찾는 중…</translation>
+        <translation>앱을 찾는 중...</translation>
     </message>
     <message id="picker_app_search">
         <source></source>
@@ -234,7 +234,7 @@
     </message>
     <message id="picker_icon_title">
         <source></source>
-        <translation>기호 선택</translation>
+        <translation>아이콘 선택</translation>
     </message>
     <message id="placeholder_app_name">
         <source></source>
@@ -242,7 +242,7 @@
     </message>
     <message id="placeholder_sf_symbol">
         <source></source>
-        <translation>기호 이름(예: star)</translation>
+        <translation>아이콘 이름(예: star)</translation>
     </message>
     <message id="placeholder_url">
         <source></source>
@@ -278,7 +278,7 @@
     </message>
     <message id="shortcut_edit">
         <source></source>
-        <translation>편집…</translation>
+        <translation>편집...</translation>
     </message>
     <message id="shortcut_edit_title">
         <source></source>
@@ -299,13 +299,13 @@
         <translation>Velmora를 사용하기 전에 다음 내용을 읽어 주십시오.
 
 Velmora가 감지하는 것
-Velmora는 데스크톱에 두 가지 입력만 요청합니다. 키 조합 Option+M(Alt+M)과, 사용자가 지정한 추가 마우스 버튼입니다. 설정에서 키 조합을 기록하는 동안에는 그곳에서 누른 키도 받습니다. 입력하거나 클릭한 내용은 기록하지 않습니다.
+Velmora가 받는 입력은 두 가지뿐입니다. Option+M(Alt+M) 키 조합과 사용자가 지정한 추가 마우스 버튼입니다. 설정에서 키 조합을 등록하는 동안에는 그때 누른 키도 받습니다. 입력하거나 클릭한 내용은 기록하지 않습니다.
 
 이 컴퓨터에 남는 것
-버튼, 마우스 설정, 이 동의는 사용자의 설정 폴더에 저장됩니다. Velmora는 아무것도 수집하거나 전송하지 않으며, 스스로 네트워크에 연결하지 않습니다. 버튼으로 여는 웹 페이지는 사용자의 브라우저에서 열리며 해당 브라우저의 약관이 적용됩니다.
+버튼, 마우스 버튼 설정, 동의 여부는 사용자의 설정 폴더에 저장됩니다. Velmora는 아무것도 수집하거나 전송하지 않으며, 스스로 네트워크에 연결하지 않습니다. 버튼으로 여는 웹 페이지는 사용자의 브라우저에서 열리며 해당 브라우저의 약관이 적용됩니다.
 
 Velmora가 대신 하는 일
-버튼을 클릭하거나 지정한 마우스 버튼을 누르면, 설정한 그대로 앱을 실행하거나 주소를 열거나 셸 명령을 실행하거나 키 조합을 누릅니다. 셸 명령은 사용자 권한으로, 다시 묻지 않고 실행됩니다. 이해하고 신뢰하는 명령만 입력하십시오.
+버튼을 클릭하거나 지정한 마우스 버튼을 누르면, 설정한 그대로 앱을 실행하거나 URL을 열거나 셸 명령을 실행하거나 키 조합을 입력합니다. 셸 명령은 사용자 권한으로, 다시 묻지 않고 실행됩니다. 내용을 이해하고 신뢰할 수 있는 명령만 입력하십시오.
 
 보증 없음
 Velmora는 MIT 라이선스를 따르는 자유 소프트웨어입니다. 어떠한 보증도 없이 있는 그대로 제공되며, 사용에 따른 책임은 사용자에게 있습니다.

@@ -45,7 +45,7 @@
     </message>
     <message id="action_press_key">
         <source></source>
-        <translation>按下按键</translation>
+        <translation>按下组合键</translation>
     </message>
     <message id="add">
         <source></source>
@@ -109,7 +109,7 @@
     </message>
     <message id="label_key_combo">
         <source></source>
-        <translation>按键</translation>
+        <translation>组合键</translation>
     </message>
     <message id="label_title">
         <source></source>
@@ -134,7 +134,7 @@
     </message>
     <message id="menu_toggle">
         <source></source>
-        <translation>显示或隐藏栏</translation>
+        <translation>显示或隐藏快捷栏</translation>
     </message>
     <message id="mouse_action_label">
         <source></source>
@@ -142,7 +142,7 @@
     </message>
     <message id="mouse_add_title">
         <source></source>
-        <translation>新建鼠标按键</translation>
+        <translation>添加鼠标按键</translation>
     </message>
     <message id="mouse_btn_4">
         <source></source>
@@ -258,11 +258,11 @@
     </message>
     <message id="settings_tab_velmora">
         <source></source>
-        <translation>栏按钮</translation>
+        <translation>快捷栏按钮</translation>
     </message>
     <message id="shortcut_add_title">
         <source></source>
-        <translation>新建按钮</translation>
+        <translation>添加按钮</translation>
     </message>
     <message id="shortcut_alignment_left">
         <source></source>
@@ -286,7 +286,7 @@
     </message>
     <message id="shortcuts_title">
         <source></source>
-        <translation>栏上的按钮</translation>
+        <translation>快捷栏上的按钮</translation>
     </message>
     <message id="tos.agree">
         <source></source>
@@ -298,14 +298,14 @@
         <extracomment>Terms of Service Content</extracomment>
         <translation>使用 Velmora 之前，请阅读以下内容。
 
-Velmora 会接收什么
-Velmora 只向您的桌面请求两类输入：组合键 Option+M（Alt+M），以及您所绑定的鼠标附加按键。您在设置中录制组合键时，它也会接收您在那里按下的按键。Velmora 不会记录您键入或点击的任何内容。
+Velmora 接收的输入
+Velmora 只接收两类输入：组合键 Option+M（Alt+M），以及您绑定的鼠标附加按键。您在设置中录制组合键时，它也会接收您当时按下的按键。Velmora 不会记录您键入或点击的任何内容。
 
-什么会保留在这台电脑上
-您的按钮、鼠标绑定以及此项同意都保存在您自己的配置文件夹中。Velmora 不收集也不发送任何信息，自身不会建立任何网络连接。由按钮打开的网页会在您的浏览器中打开，并适用该浏览器的条款。
+保存在这台电脑上的内容
+您的按钮、鼠标绑定以及您的同意记录都保存在您自己的配置文件夹中。Velmora 不收集也不发送任何信息，自身不会建立任何网络连接。由按钮打开的网页会在您的浏览器中打开，并适用该浏览器的条款。
 
-Velmora 代您做什么
-点击按钮或按下已绑定的鼠标按键，会完全按照您的设置启动应用程序、打开网址、运行 Shell 命令或按下组合键。Shell 命令以您的权限运行，且不再询问。请只输入您了解并信任的命令。
+Velmora 代您执行的操作
+点击按钮或按下已绑定的鼠标按键，会完全按照您的设置启动应用程序、打开网址、运行 Shell 命令或发送组合键。Shell 命令以您的权限运行，且不再询问。请只输入您了解并信任的命令。
 
 不提供担保
 Velmora 是基于 MIT 许可证的自由软件，按原样提供，不附带任何形式的担保；使用风险由您自行承担。
@@ -324,13 +324,13 @@ Velmora 是基于 MIT 许可证的自由软件，按原样提供，不附带任�
     </message>
     <message id="trust_message">
         <source></source>
-        <translation>这是 Wayland 会话，按键和鼠标按钮只会传给最前面的应用程序。栏及其按钮可以使用；Option+M (Alt+M)、已绑定的鼠标按钮以及发送组合键需要 X11 会话。
+        <translation>这是 Wayland 会话，按键和鼠标按键只会传给最前面的应用程序。快捷栏及其按钮可以使用；Option+M（Alt+M）、已绑定的鼠标按键以及发送组合键需要 X11 会话。
 
 通常可以在登录界面选择 X11 会话。</translation>
     </message>
     <message id="trust_title">
         <source></source>
-        <translation>Velmora 在此会话中无法感知按键</translation>
+        <translation>Velmora 在此会话中无法检测按键</translation>
     </message>
     <message id="unknown_version">
         <source></source>
