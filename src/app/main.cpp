@@ -2,6 +2,7 @@
 
 #include "app/AfterFirstPaint.h"
 #include "app/VelmoraApp.h"
+#include "foundation/HomeFolder.h"
 #include "foundation/Log.h"
 #include "platform/EitherTrayHost.h"
 #include "platform/Platform.h"
@@ -23,6 +24,7 @@ using namespace velmora;
 int main(int argc, char** argv) {
     // One heap: what a short thread allocates would keep another one.
     mallopt(M_ARENA_MAX, 1);
+    ensureHomeFolder();
     // Before Qt, which aborts without a display.
     const auto session = X11Session::create();
     if (!session) {
