@@ -5,12 +5,19 @@
 #include <QLabel>
 
 namespace velmora {
+namespace {
+
+constexpr int headlineSize = 15;
+/// Whatever the font: those of some scripts ask for more than their glyphs take.
+constexpr int lineHeight = 18;
+
+} // namespace
 
 QLabel* headline(const QString& text) {
-    constexpr int headlineSize = 15;
     auto* label = new QLabel(text);
     label->setTextFormat(Qt::PlainText);
     label->setFont(Theme::systemFont(headlineSize, QFont::DemiBold));
+    label->setFixedHeight(lineHeight);
     return label;
 }
 

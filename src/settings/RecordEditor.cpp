@@ -34,7 +34,6 @@ RecordEditor::RecordEditor(
     setWindowTitle(texts.heading);
     QLabel* heading = headline(texts.heading);
     heading->setAlignment(Qt::AlignCenter);
-    heading->setContentsMargins(0, padding, 0, 0);
 
     actionForm_ = new ActionForm(
         texts.actionHeading, action ? ActionFields(*action) : ActionFields(), eventTaps);
@@ -63,11 +62,7 @@ RecordEditor::RecordEditor(
             groups->setContentsMargins(padding, 0, padding - bar, 0);
         });
     connect(
-        actionForm_, &ActionForm::typeChanged, this,
-        [this] {
-            scrollArea_->widget()->layout()->activate();
-            scrollArea_->ensureWidgetVisible(actionForm_, 0, 0);
-        },
+        actionForm_, &ActionForm::typeChanged, this, &RecordEditor::scrollToAction,
         Qt::QueuedConnection);
 
     auto* cancel = new QPushButton(localizedString("button_cancel"));
@@ -85,7 +80,7 @@ RecordEditor::RecordEditor(
     buttons->addWidget(save_);
 
     auto* stack = new QVBoxLayout(this);
-    stack->setContentsMargins(0, 0, 0, 0);
+    stack->setContentsMargins(0, padding, 0, 0);
     stack->setSpacing(childSpacing);
     stack->addWidget(heading);
     stack->addWidget(scrollArea_, 1);
@@ -99,6 +94,11 @@ void RecordEditor::finish(QSize size, QWidget* first) {
                        scrollArea_->verticalScrollBar()->sizeHint().width();
     setFixedSize(size.expandedTo(QSize(needed, 0)));
     updateSaveButton();
+}
+
+void RecordEditor::scrollToAction() {
+    scrollArea_->widget()->layout()->activate();
+    scrollArea_->ensureWidgetVisible(actionForm_, 0, 0);
 }
 
 bool RecordEditor::isValid() const {
@@ -126,6 +126,12 @@ void RecordEditor::requestSave() {
             if (self)
                 self->save();
         });
+}
+
+void RecordEditor::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (focusProxy() == &actionForm_->keyCapture())
+        QMetaObject::invokeMethod(this, &RecordEditor::scrollToAction, Qt::QueuedConnection);
 }
 
 void RecordEditor::keyPressEvent(QKeyEvent* event) {

@@ -50,9 +50,13 @@ protected:
     /// action has no say in it.
     void finish(QSize size, QWidget* first);
 
+    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// Brings the group that sets the action into sight.
+    void scrollToAction();
+
     QScrollArea* scrollArea_;
     ActionForm* actionForm_;
     QPushButton* save_;
