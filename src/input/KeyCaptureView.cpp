@@ -66,7 +66,7 @@ protected:
         titleFont.setUnderline(hasFocus() || isHovered());
         painter.setFont(titleFont);
         painter.setOpacity(isDown() ? 0.6 : 1);
-        painter.setPen(palette().highlight().color());
+        painter.setPen(palette().link().color());
         painter.drawText(rect(), Qt::AlignCenter, title_);
     }
 

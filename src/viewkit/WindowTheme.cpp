@@ -21,6 +21,7 @@ struct Colors {
     QColor buttonPressed;
     QColor accent;
     QColor accentHover;
+    QColor accentText; ///< text in the accent colour, on window and base
     QColor scrollHandle;
     QColor disabledText;
     QColor selected; ///< a chosen tab
@@ -40,6 +41,7 @@ const Colors lightColors{
     .buttonPressed = QColor(0xe2e2e7),
     .accent = QColor(0x0a62cf),
     .accentHover = QColor(0x0856b8),
+    .accentText = QColor(0x0a62cf),
     .scrollHandle = QColor(0xb4b4ba),
     .disabledText = QColor(0x9d9da4),
     .selected = QColor(0xdcdce2),
@@ -57,6 +59,7 @@ const Colors darkColors{
     .buttonPressed = QColor(0x303034),
     .accent = QColor(0x2a72dc),
     .accentHover = QColor(0x3a7fe4),
+    .accentText = QColor(0x5c9cf5),
     .scrollHandle = QColor(0x66666d),
     .disabledText = QColor(0x74747b),
     .selected = QColor(0x56565d),
@@ -88,6 +91,7 @@ QPalette palette(const Colors& colors) {
     palette.setColor(QPalette::ButtonText, colors.text);
     palette.setColor(QPalette::Highlight, colors.accent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, colors.accentText);
     palette.setColor(QPalette::Mid, colors.border);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, colors.disabledText);

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
 using velmora::ensureHomeFolder;
 
 namespace {
@@ -19,7 +20,7 @@ private:
 
 TEST_F(HomeFolder, IsThePasswordDatabasesWhenTheEnvironmentNamesNone) {
     QProcess database;
-    database.start("getent", {"passwd", QString::number(::getuid())});
+    database.start(u"getent"_s, {u"passwd"_s, QString::number(::getuid())});
     ASSERT_TRUE(database.waitForFinished());
     const QList<QByteArray> entry = database.readAllStandardOutput().split(':');
     ASSERT_EQ(entry.size(), 7);
