@@ -10,6 +10,20 @@
 using namespace Qt::StringLiterals;
 
 namespace velmora::test {
+namespace {
+
+QString title(const XClient& client, xcb_window_t window) {
+    const auto cookie = xcb_get_property(
+        client, 0, window, client.atom("_NET_WM_NAME"), client.atom("UTF8_STRING"), 0, 100);
+    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(client, cookie, nullptr));
+    if (!reply)
+        return {};
+    return QString::fromUtf8(
+        static_cast<const char*>(xcb_get_property_value(reply.get())),
+        xcb_get_property_value_length(reply.get()));
+}
+
+} // namespace
 
 Session::Session(const Options& options) : options_(options) {
     display_ = std::make_unique<TestDisplay>(options.screen.width(), options.screen.height());
@@ -103,9 +117,10 @@ bool Session::waitForLog(const QString& line, int milliseconds) {
 }
 
 std::optional<TopWindow> Session::bar() {
-    // The program's override-redirect window that is as wide as the screen.
+    // The program's override-redirect window that is as wide as the screen. A window manager's say
+    // nothing about their process.
     for (const TopWindow& window : topWindows(*client_)) {
-        if (window.overrideRedirect && window.mapped &&
+        if (window.overrideRedirect && window.mapped && window.processId != 0 &&
             window.geometry.width() == options_.screen.width())
             return window;
     }
@@ -144,6 +159,20 @@ std::vector<QRect> Session::buttons() {
         }
     }
     return found;
+}
+
+void Session::pressHotKey() {
+    driver_->pressKey("LALT");
+    driver_->tapKey("AB07");
+    driver_->releaseKey("LALT");
+}
+
+bool Session::waitForSettings() {
+    return waitFor([this] {
+        const xcb_window_t active = activeWindow(*client_);
+        return active && title(*client_, active) == u"Velmora 設定"_s &&
+               inputFocus(*client_) == active;
+    });
 }
 
 QString Session::writeFile(const QString& relativePath, const QByteArray& text) {

@@ -57,6 +57,13 @@ public:
     /// background. Pixels; without the menu button, which has none.
     std::vector<QRect> buttons();
 
+    bool isBarShown() { return !buttons().empty(); }
+
+    void pressHotKey();
+
+    /// Waits until the settings window is the active one and has the keyboard focus.
+    bool waitForSettings();
+
     XClient& client() { return *client_; }
     Driver& driver() { return *driver_; }
     TestDisplay& display() { return *display_; }

@@ -16,23 +16,12 @@ namespace {
 constexpr uint8_t shiftLock = XCB_MOD_MASK_LOCK;
 constexpr uint8_t numLock = XCB_MOD_MASK_2;
 
-/// Whether the bar shows itself.
-bool isShown(Session& session) {
-    return !session.buttons().empty();
-}
-
-void pressHotKey(Driver& driver) {
-    driver.pressKey("LALT");
-    driver.tapKey("AB07");
-    driver.releaseKey("LALT");
-}
-
 /// Holds the hot key, as hands do, until the bar is hidden or shown; then lets go.
 testing::AssertionResult toggles(Session& session) {
-    const bool before = isShown(session);
+    const bool before = session.isBarShown();
     session.driver().pressKey("LALT");
     session.driver().pressKey("AB07");
-    const bool changed = waitFor([&] { return isShown(session) != before; });
+    const bool changed = waitFor([&] { return session.isBarShown() != before; });
     session.driver().releaseKey("AB07");
     session.driver().releaseKey("LALT");
     if (changed)
@@ -43,7 +32,7 @@ testing::AssertionResult toggles(Session& session) {
 TEST(HotKey, TogglesOnEveryLayoutAndTheApplicationInFrontKeepsTheRest) {
     Session session;
     session.launch();
-    EXPECT_TRUE(waitFor([&] { return isShown(session); }));
+    EXPECT_TRUE(waitFor([&] { return session.isBarShown(); }));
     Witness witness;
     const xcb_window_t focus = inputFocus(session.client());
     const uint8_t keyM = session.driver().keycode("AB07");
@@ -77,7 +66,7 @@ TEST(HotKey, TogglesOnEveryLayoutAndTheApplicationInFrontKeepsTheRest) {
 TEST(HotKey, WorksWhileTheBarsMenuIsOpen) {
     Session session;
     session.launch();
-    EXPECT_TRUE(waitFor([&] { return isShown(session); }));
+    EXPECT_TRUE(waitFor([&] { return session.isBarShown(); }));
     const size_t windows = topWindows(session.client()).size();
     session.driver().move(24, 12);
     session.driver().click();
@@ -95,17 +84,17 @@ TEST(HotKey, PressedDuringStartsNeverFreezesTheKeyboard) {
         Witness witness;
         session.launch(Session::Launch::WithoutWaiting);
         while (!session.bar())
-            pressHotKey(session.driver());
+            session.pressHotKey();
         // Whatever came of those presses, the key works now, and others reach the front.
         EXPECT_TRUE(waitFor([&] { return isKeyboardFree(session.client()); }));
         witness.clear();
         session.driver().tapKey("AC01");
         EXPECT_TRUE(witness.waitForInput(2));
         EXPECT_TRUE(waitFor([&] {
-            pressHotKey(session.driver());
-            const bool before = isShown(session);
-            pressHotKey(session.driver());
-            return waitFor([&] { return isShown(session) != before; }, 300);
+            session.pressHotKey();
+            const bool before = session.isBarShown();
+            session.pressHotKey();
+            return waitFor([&] { return session.isBarShown() != before; }, 300);
         }));
         EXPECT_FALSE(isAnythingDown(session.client()));
     }

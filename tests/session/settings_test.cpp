@@ -23,20 +23,6 @@ protected:
             key(position);
     }
 
-    QString title(xcb_window_t window) {
-        XClient& client = session_.client();
-        const auto cookie = xcb_get_property(
-            client, 0, window, client.atom("_NET_WM_NAME"), client.atom("UTF8_STRING"), 0, 100);
-        const Reply<xcb_get_property_reply_t> reply(
-            xcb_get_property_reply(client, cookie, nullptr));
-        if (!reply)
-            return {};
-        return QString::fromUtf8(
-            static_cast<const char*>(xcb_get_property_value(reply.get())),
-            xcb_get_property_value_length(reply.get()));
-    }
-    bool isSettings(xcb_window_t window) { return window && title(window) == u"Velmora 設定"_s; }
-
     /// Where the window's own content begins on the screen.
     QPoint origin(xcb_window_t window) {
         XClient& client = session_.client();
@@ -53,7 +39,7 @@ protected:
         driver.click();
         EXPECT_TRUE(waitForMenu(true));
         keys({"DOWN", "DOWN", "RTRN"});
-        EXPECT_TRUE(waitForSettings());
+        EXPECT_TRUE(session_.waitForSettings());
         return activeWindow(session_.client());
     }
 
@@ -62,16 +48,10 @@ protected:
     }
 
     /// Waits for a sheet over the settings window.
-    bool waitForSheet() {
+    bool waitForSheet(xcb_window_t settings) {
         return waitFor([&] {
             const xcb_window_t active = activeWindow(session_.client());
-            return active && !isSettings(active) && inputFocus(session_.client()) == active;
-        });
-    }
-    bool waitForSettings() {
-        return waitFor([&] {
-            const xcb_window_t active = activeWindow(session_.client());
-            return isSettings(active) && inputFocus(session_.client()) == active;
+            return active && active != settings && inputFocus(session_.client()) == active;
         });
     }
 
@@ -88,16 +68,16 @@ protected:
 
 TEST_F(SettingsTest, AnAddedButtonIsOnTheBarAtOnceAndOutlivesACrash) {
     ASSERT_TRUE(waitForButtons(4));
-    openSettings();
+    const xcb_window_t settings = openSettings();
     keys({"TAB", "SPCE"}); // from the list to Add
-    ASSERT_TRUE(waitForSheet());
+    ASSERT_TRUE(waitForSheet(settings));
     keys({"AC03", "AD09", "AB03", "AC02"});     // "docs"
     keys({"TAB", "TAB", "TAB", "TAB", "DOWN"}); // to the action's type, and open its menu
     ASSERT_TRUE(waitForMenu(true));
     keys({"DOWN", "RTRN"}); // open an address
     ASSERT_TRUE(waitForMenu(false));
     keys({"TAB", "AB02", "AB02", "RTRN"}); // "xx", and save
-    ASSERT_TRUE(waitForSettings());
+    ASSERT_TRUE(session_.waitForSettings());
     ASSERT_TRUE(waitForButtons(5));
     EXPECT_TRUE(storedText().contains(u"\"docs\""_s)) << qPrintable(storedText());
     EXPECT_TRUE(storedText().contains(u"{\"openURL\":{\"url\":\"xx\"}}"_s));

@@ -90,7 +90,6 @@ protected:
                 return window;
         return std::nullopt;
     }
-    bool isBarShown() { return !session.buttons().empty(); }
 
     /// Clicks the item until its menu is there: a tray may still be arranging itself.
     bool openMenu(uint8_t button) {
@@ -113,7 +112,9 @@ private:
 
 protected:
     Session session{
-        {.screen = {1000, 700}, .environment = {u"DBUS_SESSION_BUS_ADDRESS="_s + busAddress_}}};
+        {.screen = {1000, 700},
+         .windowManager = GetParam() == Kind::Embedding ? u"openbox"_s : u"xfwm4"_s,
+         .environment = {u"DBUS_SESSION_BUS_ADDRESS="_s + busAddress_}}};
 
 private:
     static void end(QProcess& process) {
@@ -148,18 +149,42 @@ TEST_P(Tray, HasAMenuForPointerAndKeys) {
         const QRect place = menu()->geometry;
         session.driver().move(place.left() + 60, place.top() + 18);
         session.driver().click();
-        EXPECT_TRUE(waitFor([this] { return !isBarShown(); })) << "the first entry hides the bar";
+        EXPECT_TRUE(waitFor([this] { return !session.isBarShown(); }))
+            << "the first entry hides the bar";
         EXPECT_TRUE(waitForNoMenu());
 
         ASSERT_TRUE(openMenu(button));
         session.driver().tapKey("DOWN");
         session.driver().tapKey("RTRN");
-        EXPECT_TRUE(waitFor([this] { return isBarShown(); })) << "and shows it again";
+        EXPECT_TRUE(waitFor([this] { return session.isBarShown(); })) << "and shows it again";
         EXPECT_TRUE(waitForNoMenu());
 
         ASSERT_TRUE(openMenu(button));
         session.driver().tapKey("ESC");
         EXPECT_TRUE(waitForNoMenu());
+    }
+}
+
+TEST_P(Tray, OpensTheSettingsBeforeAnotherApplication) {
+    startTray();
+    session.launch();
+    ASSERT_TRUE(waitForItem());
+    for (const bool isOpen : {false, true}) {
+        SCOPED_TRACE(isOpen ? "open behind" : "not open");
+        Witness witness({0, 100, 1000, 500});
+        session.driver().tapKey("AC01");
+        ASSERT_TRUE(witness.waitForInput(2));
+        witness.markAsInUse();
+        ASSERT_TRUE(openMenu(1));
+        witness.clear();
+        for (const char* const key : {"DOWN", "DOWN", "RTRN"})
+            session.driver().tapKey(key);
+        EXPECT_TRUE(session.waitForSettings());
+        session.driver().tapKey(isOpen ? "HOME" : "END");
+        session.driver().tapKey("DELE");
+        const size_t left = isOpen ? 2 : 3;
+        EXPECT_TRUE(waitFor([&] { return session.buttons().size() == left; }));
+        EXPECT_TRUE(witness.keys().empty());
     }
 }
 

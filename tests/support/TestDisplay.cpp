@@ -62,8 +62,10 @@ void TestDisplay::kill() {
     processes_.front()->waitForFinished();
 }
 
-QProcess& TestDisplay::start(const QString& program, const QStringList& arguments) {
+QProcess& TestDisplay::start(
+    const QString& program, const QStringList& arguments, const QProcessEnvironment& environment) {
     auto process = std::make_unique<QProcess>();
+    process->setProcessEnvironment(environment);
     process->start(program, arguments);
     if (!process->waitForStarted())
         qFatal("%s did not start", qPrintable(program));
@@ -72,7 +74,8 @@ QProcess& TestDisplay::start(const QString& program, const QStringList& argument
 }
 
 QProcess& TestDisplay::startWindowManager(const QString& program) {
-    QProcess& process = start(program);
+    QProcess& process =
+        program == u"xfwm4" ? start(program, {}, makeXfceEnvironment()) : start(program);
     const bool running = waitFor([this] {
         return run(u"xprop"_s, {u"-root"_s, u"_NET_SUPPORTING_WM_CHECK"_s}).contains("window id");
     });
@@ -81,8 +84,27 @@ QProcess& TestDisplay::startWindowManager(const QString& program) {
     return process;
 }
 
-QByteArray TestDisplay::run(const QString& program, const QStringList& arguments) {
+/// A session bus, which xfwm4 keeps its settings behind, and settings that are strict about the
+/// focus: not its default, but the harder case.
+QProcessEnvironment TestDisplay::makeXfceEnvironment() {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"XDG_CONFIG_HOME"_s, xfceSettings_.path());
+    QProcess& bus =
+        start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s}, environment);
+    if (!waitFor([&] { return bus.waitForReadyRead(10) || bus.canReadLine(); }))
+        qFatal("no session bus");
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromUtf8(bus.readLine().trimmed()));
+    run(u"xfconf-query"_s,
+        {u"-c"_s, u"xfwm4"_s, u"-p"_s, u"/general/prevent_focus_stealing"_s, u"-n"_s, u"-t"_s,
+         u"bool"_s, u"-s"_s, u"true"_s},
+        environment);
+    return environment;
+}
+
+QByteArray TestDisplay::run(
+    const QString& program, const QStringList& arguments, const QProcessEnvironment& environment) {
     QProcess process;
+    process.setProcessEnvironment(environment);
     process.start(program, arguments);
     process.waitForFinished();
     return process.readAllStandardOutput();

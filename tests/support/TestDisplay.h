@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QString>
+#include <QTemporaryDir>
 #include <memory>
 #include <vector>
 
@@ -21,16 +23,23 @@ public:
     void kill();
 
     /// Starts `program` on this display and ends it with the object; waits until it runs.
-    QProcess& start(const QString& program, const QStringList& arguments = {});
+    QProcess& start(
+        const QString& program, const QStringList& arguments = {},
+        const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
 
     /// Starts a window manager ("openbox", "xfwm4", …) and waits until it has taken over.
     QProcess& startWindowManager(const QString& program);
 
     /// Runs `program` to its end and gives its standard output.
-    QByteArray run(const QString& program, const QStringList& arguments);
+    QByteArray
+    run(const QString& program, const QStringList& arguments,
+        const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
 
 private:
+    QProcessEnvironment makeXfceEnvironment();
+
     QString name_;
+    QTemporaryDir xfceSettings_;
     std::vector<std::unique_ptr<QProcess>> processes_;
 };
 

@@ -59,6 +59,22 @@ Witness::~Witness() {
     client_.sync();
 }
 
+void Witness::markAsInUse() const {
+    const XClient client; // its own: nothing of what the witness waits for may be lost
+    const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_change_window_attributes(client, window_, XCB_CW_EVENT_MASK, &events);
+    const xcb_atom_t property = client.atom("_NET_WM_USER_TIME");
+    const auto change = [&](uint8_t mode, uint32_t length, const uint32_t* time) {
+        xcb_change_property(client, mode, window_, property, XCB_ATOM_CARDINAL, 32, length, time);
+        xcb_flush(client);
+    };
+    change(XCB_PROP_MODE_APPEND, 0, nullptr);
+    const Reply<xcb_generic_event_t> event(xcb_wait_for_event(client));
+    const uint32_t now = reinterpret_cast<const xcb_property_notify_event_t&>(*event).time;
+    change(XCB_PROP_MODE_REPLACE, 1, &now);
+    client.sync();
+}
+
 void Witness::record(const xcb_generic_event_t& event) {
     const uint8_t type = event.response_type & 0x7f;
     const auto now = std::chrono::steady_clock::now();

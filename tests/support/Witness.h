@@ -26,6 +26,10 @@ public:
 
     xcb_window_t window() const { return window_; }
 
+    /// Marks the window as one that the user works in at this moment, as toolkits do at each key
+    /// press: what makes window managers keep other windows from the focus.
+    void markAsInUse() const;
+
     /// What has arrived so far, all of what the server sent before this call included.
     const std::vector<Event>& events();
     /// The same, only key presses and releases.

@@ -19,40 +19,12 @@ std::vector<const char*> sessions() {
     return names;
 }
 
-namespace {
-
-/// A session bus for as long as the object lives: xfwm4 keeps its settings behind one.
-class SessionBus {
-public:
-    SessionBus() {
-        QProcess& bus = display->start(u"dbus-daemon"_s, {u"--session"_s, u"--print-address"_s});
-        EXPECT_TRUE(waitFor([&] {
-            bus.waitForReadyRead(10);
-            return bus.canReadLine();
-        }));
-        qputenv("DBUS_SESSION_BUS_ADDRESS", bus.readLine().trimmed());
-    }
-    ~SessionBus() { qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); }
-};
-
-QProcess& startXfwm4() {
-    const SessionBus bus;
-    // Strict about the focus: not its default, but the harder case.
-    display->run(
-        u"xfconf-query"_s, {u"-c"_s, u"xfwm4"_s, u"-p"_s, u"/general/prevent_focus_stealing"_s,
-                            u"-n"_s, u"-t"_s, u"bool"_s, u"-s"_s, u"true"_s});
-    return display->startWindowManager(u"xfwm4"_s);
-}
-
-} // namespace
-
 SessionTest::SessionTest() {
     for (const QString& name : QString::fromLatin1(GetParam()).split(u'+')) {
         if (name == u"none")
             continue;
         if (managers_.empty()) {
-            managers_.push_back(
-                name == u"xfwm4" ? &startXfwm4() : &display->startWindowManager(name));
+            managers_.push_back(&display->startWindowManager(name));
             continue;
         }
         managers_.push_back(&display->start(name, {u"--backend"_s, u"xrender"_s}));

@@ -8,23 +8,6 @@
 namespace velmora::test {
 namespace {
 
-/// Marks `window` as one that the user works in at this moment, as toolkits do at each key press:
-/// what makes window managers keep other windows from the focus.
-void markAsInUse(const XClient& client, xcb_window_t window) {
-    const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_change_window_attributes(client, window, XCB_CW_EVENT_MASK, &events);
-    const xcb_atom_t property = client.atom("_NET_WM_USER_TIME");
-    const auto change = [&](uint8_t mode, uint32_t length, const uint32_t* time) {
-        xcb_change_property(client, mode, window, property, XCB_ATOM_CARDINAL, 32, length, time);
-        xcb_flush(client);
-    };
-    change(XCB_PROP_MODE_APPEND, 0, nullptr);
-    const Reply<xcb_generic_event_t> event(xcb_wait_for_event(client));
-    const uint32_t now = reinterpret_cast<const xcb_property_notify_event_t&>(*event).time;
-    change(XCB_PROP_MODE_REPLACE, 1, &now);
-    client.sync();
-}
-
 class WindowActivationContract : public SessionTest {
 protected:
     WindowActivationContract() {
@@ -49,7 +32,7 @@ TEST_P(WindowActivationContract, NewHiddenCoveredAndMinimizedWindowsGetTheKeyboa
     driver.move(1000, 600);
     Witness first;
     driver.tapKey("AC01");
-    markAsInUse(XClient(), first.window());
+    first.markAsInUse();
     activation.makeKeyAndOrderFront(window);
     EXPECT_TRUE(waitFor([this] { return isInFront(); }));
     driver.tapKey("AC01");
@@ -59,7 +42,7 @@ TEST_P(WindowActivationContract, NewHiddenCoveredAndMinimizedWindowsGetTheKeyboa
     const auto isForgotten = [this] { return !isInFront() && !QGuiApplication::focusWindow(); };
     const Witness second(window.frameGeometry().adjusted(-20, -20, 20, 20));
     EXPECT_TRUE(waitFor(isForgotten));
-    markAsInUse(XClient(), second.window());
+    second.markAsInUse();
     activation.makeKeyAndOrderFront(window);
     EXPECT_TRUE(waitFor([this] { return isInFront(); }));
     // The second window is white.
