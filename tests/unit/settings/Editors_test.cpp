@@ -131,6 +131,9 @@ TEST_F(EditorTest, EditingKeepsTheIdAndWhatIsNotTouched) {
     ShortcutEditorView& editor = open(stored);
     EXPECT_EQ(editor.windowTitle(), u"shortcut_edit_title"_s);
     EXPECT_TRUE(editor.actionForm().keyCapture().view().hasFocus());
+    // The form is scrolled to what has the focus.
+    const QWidget& form = editor.actionForm();
+    EXPECT_TRUE(waitFor([&] { return form.visibleRegion() == form.rect(); }));
     editor.requestSave();
     ASSERT_EQ(saved_.size(), 1);
     EXPECT_EQ(saved_[0].id(), stored.id());
