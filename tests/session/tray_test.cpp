@@ -98,8 +98,16 @@ protected:
             if (!place)
                 return false;
             session.driver().move(place->x(), place->y());
+            const QImage before = screenshot(session.client());
             session.driver().click(button);
-            return waitFor([this] { return menu().has_value(); }, 1000);
+            // It draws itself only when it has the keyboard.
+            return waitFor(
+                [&] {
+                    const auto window = menu();
+                    return window && screenshot(session.client(), window->geometry) !=
+                                         before.copy(window->geometry);
+                },
+                1000);
         });
     }
     bool waitForNoMenu() {
