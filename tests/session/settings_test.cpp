@@ -94,6 +94,26 @@ TEST_F(SettingsTest, AnAddedButtonIsOnTheBarAtOnceAndOutlivesACrash) {
     EXPECT_FALSE(storedText().contains(u"docs"_s));
 }
 
+TEST_F(SettingsTest, TheEditorKeepsTheKeyboardWhenTheWindowBehindIsClicked) {
+    const xcb_window_t settings = openSettings();
+    const QPoint behind = origin(settings) + QPoint(20, 450);
+    keys({"TAB", "SPCE"});
+    ASSERT_TRUE(waitForSheet(settings));
+    const xcb_window_t editor = activeWindow(session_.client());
+    // Another program is in front, so that the click is seen to have had its effect.
+    const Witness other(QRect(0, 700, 300, 200));
+    ASSERT_TRUE(waitFor([&] { return inputFocus(session_.client()) == other.window(); }));
+    session_.driver().move(behind.x(), behind.y());
+    session_.driver().click();
+    // For good: at first the two windows may take turns.
+    for (int i = 0; i < 20; ++i) {
+        ASSERT_TRUE(waitFor([&] { return inputFocus(session_.client()) == editor; }));
+        key("AC03");
+    }
+    keys({"ESC"});
+    EXPECT_TRUE(session_.waitForSettings());
+}
+
 TEST_F(SettingsTest, ARowIsDraggedToAnotherPlace) {
     const QPoint content = origin(openSettings());
     // Rows are 38 points high where the fonts are the usual ones.

@@ -3,6 +3,7 @@
 #include "platform/x11/QtConnection.h"
 #include "platform/x11/WindowQueries.h"
 
+#include <QApplication>
 #include <algorithm>
 
 namespace velmora {
@@ -15,6 +16,14 @@ constexpr char kTimeProperty[] = "_VELMORA_SERVER_TIME";
 /// prevent focus stealing grant it.
 constexpr std::uint32_t kDirectUserAction = 2;
 
+/// Whether `dialog` belongs to that window, or to a dialog of it.
+bool isOwnerOf(xcb_window_t window, const QWidget& dialog) {
+    const QWidget* owner = dialog.parentWidget();
+    while (owner && owner->internalWinId() != window)
+        owner = owner->parentWidget();
+    return owner;
+}
+
 } // namespace
 
 X11WindowActivation::X11WindowActivation(X11Connection& connection)
@@ -23,6 +32,7 @@ X11WindowActivation::X11WindowActivation(X11Connection& connection)
           connection.subscribe([this](const xcb_generic_event_t& event) { handle(event); })) {}
 
 void X11WindowActivation::makeKeyAndOrderFront(QWidget& window) {
+    qApp->installNativeEventFilter(this); // no matter how often
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();
@@ -34,6 +44,19 @@ void X11WindowActivation::makeKeyAndOrderFront(QWidget& window) {
         static_cast<xcb_event_mask_t>(
             XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY));
     askServerTime();
+}
+
+bool X11WindowActivation::nativeEventFilter(const QByteArray&, void* message, qintptr*) {
+    const auto& event = *static_cast<const xcb_generic_event_t*>(message);
+    if ((event.response_type & ~0x80) != XCB_FOCUS_IN)
+        return false;
+    const auto& focus = *static_cast<const xcb_focus_in_event_t*>(message);
+    const bool hasMoved =
+        focus.mode == XCB_NOTIFY_MODE_NORMAL || focus.mode == XCB_NOTIFY_MODE_WHILE_GRABBED;
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (hasMoved && dialog && isOwnerOf(focus.event, *dialog))
+        makeKeyAndOrderFront(*dialog);
+    return false;
 }
 
 void X11WindowActivation::handle(const xcb_generic_event_t& event) {
