@@ -6,6 +6,7 @@
 #include "foundation/LocalizedString.h"
 #include "platform/Platform.h"
 #include "platform/SingleInstance.h"
+#include "viewkit/AccessibleViews.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -19,6 +20,7 @@ int VelmoraApp::main() {
     const TerminationSignals terminationSignals;
     appendHelperPath();
     installLocalizedStrings();
+    installAccessibleViews();
     appDelegate = std::make_unique<AppDelegate>();
     QTimer::singleShot(0, appDelegate.get(), &AppDelegate::applicationDidFinishLaunching);
     const int status = QApplication::exec();

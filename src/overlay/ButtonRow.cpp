@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QResizeEvent>
+#include <algorithm>
 #include <utility>
 
 namespace velmora {
@@ -31,7 +32,15 @@ void ButtonRow::setRootView(const RootView& content) {
     }
     for (const QList<ShortcutButtonView*>& gone : std::as_const(known))
         qDeleteAll(gone);
+    sortChildren();
     layOut();
+}
+
+void ButtonRow::sortChildren() {
+    const qsizetype first = menuButton_ ? 1 : 0;
+    const auto [wrong, child] = std::mismatch(
+        buttons_.cbegin(), buttons_.cend(), children().cbegin() + first, children().cend());
+    std::for_each(wrong, buttons_.cend(), [](ShortcutButtonView* button) { button->raise(); });
 }
 
 ShortcutButtonView* ButtonRow::makeButton(const ShortcutButton& shortcut, const RootView& content) {

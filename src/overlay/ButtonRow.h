@@ -50,6 +50,9 @@ protected:
 
 private:
     ShortcutButtonView* makeButton(const ShortcutButton& shortcut, const RootView& content);
+    /// Puts the child views in the order of the buttons, the order in which assistive programs tell
+    /// them.
+    void sortChildren();
     /// Places the buttons in the row's height and takes their width.
     void layOut();
 

@@ -25,8 +25,8 @@ std::function<void()> sending(const QString& message) {
 }
 
 /// Opens the bar's menu at the mouse pointer. Returns at once; the menu ends itself.
-void showMenu() {
-    auto* menu = new PopupMenu;
+void showMenu(MenuButton& button) {
+    auto* menu = new PopupMenu(&button);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setAccessibleName(localizedString("menu_help"));
     menu->addItem(localizedString("menu_toggle"), {}, sending(u"toggleOverlayMenu"_s));
@@ -51,7 +51,7 @@ const QImage& cachedMenuIcon() {
 MenuButton::MenuButton(QWidget* parent, const QImage& icon) : PlainButton(parent), icon_(icon) {
     setFocusPolicy(Qt::NoFocus);
     setAccessibleName(help());
-    connect(this, &MenuButton::clicked, this, showMenu);
+    connect(this, &MenuButton::clicked, this, [this] { showMenu(*this); });
 }
 
 QSize MenuButton::sizeHint() const {

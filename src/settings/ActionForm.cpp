@@ -45,14 +45,13 @@ ActionForm::ActionForm(const QString& heading, ActionFields fields, EventTaps& e
       keyValue_(std::make_shared<QProperty<QString>>(fields_.keyValue)),
       isKeyCaptureFocused_(std::make_shared<QProperty<bool>>(false)) {
     const QString typeLabel = localizedString("mouse_action_label");
-    typePicker_ = new PopUpButton;
+    typePicker_ = new PopUpButton(typeLabel);
     for (int type = 0; type < actionTypeCount; ++type)
         typePicker_->addItem(localizedName(static_cast<ActionType>(type)));
-    typePicker_->setAccessibleName(typeLabel);
     typePicker_->setMinimumWidth(FormGroup::pickerWidth);
 
     auto* group = new FormGroup(heading);
-    group->addRow(typeLabel, FormGroup::beside({typePicker_}));
+    group->addRow(typeLabel, {typePicker_}, nullptr);
     auto* parameter = new QWidget;
     QVBoxLayout* parameterStack = makeStack(parameter);
     parameters_ = {
@@ -93,7 +92,11 @@ QWidget* ActionForm::makeAppParameter() {
 
     auto* view = new QWidget;
     QVBoxLayout* stack = makeStack(view);
-    stack->addWidget(FormGroup::beside({appName_, select}, appName_));
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Theme::defaultSpacing);
+    row->addWidget(appName_, 1);
+    row->addWidget(select);
+    stack->addLayout(row);
     stack->addWidget(bundleId_);
     setBundleId(fields_.bundleId);
     return view;

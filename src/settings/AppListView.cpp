@@ -91,6 +91,10 @@ AppListView::AppListView(AppListModel& model, QWidget* parent)
     setSelectionMode(SingleSelection);
     setMouseTracking(true);
     connect(this, &QListView::clicked, this, &AppListView::rowPicked);
+    // Queued: picking may change the rows, or close the list.
+    connect(
+        selectionModel(), &QItemSelectionModel::selectionChanged, this, &AppListView::pickSelected,
+        Qt::QueuedConnection);
     iconTimer_.setSingleShot(true);
     iconTimer_.setInterval(0ms);
     connect(&iconTimer_, &QTimer::timeout, this, &AppListView::loadSomeIcons);
@@ -122,6 +126,14 @@ bool AppListView::moveCurrent(int key) {
         setCurrentIndex(model_.index(qBound(0, row, rows - 1)));
     }
     return true;
+}
+
+void AppListView::pickSelected() {
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    if (selected.isEmpty())
+        return;
+    clearSelection();
+    Q_EMIT rowPicked(selected.first());
 }
 
 QPixmap AppListView::icon(const AppInfo& app) const {

@@ -23,8 +23,15 @@ public:
     bool moveCurrent(int key);
 
 Q_SIGNALS:
-    /// A row was clicked.
+    /// A row was clicked, or an assistive program selected it.
     void rowPicked(const QModelIndex& index);
+
+protected:
+    /// Nothing of the user's selects a row.
+    QItemSelectionModel::SelectionFlags
+    selectionCommand(const QModelIndex&, const QEvent*) const override {
+        return QItemSelectionModel::NoUpdate;
+    }
 
 private:
     class Delegate;
@@ -32,6 +39,7 @@ private:
     /// The pixmap when it is there; else a null one, and it is loaded soon.
     QPixmap icon(const AppInfo& app) const;
     void loadSomeIcons();
+    void pickSelected();
 
     AppListModel& model_;
     AppIcons icons_;

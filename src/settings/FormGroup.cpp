@@ -4,7 +4,6 @@
 #include "settings/Headline.h"
 #include "viewkit/Theme.h"
 
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,9 +29,11 @@ int labelColumnWidth(const QFontMetrics& metrics) {
 } // namespace
 
 FormGroup::FormGroup(const QString& heading, QWidget* parent) : QWidget(parent) {
+    setAccessibleName(heading);
     QLabel* title = headline(heading);
     title->setForegroundRole(QPalette::PlaceholderText); // the secondary colour
-    auto* box = new QFrame;
+    auto* box = new QWidget;
+    box->setAttribute(Qt::WA_StyledBackground);
     box->setProperty("box", true);
     rows_ = new QVBoxLayout(box);
     rows_->setContentsMargins(
@@ -45,29 +46,22 @@ FormGroup::FormGroup(const QString& heading, QWidget* parent) : QWidget(parent) 
     stack->addWidget(box);
 }
 
-QLabel* FormGroup::addRow(const QString& label, QWidget* control) {
+QLabel*
+FormGroup::addRow(const QString& label, const QList<QWidget*>& controls, QWidget* stretched) {
     auto* name = new QLabel(label);
     name->setTextFormat(Qt::PlainText);
     name->setFixedSize(labelColumnWidth(name->fontMetrics()), controlHeight);
     name->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    name->setBuddy(controls.first());
     auto* row = new QHBoxLayout;
     row->setSpacing(Theme::defaultSpacing);
     row->addWidget(name, 0, Qt::AlignTop);
-    row->addWidget(control, 1);
+    for (QWidget* control : controls)
+        row->addWidget(control, control == stretched ? 1 : 0);
+    if (!stretched)
+        row->addStretch();
     rows_->addLayout(row);
     return name;
-}
-
-QWidget* FormGroup::beside(const QList<QWidget*>& controls, QWidget* stretched) {
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Theme::defaultSpacing);
-    for (QWidget* control : controls)
-        layout->addWidget(control, control == stretched ? 1 : 0);
-    if (!stretched)
-        layout->addStretch();
-    return row;
 }
 
 QLineEdit* textField(const QString& text, const QString& placeholder, const QString& name) {

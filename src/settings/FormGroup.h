@@ -16,13 +16,14 @@ class FormGroup : public QWidget {
 public:
     explicit FormGroup(const QString& heading, QWidget* parent = nullptr);
 
-    /// Appends a row. The label, the control's accessible name too, is in line with the first line
-    /// of `control`, whose controls are side by side at the leading edge or as wide as there is
-    /// room.
-    QLabel* addRow(const QString& label, QWidget* control);
-
-    /// Controls beside each other, for addRow(); what is not `stretched` keeps its width.
-    static QWidget* beside(const QList<QWidget*>& controls, QWidget* stretched = nullptr);
+    /// Appends a row of a label, in line with the first line of the controls, and these beside each
+    /// other; what is not `stretched` keeps its width. The label names the first one.
+    QLabel*
+    addRow(const QString& label, const QList<QWidget*>& controls, QWidget* stretched = nullptr);
+    /// Appends a row of a label and a control as wide as there is room.
+    QLabel* addRow(const QString& label, QWidget* control) {
+        return addRow(label, {control}, control);
+    }
 
     /// Height in points of a control of one line.
     static constexpr int controlHeight = 26;

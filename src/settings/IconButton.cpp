@@ -25,7 +25,9 @@ IconButton::IconButton(const QString& icon, bool isSelected, std::function<void(
     setChecked(isSelected);
     setAccessibleName(icon);
     setFixedSize(sizeHint());
-    connect(this, &IconButton::clicked, this, std::move(action));
+    connect(this, &IconButton::clicked, this, action);
+    // What assistive programs do to a checkable button; a click leaves the mark alone.
+    connect(this, &IconButton::toggled, this, std::move(action));
 }
 
 QSize IconButton::sizeHint() const {

@@ -37,9 +37,12 @@ QString literal(QString title) {
 MainMenuBar::MainMenuBar(const QList<MenuModel>& menus, QWidget* parent) : QMenuBar(parent) {
     // In the window, where its shortcuts belong, also on desktops that have a place for menus.
     setNativeMenuBar(false);
+    setAccessibleName(u"Velmora"_s);
     for (const MenuModel& model : menus) {
         // The application's own menu has no title; the program's name stands for it.
-        QMenu* menu = addMenu(literal(model.title.isEmpty() ? u"Velmora"_s : model.title));
+        const QString title = model.title.isEmpty() ? u"Velmora"_s : model.title;
+        QMenu* menu = addMenu(literal(title));
+        menu->setAccessibleName(title);
         addEntries(*menu, model.entries);
     }
     auto* open = new QShortcut(Qt::Key_F10, this);

@@ -20,7 +20,7 @@ constexpr const char* offeredButtons[] = {"mouse_btn_middle", "mouse_btn_4", "mo
                                           "mouse_btn_9"};
 
 PopUpButton* makeButtonPicker(const std::optional<MouseButtonBinding>& binding) {
-    auto* picker = new PopUpButton;
+    auto* picker = new PopUpButton(localizedString("mouse_btn_label"));
     for (std::int64_t number = firstOffered; const char* key : offeredButtons)
         picker->addItem(localizedString(key), qlonglong(number++));
     const qlonglong selected = binding ? binding->buttonNumber : initialButton;
@@ -28,14 +28,13 @@ PopUpButton* makeButtonPicker(const std::optional<MouseButtonBinding>& binding) 
     if (picker->findData(selected) < 0)
         picker->addItem(binding->buttonDisplayName(), selected);
     picker->setCurrentIndex(picker->findData(selected));
-    picker->setAccessibleName(localizedString("mouse_btn_label"));
     picker->setMinimumWidth(FormGroup::pickerWidth);
     return picker;
 }
 
 FormGroup* makeButtonGroup(PopUpButton* picker) {
     auto* group = new FormGroup(localizedString("mouse_button"));
-    group->addRow(localizedString("mouse_btn_label"), FormGroup::beside({picker}));
+    group->addRow(localizedString("mouse_btn_label"), {picker}, nullptr);
     return group;
 }
 

@@ -55,14 +55,11 @@ int RecordListModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant RecordListModel::data(const QModelIndex& index, int role) const {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole &&
-                             role != Qt::AccessibleDescriptionRole))
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole))
         return {};
     const RecordRow described = row(index);
     if (role == Qt::DisplayRole)
         return singleLine(described.title);
-    if (role == Qt::AccessibleDescriptionRole)
-        return singleLine(described.detail);
     QStringList texts{singleLine(described.title), singleLine(described.detail), described.badge};
     texts.removeAll(QString());
     return texts.join(u", "_s);

@@ -37,7 +37,7 @@ public:
     QModelIndex indexOf(const QUuid& id) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    /// The title on one line, and the texts for assistive programs.
+    /// The title on one line, and the text for assistive programs.
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:

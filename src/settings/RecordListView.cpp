@@ -158,6 +158,7 @@ void RecordListView::contextMenuEvent(QContextMenuEvent* event) {
         byKeyboard ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos();
     auto* menu = new PopupMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setAccessibleName(index.data().toString());
     menu->addItem(localizedString("shortcut_edit"), {}, [this, index] {
         if (index.isValid())
             Q_EMIT editRequested(index.row());

@@ -62,9 +62,10 @@ ShortcutEditorView::makeBasicGroup(const std::optional<ShortcutButton>& shortcut
     basic.select = new QPushButton(localizedString("button_select"));
     basic.select->setAutoDefault(false);
     basic.select->setAccessibleDescription(iconLabel);
-    QWidget* iconRow = FormGroup::beside({basic.icon, basic.iconPreview, basic.select}, basic.icon);
-    iconRow->setToolTip(iconHint);
-    basic.group->addRow(iconLabel, iconRow)->setToolTip(iconHint);
+    const QList<QWidget*> iconControls{basic.icon, basic.iconPreview, basic.select};
+    basic.group->addRow(iconLabel, iconControls, basic.icon)->setToolTip(iconHint);
+    for (QWidget* control : iconControls)
+        control->setToolTip(iconHint);
 
     const QString alignmentLabel = localizedString("label_alignment");
     basic.alignment = new SegmentedPicker(
@@ -73,7 +74,7 @@ ShortcutEditorView::makeBasicGroup(const std::optional<ShortcutButton>& shortcut
         shortcut && shortcut->alignment == ButtonAlignment::right ? 1 : 0);
     basic.alignment->setAccessibleName(alignmentLabel);
     basic.alignment->setMinimumWidth(FormGroup::pickerWidth);
-    basic.group->addRow(alignmentLabel, FormGroup::beside({basic.alignment}));
+    basic.group->addRow(alignmentLabel, {basic.alignment}, nullptr);
     return basic;
 }
 

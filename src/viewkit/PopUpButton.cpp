@@ -16,10 +16,39 @@ constexpr double chevronDistance = 2; ///< from the middle line
 
 } // namespace
 
-PopUpButton::PopUpButton(QWidget* parent) : QComboBox(parent) {
+PopUpButton::PopUpButton(const QString& name, QWidget* parent) : QComboBox(parent) {
+    setAccessibleName(name);
+    view()->setAccessibleName(name);
     setFocusPolicy(Qt::StrongFocus);
     constexpr int everyItem = 32;
     setMaxVisibleItems(everyItem);
+    // Queued: the keyboard and the pointer make an item the current one right after selecting it.
+    connect(
+        view()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        &PopUpButton::takeSelection, Qt::QueuedConnection);
+    connect(this, &QComboBox::currentIndexChanged, this, &PopUpButton::selectChoice);
+    view()->installEventFilter(this);
+}
+
+bool PopUpButton::eventFilter(QObject* watched, QEvent* event) {
+    // What the pointer was over last stays selected, and what is selected cannot be selected again.
+    // Queued: the choice is still to be read from there.
+    if (event->type() == QEvent::Hide)
+        QMetaObject::invokeMethod(this, &PopUpButton::selectChoice, Qt::QueuedConnection);
+    return QComboBox::eventFilter(watched, event);
+}
+
+void PopUpButton::selectChoice() {
+    view()->setCurrentIndex(model()->index(currentIndex(), 0));
+}
+
+void PopUpButton::takeSelection() {
+    const QModelIndexList selected = view()->selectionModel()->selectedIndexes();
+    if (selected.isEmpty() || selected.first() == view()->currentIndex())
+        return;
+    view()->setCurrentIndex(selected.first());
+    setCurrentIndex(selected.first().row());
+    hidePopup();
 }
 
 void PopUpButton::paintEvent(QPaintEvent* event) {

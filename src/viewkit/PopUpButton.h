@@ -9,12 +9,20 @@ namespace velmora {
 class PopUpButton : public QComboBox {
     Q_OBJECT
 public:
-    explicit PopUpButton(QWidget* parent = nullptr);
+    /// `name` is what assistive programs call it.
+    explicit PopUpButton(const QString& name, QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// Chooses what an assistive program selected among the items.
+    void takeSelection();
+    /// Selects the choice among the items.
+    void selectChoice();
 };
 
 } // namespace velmora

@@ -31,7 +31,7 @@ QString sheetFor(bool dark) {
 
 } // namespace
 
-PopupMenu::PopupMenu(QWidget* parent) : QMenu(parent) {
+PopupMenu::PopupMenu(QWidget* opener) : QMenu(opener ? opener->window() : nullptr) {
     // The click that closes a menu must not press what lies beneath: on the button that opened the
     // menu it would open it again.
     setAttribute(Qt::WA_NoMouseReplay);

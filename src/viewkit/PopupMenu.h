@@ -10,7 +10,8 @@ namespace velmora {
 class PopupMenu : public QMenu {
     Q_OBJECT
 public:
-    explicit PopupMenu(QWidget* parent = nullptr);
+    /// A menu of the window of `opener`, of which it knows no more; none: of no window.
+    explicit PopupMenu(QWidget* opener = nullptr);
 
     /// Appends an item that shows `title` literally, and `keyEquivalent` unless it is empty.
     /// `action` runs once the menu has closed.

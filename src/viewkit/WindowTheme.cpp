@@ -132,7 +132,7 @@ QComboBox:hover { background: @hover; }
 QComboBox:focus { border: 2px solid @accent; padding: 2px 25px 2px 8px; }
 QComboBox { combobox-popup: 0; }
 QComboBox::drop-down { border: none; width: 0; }
-QFrame[box="true"] { background: @base; border: none; border-radius: 8px; }
+QWidget[box="true"] { background: @base; border: none; border-radius: 8px; }
 QScrollArea { background: transparent; border: none; }
 QListView { background: transparent; border: none; outline: none; }
 QListView[inset="true"] {

@@ -6,6 +6,8 @@
 #include <QVBoxLayout>
 #include <xcb/shape.h>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 X11PanelWindow::X11PanelWindow(X11Connection& connection, const QRect& frame)
@@ -13,6 +15,7 @@ X11PanelWindow::X11PanelWindow(X11Connection& connection, const QRect& frame)
     window_.setWindowFlags(
         Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
         Qt::WindowDoesNotAcceptFocus | Qt::X11BypassWindowManagerHint);
+    window_.setWindowTitle(u"Velmora"_s); // for programs that list windows
     window_.setAttribute(Qt::WA_ShowWithoutActivating);
     window_.setGeometry(frame);
     auto* const layout = new QVBoxLayout(&window_);

@@ -147,6 +147,8 @@ TEST_F(ContentViewTest, FollowsTheStoreInTheNextTurnAndKeepsViewsById) {
     QCoreApplication::processEvents();
     EXPECT_THAT(titles(left), ElementsAre("B", "A"));
     EXPECT_LT(b->x(), a->x());
+    const QObjectList& views = a->parentWidget()->children();
+    EXPECT_LT(views.indexOf(b), views.indexOf(a)) << "assistive programs tell them in this order";
 
     ShortcutButton edited = store.shortcuts()[0];
     edited.title = u"Longer than before"_s;

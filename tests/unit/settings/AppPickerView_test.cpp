@@ -8,6 +8,7 @@
 #include "viewkit/PlainButton.h"
 #include "viewkit/Sheet.h"
 
+#include <QAccessible>
 #include <QPointer>
 #include <QSemaphore>
 #include <QTest>
@@ -142,6 +143,23 @@ TEST_F(AppPickerViewTest, OneClickPicks) {
     QTest::mouseClick(picker->list().viewport(), Qt::LeftButton, {}, row.center());
     EXPECT_EQ(picked, QStringList{u"org.app3"_s});
     EXPECT_TRUE(isClosed());
+}
+
+TEST_F(AppPickerViewTest, AssistiveProgramsPickBySelecting) {
+    openLoaded(30);
+    const auto act = [this](int row) {
+        QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&picker->list());
+        list->child(row)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        // Without a bus nothing tells it of changes of the rows.
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(list));
+    };
+    act(20); // the offer of all
+    EXPECT_TRUE(waitFor([this] { return picker->model().rowCount() == 30; }));
+    EXPECT_TRUE(picked.isEmpty());
+    EXPECT_EQ(currentRow(), 20);
+    act(20); // also the row that Return would pick
+    EXPECT_TRUE(isClosed());
+    EXPECT_EQ(picked, QStringList{u"org.app20"_s});
 }
 
 TEST_F(AppPickerViewTest, GoesWithItsWindow) {

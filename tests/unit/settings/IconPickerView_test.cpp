@@ -6,6 +6,7 @@
 #include "support/TestDisplay.h"
 #include "viewkit/Sheet.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QPointer>
 #include <QSet>
@@ -100,6 +101,18 @@ TEST_F(IconPickerViewTest, KeysWalkTheGrid) {
     QTest::keyClick(sheet, Qt::Key_Escape);
     EXPECT_TRUE(isClosed());
     EXPECT_TRUE(picked.isEmpty());
+}
+
+TEST_F(IconPickerViewTest, AssistiveProgramsPickByTogglingTheMark) {
+    for (const qsizetype cell : {2, 1}) { // also the one marked
+        picked.clear();
+        open(u"mail"_s);
+        QAccessible::queryAccessibleInterface(picker->cells()[cell])
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::toggleAction());
+        EXPECT_EQ(picked, QStringList{IconPickerView::commonIcons[cell]});
+        EXPECT_TRUE(isClosed());
+    }
 }
 
 TEST_F(IconPickerViewTest, ReturnAndSpacePick) {

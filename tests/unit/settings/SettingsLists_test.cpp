@@ -96,7 +96,7 @@ protected:
         QContextMenuEvent event(
             QContextMenuEvent::Mouse, place, list().viewport()->mapToGlobal(place));
         QApplication::sendEvent(list().viewport(), &event);
-        auto* menu = list().findChild<PopupMenu*>();
+        auto* menu = list().window()->findChild<PopupMenu*>();
         ASSERT_TRUE(menu);
         for (QAction* action : menu->actions()) {
             if (action->text() == item)
