@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 using namespace std::chrono_literals;
@@ -90,6 +91,11 @@ AppListView::AppListView(AppListModel& model, QWidget* parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setSelectionMode(SingleSelection);
     setMouseTracking(true);
+    // Always there, so that rows keep their width; off, without a handle, while all rows are in
+    // sight.
+    connect(
+        verticalScrollBar(), &QScrollBar::rangeChanged, verticalScrollBar(),
+        [this](int, int maximum) { verticalScrollBar()->setEnabled(maximum > 0); });
     connect(this, &QListView::clicked, this, &AppListView::rowPicked);
     // Queued: picking may change the rows, or close the list.
     connect(

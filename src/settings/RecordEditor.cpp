@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -92,13 +93,29 @@ void RecordEditor::finish(QSize size, QWidget* first) {
     setFocusProxy(recordsKeys ? &actionForm_->keyCapture() : first);
     const int needed = scrollArea_->widget()->minimumSizeHint().width() +
                        scrollArea_->verticalScrollBar()->sizeHint().width();
-    setFixedSize(size.expandedTo(QSize(needed, 0)));
+    setFixedWidth(qMax(size.width(), needed));
+    leastHeight_ = size.height();
+    scrollArea_->widget()->installEventFilter(this);
+    fitHeight();
     updateSaveButton();
 }
 
 void RecordEditor::scrollToAction() {
     scrollArea_->widget()->layout()->activate();
     scrollArea_->ensureWidgetVisible(actionForm_, 0, 0);
+}
+
+void RecordEditor::fitHeight() {
+    const int form = scrollArea_->widget()->minimumSizeHint().height();
+    const int most = screen()->availableSize().height() / 2;
+    scrollArea_->setMinimumHeight(qMin(form, most));
+    setFixedHeight(qMax(leastHeight_, layout()->totalMinimumSize().height()));
+}
+
+bool RecordEditor::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest)
+        fitHeight();
+    return QWidget::eventFilter(watched, event);
 }
 
 bool RecordEditor::isValid() const {

@@ -46,20 +46,24 @@ protected:
 
     /// Call whenever isValid() may have changed, and once the form is complete.
     void updateSaveButton();
-    /// Fixes the editor at `size`, wider where a language needs it; `first` gets the focus when the
-    /// action has no say in it.
+    /// Fixes the editor at `size`, wider where a language needs it, and higher where the action
+    /// does; `first` gets the focus when the action has no say in it.
     void finish(QSize size, QWidget* first);
 
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     /// Brings the group that sets the action into sight.
     void scrollToAction();
+    /// Takes the height at which the form need not scroll, as far as the screen allows.
+    void fitHeight();
 
     QScrollArea* scrollArea_;
     ActionForm* actionForm_;
     QPushButton* save_;
+    int leastHeight_ = 0;
     const std::function<void()> onCancel_;
 };
 

@@ -168,6 +168,7 @@ QMenu::separator { height: 1px; background: @border; margin: 4px 8px; }
 QToolTip { background: @base; color: @text; border: 1px solid @border; padding: 3px 5px; }
 QScrollBar:vertical { background: transparent; width: 12px; margin: 4px 2px; }
 QScrollBar::handle:vertical { background: @scroll; border-radius: 4px; min-height: 28px; }
+QScrollBar::handle:vertical:disabled { background: transparent; }
 QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )"_s;

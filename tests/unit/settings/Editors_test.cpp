@@ -14,6 +14,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -87,6 +89,22 @@ private:
         return shown;
     }
 };
+
+TEST_F(EditorTest, GrowsWhereTheFormWouldScroll) {
+    ShortcutEditorView& editor = open();
+    const QScrollBar& scrollBar = *editor.findChild<QScrollArea*>()->verticalScrollBar();
+    EXPECT_EQ(editor.size(), QSize(500, 450));
+    for (const ActionType type :
+         {ActionType::executeShell, ActionType::pressKey, ActionType::launchApp}) {
+        choose(editor, type);
+        EXPECT_TRUE(waitFor([&] {
+            return scrollBar.maximum() == 0 &&
+                   (editor.height() == 450) == (type == ActionType::launchApp) &&
+                   sheet_->size() == editor.size();
+        })) << int(type)
+            << " at " << editor.height();
+    }
+}
 
 TEST_F(EditorTest, ANewButtonNeedsItsActionAndATitleOrSymbol) {
     ShortcutEditorView& editor = open();
