@@ -4,7 +4,7 @@
 
 #include <QImage>
 #include <QPixmapCache>
-#include <algorithm>
+#include <numeric>
 
 namespace velmora {
 namespace {
@@ -13,15 +13,16 @@ QString key(const AppInfo& app, double devicePixelRatio) {
     return app.path + u'@' + QString::number(devicePixelRatio);
 }
 
-/// Whether nothing can be seen: a drawing that the picture reader does not understand.
+/// Whether next to nothing can be seen: a drawing that the picture reader does not understand.
 bool isBlank(const QPixmap& pixmap) {
     const QImage image = pixmap.toImage().convertToFormat(QImage::Format_Alpha8);
+    qint64 visible = 0;
     for (int y = 0; y < image.height(); ++y) {
         const uchar* line = image.constScanLine(y);
-        if (std::any_of(line, line + image.width(), [](uchar alpha) { return alpha != 0; }))
-            return false;
+        visible += std::accumulate(line, line + image.width(), qint64(0));
     }
-    return true;
+    constexpr int least = 1; // percent of full coverage; a thin outline has ten
+    return visible * 100 <= qint64(image.width()) * image.height() * 255 * least;
 }
 
 } // namespace

@@ -45,10 +45,12 @@ QRectF square(QPointF centre, double side) {
     return {centre.x() - side / 2, centre.y() - side / 2, side, side};
 }
 
+/// Draws `text` elided at the left edge of `rect`, in whatever direction it reads.
 void drawLine(QPainter& painter, const QRectF& rect, const QFont& font, const QString& text) {
     painter.setFont(font);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     painter.drawText(
-        rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+        rect, Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine,
         QFontMetricsF(font).elidedText(text, Qt::ElideRight, rect.width()));
 }
 

@@ -66,6 +66,7 @@ void drawLine(
     Qt::LayoutDirection direction) {
     const QFontMetrics metrics(font);
     painter.setFont(font);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     const auto edge = direction == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
     painter.drawText(
         rect, int(edge) | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine,
