@@ -26,29 +26,25 @@ PopUpButton::PopUpButton(const QString& name, QWidget* parent) : QComboBox(paren
     connect(
         view()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &PopUpButton::takeSelection, Qt::QueuedConnection);
-    connect(this, &QComboBox::currentIndexChanged, this, &PopUpButton::selectChoice);
     view()->installEventFilter(this);
 }
 
 bool PopUpButton::eventFilter(QObject* watched, QEvent* event) {
-    // What the pointer was over last stays selected, and what is selected cannot be selected again.
-    // Queued: the choice is still to be read from there.
+    // What the pointer was over last would stay selected, and what is selected cannot be selected
+    // again. Queued: the choice is still to be read from there.
     if (event->type() == QEvent::Hide)
-        QMetaObject::invokeMethod(this, &PopUpButton::selectChoice, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            view()->selectionModel(), &QItemSelectionModel::clear, Qt::QueuedConnection);
     return QComboBox::eventFilter(watched, event);
-}
-
-void PopUpButton::selectChoice() {
-    view()->setCurrentIndex(model()->index(currentIndex(), 0));
 }
 
 void PopUpButton::takeSelection() {
     const QModelIndexList selected = view()->selectionModel()->selectedIndexes();
     if (selected.isEmpty() || selected.first() == view()->currentIndex())
         return;
-    view()->setCurrentIndex(selected.first());
     setCurrentIndex(selected.first().row());
     hidePopup();
+    view()->selectionModel()->clear();
 }
 
 void PopUpButton::paintEvent(QPaintEvent* event) {

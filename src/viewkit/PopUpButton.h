@@ -21,8 +21,6 @@ protected:
 private:
     /// Chooses what an assistive program selected among the items.
     void takeSelection();
-    /// Selects the choice among the items.
-    void selectChoice();
 };
 
 } // namespace velmora

@@ -102,6 +102,7 @@ TEST_F(AccessibleTest, SelectingAnItemOfAPopUpButtonChoosesIt) {
     QTest::keyClick(button.view(), Qt::Key_Return);
     EXPECT_TRUE(becomes(2));
     button.setCurrentIndex(0);
+    QCoreApplication::processEvents();
     toggle(button, 2);
     EXPECT_TRUE(becomes(2));
 }
