@@ -28,8 +28,13 @@ TerminationSignals::TerminationSignals()
     struct sigaction action = {};
     action.sa_handler = wake;
     action.sa_flags = SA_RESTART;
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-        ::sigaction(signal, &action, nullptr);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction inherited = {};
+        ::sigaction(signal, nullptr, &inherited);
+        // Started to survive it, say by nohup.
+        if (inherited.sa_handler != SIG_IGN)
+            ::sigaction(signal, &action, nullptr);
+    }
 }
 
 TerminationSignals::~TerminationSignals() {

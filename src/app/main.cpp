@@ -13,18 +13,40 @@
 #include "platform/x11/X11Session.h"
 
 #include <QApplication>
+#include <clocale>
+#include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <fontconfig/fontconfig.h>
 #include <malloc.h>
 #include <thread>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
 
+namespace {
+
+/// Sees to what the program inherits from whoever started it.
+void tidyInheritance() {
+    // A missing standard stream: the next file or connection opened would take its number, and the
+    // log would be written into it.
+    int descriptor = 0;
+    do
+        descriptor = ::open("/dev/null", O_RDWR);
+    while (descriptor >= 0 && descriptor <= STDERR_FILENO);
+    ::close(descriptor);
+    // A log whose reader has gone.
+    std::signal(SIGPIPE, SIG_IGN);
+    ensureHomeFolder();
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
     // One heap: what a short thread allocates would keep another one.
     mallopt(M_ARENA_MAX, 1);
-    ensureHomeFolder();
+    tidyInheritance();
     // Before Qt, which aborts without a display.
     const auto session = X11Session::create();
     if (!session) {
@@ -35,6 +57,8 @@ int main(int argc, char** argv) {
         return EXIT_SUCCESS; // the one that runs comes forward
     QApplication::setApplicationName(u"velmora"_s);
     QApplication::setDesktopFileName(u"velmora"_s);
+    // As Qt does: from here on the thread below and Qt see the same.
+    std::setlocale(LC_ALL, "");
     // Qt reads the fonts' configuration when it draws the first text; beside the start of the rest
     // that takes no time.
     std::jthread fontConfiguration([] { FcInit(); });

@@ -162,6 +162,9 @@ int spawn(
 
 /// Starts the process and hands it to the reader. Gives 0 or an error number; then nothing runs.
 int start(const QString& program, const QStringList& arguments, Completion& completion) {
+    // A text with a NUL cannot be handed over whole, and cut short it is another command.
+    if (program.contains(QChar(u'\0')) || arguments.join(QString()).contains(QChar(u'\0')))
+        return EINVAL;
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC) != 0)
         return errno;

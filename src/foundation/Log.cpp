@@ -4,18 +4,30 @@
 
 #include <QDateTime>
 #include <cerrno>
+#include <condition_variable>
+#include <csignal>
+#include <cstdlib>
+#include <deque>
 #include <mutex>
 #include <optional>
+#include <thread>
 #include <unistd.h>
+
+using namespace std::chrono_literals;
 
 namespace velmora::Log {
 namespace {
 
-std::mutex mutex;
-Sink& currentSink() {
-    static Sink sink;
-    return sink;
-}
+/// UTF-16 units that may wait for a reader; lines beyond are dropped. Several of the longest.
+constexpr qsizetype queueLimit = 256 * 1024 * 1024;
+
+constexpr auto longestFlush = 1s;
+
+struct Line {
+    int descriptor;
+    QString text;
+    QDateTime time;
+};
 
 /// Writes everything, whatever its size. A reader that went away is not our failure: give up.
 void writeAll(int descriptor, const QByteArray& bytes) {
@@ -41,29 +53,103 @@ const std::optional<Journal>& journal() {
     return instance;
 }
 
+void writeNow(const Line& line) {
+    const QByteArray text = line.text.toUtf8() + '\n';
+    if (line.descriptor != STDERR_FILENO) {
+        writeAll(line.descriptor, text);
+        return;
+    }
+    const QByteArray stamp = line.time.toString(Qt::ISODateWithMs).toUtf8() + " velmora[" +
+                             QByteArray::number(::getpid()) + "] ";
+    writeAll(STDERR_FILENO, stamp + text);
+    if (journal())
+        journal()->write(text.chopped(1));
+}
+
+/// The lines that wait, and the thread that writes them.
+class Writer {
+public:
+    /// Made by the first line. Never destroyed: other threads log until the very end.
+    static Writer& shared() {
+        static auto* const instance = new Writer;
+        return *instance;
+    }
+
+    void add(Line line) {
+        const std::scoped_lock lock(mutex_);
+        if (waiting_ + line.text.size() > queueLimit)
+            return;
+        waiting_ += line.text.size();
+        lines_.push_back(std::move(line));
+        changed_.notify_all();
+    }
+
+    void flush() {
+        std::unique_lock lock(mutex_);
+        changed_.wait_for(lock, longestFlush, [this] { return lines_.empty(); });
+    }
+
+private:
+    Writer() {
+        // Signals are the main thread's.
+        sigset_t all, previous;
+        ::sigfillset(&all);
+        ::pthread_sigmask(SIG_SETMASK, &all, &previous);
+        std::thread([this] { run(); }).detach();
+        ::pthread_sigmask(SIG_SETMASK, &previous, nullptr);
+        std::atexit(Log::flush);
+    }
+
+    [[noreturn]] void run() {
+        std::unique_lock lock(mutex_);
+        for (;;) {
+            changed_.wait(lock, [this] { return !lines_.empty(); });
+            const Line line = lines_.front();
+            lock.unlock();
+            writeNow(line);
+            lock.lock();
+            waiting_ -= line.text.size();
+            lines_.pop_front(); // only now: an empty queue means that all is written
+            changed_.notify_all();
+        }
+    }
+
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::deque<Line> lines_;
+    qsizetype waiting_ = 0;
+};
+
+std::mutex sinkMutex;
+Sink& currentSink() {
+    static Sink sink;
+    return sink;
+}
+
 } // namespace
 
 void write(const QString& line) {
-    const std::scoped_lock lock(mutex);
-    if (const Sink& sink = currentSink()) {
-        sink(line);
-        return;
+    {
+        const std::scoped_lock lock(sinkMutex);
+        if (const Sink& sink = currentSink()) {
+            sink(line);
+            return;
+        }
     }
-    const QByteArray text = line.toUtf8();
-    QByteArray stamped = QDateTime::currentDateTime().toString(Qt::ISODateWithMs).toUtf8();
-    stamped += " velmora[" + QByteArray::number(::getpid()) + "] " + text + '\n';
-    writeAll(STDERR_FILENO, stamped);
-    if (journal())
-        journal()->write(text);
+    Writer::shared().add({STDERR_FILENO, line, QDateTime::currentDateTime()});
 }
 
 void setSink(Sink sink) {
-    const std::scoped_lock lock(mutex);
+    const std::scoped_lock lock(sinkMutex);
     currentSink() = std::move(sink);
 }
 
 void writeDiagnostic(const QString& line) {
-    writeAll(STDOUT_FILENO, line.toUtf8() + '\n');
+    Writer::shared().add({STDOUT_FILENO, line, {}});
+}
+
+void flush() {
+    Writer::shared().flush();
 }
 
 } // namespace velmora::Log

@@ -8,19 +8,20 @@ namespace {
 
 /// Lives on the main thread and is never destroyed: unlike the application object, it is there for
 /// threads that submit while the program ends.
-QObject& receiver() {
-    static QObject* instance = [] {
-        auto* object = new QObject;
-        object->moveToThread(QCoreApplication::instance()->thread());
-        return object;
-    }();
-    return *instance;
+QObject* receiver = nullptr;
+
+void makeReceiver() {
+    if (receiver)
+        return;
+    receiver = new QObject;
+    receiver->moveToThread(QCoreApplication::instance()->thread());
 }
+Q_COREAPP_STARTUP_FUNCTION(makeReceiver)
 
 } // namespace
 
 void submit(std::function<void()> task) {
-    QMetaObject::invokeMethod(&receiver(), std::move(task), Qt::QueuedConnection);
+    QMetaObject::invokeMethod(receiver, std::move(task), Qt::QueuedConnection);
 }
 
 } // namespace velmora::MainQueue

@@ -17,11 +17,11 @@ struct WindowAbove {
 };
 
 /// The windows to raise, first to last, so that nothing covers the panel but what may: our own and
-/// others' menus and tooltips, and windows over the whole screen that no window manager placed
-/// (screen lockers, region selectors). Empty when nothing else covers it. `above` goes from the
-/// panel upwards.
+/// others' menus and tooltips, and windows over the whole height of the panel's screen that no
+/// window manager placed (screen lockers, region selectors). Empty when nothing else covers it.
+/// `above` goes from the panel upwards.
 std::vector<std::uint32_t> windowsToRaise(
-    std::uint32_t panel, const QRect& panelFrame, const QRect& screen,
+    std::uint32_t panel, const QRect& panelFrame, int screenHeight,
     const std::vector<WindowAbove>& above);
 
 } // namespace velmora

@@ -18,6 +18,7 @@ namespace {
 
 [[noreturn]] void endWithTheServer() {
     Log::write(u"The X server went away; Velmora ends."_s);
+    Log::flush();
     std::_Exit(EXIT_FAILURE);
 }
 

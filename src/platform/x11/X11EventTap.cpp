@@ -41,7 +41,7 @@ void X11EventTap::setInterest(EventTapInterest interest) {
     if (!grab_->adopt(interest_))
         createGrab();
     enabled_ = true;
-    timer_.stop();
+    pauses_.reset(); // what was refused may not be wanted any more
     tryNow();
 }
 
@@ -72,10 +72,10 @@ void X11EventTap::noteSuccess() {
 }
 
 void X11EventTap::noteRefusal() {
-    if (!pauses_.isFailing()) {
-        refusedName_ = grab_->refusedName();
-        Log::writeDiagnostic(refusedName_ + u" is held by another program; trying again"_s);
-    }
+    const QString name = grab_->refusedName();
+    if (!pauses_.isFailing() || name != refusedName_)
+        Log::writeDiagnostic(name + u" is held by another program; trying again"_s);
+    refusedName_ = name;
     pauses_.noteRefusal();
     if (grab_->waitsForItsTurn()) {
         timer_.start(pauses_.next());

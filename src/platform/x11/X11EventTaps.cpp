@@ -19,7 +19,7 @@ struct GrabMaker {
         return std::make_unique<X11ChordGrab>(connection, keyboard, xinput, chord, std::move(sink));
     }
     std::unique_ptr<X11Grab> operator()(const TapInterest::MouseButtons& buttons) const {
-        return std::make_unique<X11MouseButtonGrab>(connection, buttons, std::move(sink));
+        return std::make_unique<X11MouseButtonGrab>(connection, keyboard, buttons, std::move(sink));
     }
     std::unique_ptr<X11Grab> operator()(const TapInterest::EveryKey& everyKey) const {
         return std::make_unique<X11KeyboardGrab>(

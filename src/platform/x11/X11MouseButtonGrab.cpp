@@ -1,9 +1,10 @@
 #include "platform/x11/X11MouseButtonGrab.h"
 
+#include "platform/x11/ChordStates.h"
 #include "platform/x11/MouseButtonNumbers.h"
 
 #include <algorithm>
-#include <iterator>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -20,47 +21,87 @@ std::set<xcb_button_t> tappable(const TapInterest::MouseButtons& interest) {
     return buttons;
 }
 
-std::set<xcb_button_t>
-without(const std::set<xcb_button_t>& all, const std::set<xcb_button_t>& excluded) {
-    std::set<xcb_button_t> rest;
-    std::ranges::set_difference(all, excluded, std::inserter(rest, rest.end()));
-    return rest;
+/// Each state of the eight modifiers.
+std::vector<std::uint16_t> allMasks() {
+    std::vector<std::uint16_t> masks(256);
+    std::iota(masks.begin(), masks.end(), std::uint16_t(0));
+    return masks;
 }
 
 } // namespace
 
 X11MouseButtonGrab::X11MouseButtonGrab(
-    X11Connection& connection, const TapInterest::MouseButtons& interest, Sink sink)
-    : connection_(connection), sink_(std::move(sink)), wanted_(tappable(interest)) {
+    X11Connection& connection, const X11Keyboard& keyboard,
+    const TapInterest::MouseButtons& interest, Sink sink)
+    : connection_(connection),
+      keyboard_(keyboard),
+      sink_(std::move(sink)),
+      wanted_(tappable(interest)) {
     subscription_ = connection.subscribe([this](const auto& event) { handle(event); });
 }
 
 X11MouseButtonGrab::~X11MouseButtonGrab() {
-    for (const xcb_button_t button : held_)
-        xcb_ungrab_button(connection_, button, connection_.root(), XCB_MOD_MASK_ANY);
+    for (const auto& [button, masks] : held_)
+        ungrab(button, masks);
     xcb_flush(connection_);
 }
 
 bool X11MouseButtonGrab::obtain() {
-    for (const xcb_button_t button : without(held_, wanted_)) {
-        xcb_ungrab_button(connection_, button, connection_.root(), XCB_MOD_MASK_ANY);
-        held_.erase(button);
+    std::erase_if(held_, [this](const auto& held) {
+        if (wanted_.contains(held.first))
+            return false;
+        ungrab(held.first, held.second);
+        return true;
+    });
+    for (const xcb_button_t button : missing())
+        obtainButton(button);
+    xcb_flush(connection_);
+    return missing().empty();
+}
+
+void X11MouseButtonGrab::obtainButton(xcb_button_t button) {
+    auto masks = grab(button, {XCB_MOD_MASK_ANY});
+    if (masks.empty()) {
+        // Another client has it with some modifier. That leaves the others.
+        masks = grab(button, allMasks());
+        const auto isTaken = [&](std::uint16_t mask) {
+            return isPlainChord(keyboard_.modifiers(), 0, mask) &&
+                   !std::ranges::binary_search(masks, mask);
+        };
+        if (std::ranges::any_of(allMasks(), isTaken)) {
+            ungrab(button, masks);
+            return;
+        }
     }
-    std::vector<std::pair<xcb_button_t, xcb_void_cookie_t>> asked;
-    for (const xcb_button_t button : without(wanted_, held_)) {
-        const xcb_void_cookie_t cookie = xcb_grab_button_checked(
+    held_.emplace(button, std::move(masks));
+}
+
+std::vector<std::uint16_t>
+X11MouseButtonGrab::grab(xcb_button_t button, const std::vector<std::uint16_t>& masks) {
+    std::vector<xcb_void_cookie_t> asked;
+    for (const std::uint16_t mask : masks)
+        asked.push_back(xcb_grab_button_checked(
             connection_, false, connection_.root(), XCB_EVENT_MASK_BUTTON_PRESS,
             XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_WINDOW_NONE, XCB_CURSOR_NONE, button,
-            XCB_MOD_MASK_ANY);
-        asked.emplace_back(button, cookie);
-    }
-    for (const auto& [button, cookie] : asked) {
-        const XcbOwned<xcb_generic_error_t> error(xcb_request_check(connection_, cookie));
+            mask));
+    std::vector<std::uint16_t> granted;
+    for (std::size_t i = 0; i < masks.size(); ++i) {
+        const XcbOwned<xcb_generic_error_t> error(xcb_request_check(connection_, asked[i]));
         if (!error)
-            held_.insert(button);
+            granted.push_back(masks[i]);
     }
-    xcb_flush(connection_);
-    return held_ == wanted_;
+    return granted;
+}
+
+void X11MouseButtonGrab::ungrab(xcb_button_t button, const std::vector<std::uint16_t>& masks) {
+    for (const std::uint16_t mask : masks)
+        xcb_ungrab_button(connection_, button, connection_.root(), mask);
+}
+
+std::set<xcb_button_t> X11MouseButtonGrab::missing() const {
+    std::set<xcb_button_t> buttons = wanted_;
+    std::erase_if(buttons, [this](xcb_button_t button) { return held_.contains(button); });
+    return buttons;
 }
 
 bool X11MouseButtonGrab::adopt(const EventTapInterest& interest) {
@@ -71,11 +112,11 @@ bool X11MouseButtonGrab::adopt(const EventTapInterest& interest) {
 }
 
 QString X11MouseButtonGrab::refusedName() const {
-    const std::set<xcb_button_t> missing = without(wanted_, held_);
+    const std::set<xcb_button_t> refused = missing();
     // The user counts from 1.
-    return missing.empty()
+    return refused.empty()
                ? QString()
-               : u"🖱️ Mouse button %1"_s.arg(numberFromXButton(*missing.begin()) + 1);
+               : u"🖱️ Mouse button %1"_s.arg(numberFromXButton(*refused.begin()) + 1);
 }
 
 std::span<const std::chrono::milliseconds> X11MouseButtonGrab::pauses() const {

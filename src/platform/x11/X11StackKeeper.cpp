@@ -1,5 +1,6 @@
 #include "platform/x11/X11StackKeeper.h"
 
+#include "platform/x11/PrimaryOutput.h"
 #include "platform/x11/WindowQueries.h"
 
 #include <algorithm>
@@ -97,7 +98,7 @@ void X11StackKeeper::scheduleCheck() {
 void X11StackKeeper::check(bool evenIfRaisedLately) {
     const std::vector<WindowAbove> above = readWindowsAbove();
     const std::vector<std::uint32_t> raises =
-        windowsToRaise(window_, readFrame(window_), readFrame(connection_.root()), above);
+        windowsToRaise(window_, readFrame(window_), readScreenSize().height(), above);
     if (raises.empty())
         return;
     if (!evenIfRaisedLately && limiter_.delay(now()).count() > 0) {
@@ -151,6 +152,12 @@ std::vector<WindowAbove> X11StackKeeper::readWindowsAbove() {
              .transient = hasTypeOf(*type, types)});
     }
     return above;
+}
+
+QSize X11StackKeeper::readScreenSize() const {
+    // Not the root window, which spans all screens: a locker may have a window on each.
+    const auto output = readPrimaryOutput(connection_);
+    return output ? output->size : readFrame(connection_.root()).size();
 }
 
 QRect X11StackKeeper::readFrame(xcb_window_t window) const {

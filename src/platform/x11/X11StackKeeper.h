@@ -25,6 +25,7 @@ private:
     void scheduleCheck();
     void check(bool evenIfRaisedLately);
     std::vector<WindowAbove> readWindowsAbove();
+    QSize readScreenSize() const;
     QRect readFrame(xcb_window_t window) const;
     RaiseLimiter::Time now() const { return RaiseLimiter::Time(clock_.elapsed()); }
 

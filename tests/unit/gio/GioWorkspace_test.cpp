@@ -86,7 +86,6 @@ TEST_F(GioWorkspaceTest, FindsWhatPlaysAWellKnownApplication) {
     const QString chromium = folder.add(u"chromium"_s);
     folder.setDefault(u"x-scheme-handler/https"_s, u"browser"_s);
     EXPECT_TRUE(becomes(u"com.apple.Safari"_s, browser));
-    EXPECT_EQ(workspace.applicationLocation(u"com.apple.safari"_s), std::nullopt);
     EXPECT_TRUE(becomes(u"com.google.Chrome"_s, chromium));
 
     // The user chooses another browser.
@@ -232,9 +231,11 @@ TEST_F(GioWorkspaceTest, ActivatesOverTheBus) {
     qputenv("DBUS_SESSION_BUS_ADDRESS", before);
 }
 
-TEST(ApplicationRoles, KnowsExactIdentifiersOnly) {
-    EXPECT_FALSE(applicationRole(u"com.apple.iWork.Pages"_s).isEmpty());
-    for (const QString& unknown : {u"com.apple.iwork.pages"_s, QString(), u"com.apple.Säfari"_s})
+TEST(ApplicationRoles, KnowsWholeIdentifiersInAnyCase) {
+    // "com.apple." and a name make an identifier, so the case is the user's.
+    for (const QString& known : {u"com.apple.iWork.Pages"_s, u"com.apple.Finder"_s})
+        EXPECT_FALSE(applicationRole(known).isEmpty());
+    for (const QString& unknown : {u"com.apple.iwork"_s, QString(), u"com.apple.Säfari"_s})
         EXPECT_TRUE(applicationRole(unknown).isEmpty());
 }
 

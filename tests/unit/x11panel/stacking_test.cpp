@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 class StackingTest : public testing::Test {
 protected:
     std::vector<std::uint32_t> raises(const std::vector<WindowAbove>& above) const {
-        return windowsToRaise(1, panel, screen, above);
+        return windowsToRaise(1, panel, screen.height(), above);
     }
 
     const QRect screen{0, 0, 1512, 982};
