@@ -126,17 +126,17 @@ bool isAnythingDown(const XClient& client) {
 }
 
 bool isKeyboardFree(const XClient& client) {
-    const Reply<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(
-        client,
-        xcb_grab_keyboard(
-            client, false, client.root(), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC,
-            XCB_GRAB_MODE_ASYNC),
-        nullptr));
-    const bool free = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
-    if (free)
-        xcb_ungrab_keyboard(client, XCB_CURRENT_TIME);
-    client.sync();
-    return free;
+    // The server looks for another holder first, and then at the window, which cannot get a grab.
+    const xcb_window_t neverMapped = xcb_generate_id(client);
+    xcb_create_window(
+        client, 0, neverMapped, client.root(), 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+        XCB_COPY_FROM_PARENT, 0, nullptr);
+    const auto question = xcb_grab_keyboard(
+        client, false, neverMapped, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    xcb_destroy_window(client, neverMapped);
+    const Reply<xcb_grab_keyboard_reply_t> reply(
+        xcb_grab_keyboard_reply(client, question, nullptr));
+    return reply && reply->status == XCB_GRAB_STATUS_NOT_VIEWABLE;
 }
 
 } // namespace velmora::test
