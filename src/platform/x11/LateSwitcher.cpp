@@ -35,14 +35,29 @@ void LateSwitcher::watch(std::vector<xcb_keycode_t> modifiers, xcb_keycode_t ine
     modifiers_ = std::move(modifiers);
     inert_ = inert;
     checksLeft_ = 5;
+    checksLeftWithout_ = 100;
+    askManagerToAnswer();
     timer_.start();
 }
 
+void LateSwitcher::askManagerToAnswer() {
+    // Resizing a window is up to the window manager, which hears of it after the keys. Without one
+    // the server does it at once.
+    awaitedWidth_ = awaitedWidth_ == 1 ? 2 : 1;
+    const uint32_t width = awaitedWidth_;
+    xcb_configure_window(connection_, window_, XCB_CONFIG_WINDOW_WIDTH, &width);
+    xcb_flush(connection_);
+}
+
 void LateSwitcher::check() {
-    if (--checksLeft_ == 0)
-        timer_.stop();
+    const auto geometryCookie = xcb_get_geometry(connection_, window_);
     const auto question = askWhetherHeld();
     const auto keymapCookie = xcb_query_keymap(connection_);
+    const XcbOwned<xcb_get_geometry_reply_t> geometry(
+        xcb_get_geometry_reply(connection_, geometryCookie, nullptr));
+    const bool hasAnswered = geometry && geometry->width == awaitedWidth_;
+    if (--(hasAnswered ? checksLeft_ : checksLeftWithout_) == 0)
+        timer_.stop();
     const bool held = isHeld(question);
     const XcbOwned<xcb_query_keymap_reply_t> keymap(
         xcb_query_keymap_reply(connection_, keymapCookie, nullptr));

@@ -23,19 +23,23 @@ public:
     /// Waits for the answer.
     bool isHeld(xcb_grab_keyboard_cookie_t question);
 
-    /// Watches for half a second for a client that takes the keyboard although no key is down, and
-    /// then taps `modifiers`, with the key `inert` (0 for none) inside: a modifier tapped alone
-    /// means something of its own to some window managers.
+    /// Watches for a client that takes the keyboard although no key is down, and then taps
+    /// `modifiers`, with the key `inert` (0 for none) inside: a modifier tapped alone means
+    /// something of its own to some window managers. Goes on until half a second after the window
+    /// manager has shown that it got as far, and gives up on one that stands still for long.
     void watch(std::vector<xcb_keycode_t> modifiers, xcb_keycode_t inert);
 
 private:
+    void askManagerToAnswer();
     void check();
 
     X11Connection& connection_;
-    xcb_window_t window_; ///< never mapped: it cannot get a grab
+    xcb_window_t window_;       ///< never mapped: it cannot get a grab
+    uint16_t awaitedWidth_ = 1; ///< of the window, once the window manager has answered; pixels
     std::vector<xcb_keycode_t> modifiers_;
     xcb_keycode_t inert_ = 0;
-    int checksLeft_ = 0;
+    int checksLeft_ = 0;        ///< once the window manager has answered
+    int checksLeftWithout_ = 0; ///< while it has not
     QTimer timer_;
 };
 

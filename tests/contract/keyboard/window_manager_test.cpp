@@ -1,0 +1,194 @@
+// Combinations that belong to a window manager: it opens its switcher at the press, and must close
+// it again after the release, whatever the user holds and however slow it is.
+
+#include "platform/KeyboardEvents.h"
+#include "platform/x11/X11Session.h"
+#include "support/Desktop.h"
+#include "support/Driver.h"
+#include "support/TestDisplay.h"
+#include "support/Witness.h"
+
+#include <QElapsedTimer>
+#include <functional>
+#include <gtest/gtest.h>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+using namespace velmora::test;
+
+namespace {
+
+constexpr auto physical = Driver::Keyboard::Physical;
+constexpr uint8_t lock = 2, alt = 8, numLock = 16;
+
+/// Types Alt+Tab as the program does.
+class AltTab {
+public:
+    /// `whileDown` runs between the press and the release.
+    void type(const std::function<void()>& whileDown = [] {}) {
+        post(true);
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        whileDown();
+        post(false);
+    }
+
+private:
+    void post(bool keyDown) {
+        auto event = events_.createKeyboardEvent(*source_, 48, keyDown);
+        ASSERT_TRUE(event);
+        event->setFlags(kCGEventFlagMaskAlternate);
+        events_.post(EventTapLocation::sessionEventTap, *event);
+    }
+
+    std::unique_ptr<X11Session> session_ = X11Session::create();
+    KeyboardEvents& events_ = session_->keyboardEvents();
+    std::unique_ptr<EventSource> source_ =
+        events_.createEventSource(EventSourceState::combinedSessionState);
+};
+
+/// A display of its own; afterwards the usual one is back.
+class OwnDisplay : public testing::TestWithParam<const char*> {
+protected:
+    ~OwnDisplay() override {
+        qputenv("DISPLAY", usualDisplay_);
+        qputenv("DBUS_SESSION_BUS_ADDRESS", usualBus_);
+    }
+
+private:
+    QByteArray usualDisplay_ = qgetenv("DISPLAY");
+    QByteArray usualBus_ = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+
+protected:
+    TestDisplay display;
+};
+
+class WindowManager : public OwnDisplay {
+protected:
+    WindowManager() {
+        // xfwm4 does not start without a session bus.
+        QProcess& bus = display.start(u"dbus-daemon"_s, {u"--session"_s, u"--print-address"_s});
+        EXPECT_TRUE(waitFor([&] { return bus.waitForReadyRead(10) || bus.canReadLine(); }));
+        qputenv("DBUS_SESSION_BUS_ADDRESS", bus.readLine().trimmed());
+        display.startWindowManager(QString::fromLatin1(GetParam()));
+    }
+};
+
+/// What the user does with the Alt key meanwhile.
+enum class UsersAlt { Up, LetGoBetweenPressAndRelease, LetGoAfterwards };
+
+TEST_P(WindowManager, SwitchesWindowsAndLeavesNoSwitcherOpen) {
+    XClient client;
+    Witness first;
+    Witness second(QRect(600, 200, 300, 200));
+    AltTab altTab;
+    Driver driver;
+    // Where the bar is. xfwm4 keeps the keyboard, after a user's own Alt+Tab too, while the pointer
+    // is where its switcher was and no window is below.
+    driver.move(200, 3);
+    for (const uint8_t locks : {0, lock | numLock}) {
+        for (const UsersAlt usersAlt :
+             {UsersAlt::Up, UsersAlt::LetGoBetweenPressAndRelease, UsersAlt::LetGoAfterwards}) {
+            SCOPED_TRACE(testing::Message() << "locks " << int(locks) << " Alt " << int(usersAlt));
+            lockModifiers(client, locks, true);
+            const KeyboardState untouched = keyboardState(client);
+            if (usersAlt != UsersAlt::Up)
+                driver.pressKey("LALT", physical);
+            KeyboardState expected = keyboardState(client);
+            const xcb_window_t active = activeWindow(client);
+            altTab.type([&] {
+                if (usersAlt != UsersAlt::LetGoBetweenPressAndRelease)
+                    return;
+                driver.releaseKey("LALT", physical);
+                expected = untouched;
+            });
+            // xfwm4 grabs synchronously: the keyboard moves on when it has looked at the key.
+            EXPECT_TRUE(waitFor([&] { return keyboardState(client) == expected; }));
+            // As with the user's own Tab, a held Alt may keep the switcher until it is let go.
+            if (usersAlt == UsersAlt::LetGoAfterwards)
+                driver.releaseKey("LALT", physical);
+            EXPECT_TRUE(waitFor([&] { return activeWindow(client) != active; }));
+            EXPECT_TRUE(waitFor([&] { return isKeyboardFree(client); }));
+            EXPECT_FALSE(isAnythingDown(client));
+            lockModifiers(client, 0xff, false);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Keyboard, WindowManager, testing::Values("openbox", "xfwm4"),
+    [](const auto& manager) { return std::string(manager.param); });
+
+/// The least of a window manager: it has Alt+Tab for itself, opens its switcher, and closes that
+/// when Alt is let go. It does nothing before it is asked to work.
+class SlowManager {
+public:
+    SlowManager() {
+        const uint32_t redirect = XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT;
+        xcb_change_window_attributes(client_, client_.root(), XCB_CW_EVENT_MASK, &redirect);
+        xcb_grab_key(
+            client_, false, client_.root(), alt, tab_, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+        client_.sync();
+    }
+
+    /// Deals with what has happened since, and tells whether that closed the switcher.
+    bool work() {
+        hasSwitched_ = false;
+        client_.sync();
+        while (const Reply<xcb_generic_event_t> event{xcb_poll_for_event(client_)})
+            handle(*event);
+        client_.sync();
+        return hasSwitched_;
+    }
+
+private:
+    void handle(const xcb_generic_event_t& event) {
+        const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(event);
+        switch (event.response_type) {
+        case XCB_KEY_PRESS:
+            if (key.detail == tab_)
+                xcb_grab_keyboard(
+                    client_, false, client_.root(), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC,
+                    XCB_GRAB_MODE_ASYNC);
+            break;
+        case XCB_KEY_RELEASE:
+            if (key.detail != alt_)
+                break;
+            xcb_ungrab_keyboard(client_, XCB_CURRENT_TIME);
+            hasSwitched_ = true;
+            break;
+        case XCB_CONFIGURE_REQUEST: {
+            const auto& request = reinterpret_cast<const xcb_configure_request_event_t&>(event);
+            const uint32_t width = request.width;
+            xcb_configure_window(client_, request.window, XCB_CONFIG_WINDOW_WIDTH, &width);
+            break;
+        }
+        }
+    }
+
+    XClient client_;
+    Driver driver_;
+    uint8_t tab_ = driver_.keycode("TAB");
+    uint8_t alt_ = driver_.keycode("LALT");
+    bool hasSwitched_ = false;
+};
+
+TEST_F(OwnDisplay, ASwitcherThatOpensLateIsClosed) {
+    XClient client;
+    SlowManager manager;
+    AltTab altTab;
+    for (const int standsStill : {0, 1200}) { // milliseconds
+        altTab.type();
+        EXPECT_TRUE(waitFor([&] { return isKeyboardFree(client); }));
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_TRUE(waitFor([&] { return timer.hasExpired(standsStill); }));
+        manager.work();
+        EXPECT_FALSE(isKeyboardFree(client));
+        EXPECT_TRUE(waitFor([&] { return manager.work(); }));
+        EXPECT_TRUE(isKeyboardFree(client));
+        EXPECT_FALSE(isAnythingDown(client));
+    }
+}
+
+} // namespace
