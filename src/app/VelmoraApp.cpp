@@ -1,9 +1,11 @@
 #include "app/VelmoraApp.h"
 
+#include "app/AfterFirstPaint.h"
 #include "app/AppDelegate.h"
 #include "app/TerminationSignals.h"
 #include "foundation/HelperPath.h"
 #include "foundation/LocalizedString.h"
+#include "platform/KeyboardEvents.h"
 #include "platform/Platform.h"
 #include "platform/SingleInstance.h"
 #include "viewkit/AccessibleViews.h"
@@ -23,6 +25,9 @@ int VelmoraApp::main() {
     installAccessibleViews();
     appDelegate = std::make_unique<AppDelegate>();
     QTimer::singleShot(0, appDelegate.get(), &AppDelegate::applicationDidFinishLaunching);
+    new AfterFirstPaint(QCoreApplication::instance(), [] {
+        Platform::current().keyboardEvents.releaseAbandonedKeys();
+    });
     const int status = QApplication::exec();
     // A launch from here on must not count on this instance.
     Platform::current().singleInstance.makeRoom();

@@ -34,6 +34,10 @@ class KeyboardEvents {
 public:
     virtual ~KeyboardEvents() = default;
 
+    /// Lets go of the keys that an earlier process left down when it was killed between a press and
+    /// its release. Call once at start.
+    virtual void releaseAbandonedKeys() = 0;
+
     /// An event source, or nothing when the session cannot synthesise keys.
     virtual std::unique_ptr<EventSource> createEventSource(EventSourceState state) = 0;
 

@@ -107,6 +107,19 @@ TEST(Actions, FourKindsRunByClickAndNeverTakeTheFocus) {
             u"✅ Key combo sent successfully"_s));
 }
 
+TEST(Actions, KeysThatAKilledVelmoraLeftDownAreLetGoAtStart) {
+    Session session;
+    session.driver().pressKey("AB03");
+    const uint8_t left = session.driver().keycode("AB03");
+    XClient& client = session.client();
+    xcb_change_property(
+        client, XCB_PROP_MODE_REPLACE, client.root(), client.atom("_VELMORA_PRESSED_KEYS"),
+        XCB_ATOM_CARDINAL, 8, 1, &left);
+    client.sync();
+    session.launch();
+    EXPECT_TRUE(waitFor([&] { return !isAnythingDown(client); }));
+}
+
 TEST(Actions, ShellCommandsNeverHoldTheBar) {
     Session session(withButtons({
         button(u"Endless"_s, ExecuteShellCommand{u"sleep 20"_s}),

@@ -16,6 +16,8 @@ public:
     int sourcesAsked = 0;
     std::vector<KeyboardEvent> posted;
 
+    void releaseAbandonedKeys() override {}
+
     std::unique_ptr<EventSource> createEventSource(EventSourceState) override {
         ++sourcesAsked;
         return hasSource ? std::make_unique<EventSource>() : nullptr;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/x11/XcbOwned.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QSocketNotifier>
@@ -9,13 +11,6 @@
 #include <xcb/xcb.h>
 
 namespace velmora {
-
-/// xcb hands out replies, events and errors that the caller frees.
-struct Freed {
-    void operator()(void* pointer) const { ::free(pointer); }
-};
-template<typename T>
-using XcbOwned = std::unique_ptr<T, Freed>;
 
 /// Our own connection to the X server, beside Qt's. Main thread only. When the server goes away the
 /// process ends with one line.

@@ -1,5 +1,6 @@
 #include "platform/x11/X11KeyboardEvents.h"
 
+#include "platform/x11/AbandonedKeys.h"
 #include "platform/x11/ExactModifiers.h"
 #include "platform/x11/SyntheticKeys.h"
 #include "platform/x11/Xkb.h"
@@ -11,10 +12,6 @@
 
 namespace velmora {
 namespace {
-
-/// On the root window while keys are pressed: their keycodes. A process killed between press and
-/// release leaves it behind, and the next one lets go of the keys.
-constexpr char pressedKeysProperty[] = "_VELMORA_PRESSED_KEYS";
 
 bool hasExtension(X11Connection& connection, xcb_extension_t& id) {
     const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection, &id);
@@ -40,14 +37,19 @@ X11KeyboardEvents::~X11KeyboardEvents() {
     askBefore();
 }
 
+void X11KeyboardEvents::releaseAbandonedKeys() {
+    if (hasExtension(connection_, xcb_test_id))
+        velmora::releaseAbandonedKeys(connection_);
+}
+
 std::unique_ptr<EventSource> X11KeyboardEvents::createEventSource(EventSourceState) {
     if (!keyboard_.isAvailable() || !hasExtension(connection_, xcb_test_id))
         return nullptr;
     if (!lateSwitcher_) {
         lateSwitcher_ = std::make_unique<LateSwitcher>(connection_);
         trial_ = ChordTrial::open();
+        watcher_ = std::make_unique<KeyWatcher>(connection_);
     }
-    releaseAbandoned();
     return std::make_unique<EventSource>();
 }
 
@@ -167,21 +169,6 @@ void X11KeyboardEvents::notePressed() {
         xcb_change_property(
             connection_, XCB_PROP_MODE_REPLACE, connection_.root(), property, XCB_ATOM_CARDINAL, 8,
             static_cast<uint32_t>(pressed_.size()), pressed_.data());
-}
-
-void X11KeyboardEvents::releaseAbandoned() {
-    const XcbOwned<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        connection_,
-        xcb_get_property(
-            connection_, true, connection_.root(), connection_.atom(pressedKeysProperty),
-            XCB_ATOM_CARDINAL, 0, 8),
-        nullptr));
-    if (!reply || reply->format != 8)
-        return;
-    const auto* keycodes = static_cast<const xcb_keycode_t*>(xcb_get_property_value(reply.get()));
-    for (uint32_t i = 0; i < reply->value_len; ++i)
-        SyntheticKeys::release(connection_, keycodes[i]);
-    xcb_flush(connection_);
 }
 
 } // namespace velmora

@@ -2,6 +2,7 @@
 
 #include "platform/KeyboardEvents.h"
 #include "platform/x11/ChordTrial.h"
+#include "platform/x11/KeyWatcher.h"
 #include "platform/x11/LateSwitcher.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11Keyboard.h"
@@ -21,6 +22,7 @@ public:
     /// Lets go of what is still pressed.
     ~X11KeyboardEvents() override;
 
+    void releaseAbandonedKeys() override;
     /// Nothing when the server lacks XTEST or XKB.
     std::unique_ptr<EventSource> createEventSource(EventSourceState state) override;
     std::optional<KeyboardEvent>
@@ -34,12 +36,12 @@ private:
     void release(xcb_keycode_t keycode, uint8_t mask);
     void restore(const std::vector<xcb_keycode_t>& held);
     void notePressed();
-    void releaseAbandoned();
 
     X11Connection& connection_;
     const X11Keyboard& keyboard_;
     std::unique_ptr<ChordTrial> trial_;
     std::unique_ptr<LateSwitcher> lateSwitcher_; ///< there from the first event source on
+    std::unique_ptr<KeyWatcher> watcher_;        ///< likewise
     std::vector<xcb_keycode_t>
         pressed_; ///< what is down in the user's place: modifiers, then the key
     std::vector<xcb_keycode_t> heldWhilePressed_; ///< the user's keys to restore at the release
