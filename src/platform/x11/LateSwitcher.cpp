@@ -31,9 +31,11 @@ bool LateSwitcher::isHeld(xcb_grab_keyboard_cookie_t question) {
     return reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
 }
 
-void LateSwitcher::watch(std::vector<xcb_keycode_t> modifiers, xcb_keycode_t inert) {
+void LateSwitcher::watch(
+    std::vector<xcb_keycode_t> modifiers, xcb_keycode_t inert, std::function<bool()> isTaken) {
     modifiers_ = std::move(modifiers);
     inert_ = inert;
+    isTaken_ = std::move(isTaken);
     checksLeft_ = 5;
     checksLeftWithout_ = 100;
     askManagerToAnswer();
@@ -42,8 +44,8 @@ void LateSwitcher::watch(std::vector<xcb_keycode_t> modifiers, xcb_keycode_t ine
 
 void LateSwitcher::askManagerToAnswer() {
     // Resizing a window is up to the window manager, which hears of it after the keys. Without one
-    // the server does it at once.
-    awaitedWidth_ = awaitedWidth_ == 1 ? 2 : 1;
+    // the server does it at once. A width not asked for before: an earlier answer may still come.
+    awaitedWidth_ = static_cast<uint16_t>(awaitedWidth_ % 1000 + 1);
     const uint32_t width = awaitedWidth_;
     xcb_configure_window(connection_, window_, XCB_CONFIG_WINDOW_WIDTH, &width);
     xcb_flush(connection_);
@@ -62,7 +64,8 @@ void LateSwitcher::check() {
     const XcbOwned<xcb_query_keymap_reply_t> keymap(
         xcb_query_keymap_reply(connection_, keymapCookie, nullptr));
     // While the user holds a key, its release is still to come.
-    if (!held || !keymap || std::ranges::any_of(keymap->keys, [](uint8_t byte) { return byte; }))
+    if (!held || !keymap || std::ranges::any_of(keymap->keys, [](uint8_t byte) { return byte; }) ||
+        !isTaken_())
         return;
     timer_.stop();
     for (const xcb_keycode_t keycode : modifiers_)

@@ -3,6 +3,7 @@
 #include "platform/x11/X11Connection.h"
 
 #include <QTimer>
+#include <functional>
 #include <vector>
 
 namespace velmora {
@@ -25,9 +26,12 @@ public:
 
     /// Watches for a client that takes the keyboard although no key is down, and then taps
     /// `modifiers`, with the key `inert` (0 for none) inside: a modifier tapped alone means
-    /// something of its own to some window managers. Goes on until half a second after the window
-    /// manager has shown that it got as far, and gives up on one that stands still for long.
-    void watch(std::vector<xcb_keycode_t> modifiers, xcb_keycode_t inert);
+    /// something of its own to some window managers. Only if `isTaken` then says that the
+    /// combination belongs to another client: others may take the keyboard, too. Goes on until half
+    /// a second after the window manager has shown that it got as far, and gives up on one that
+    /// stands still for long.
+    void
+    watch(std::vector<xcb_keycode_t> modifiers, xcb_keycode_t inert, std::function<bool()> isTaken);
 
 private:
     void askManagerToAnswer();
@@ -38,6 +42,7 @@ private:
     uint16_t awaitedWidth_ = 1; ///< of the window, once the window manager has answered; pixels
     std::vector<xcb_keycode_t> modifiers_;
     xcb_keycode_t inert_ = 0;
+    std::function<bool()> isTaken_;
     int checksLeft_ = 0;        ///< once the window manager has answered
     int checksLeftWithout_ = 0; ///< while it has not
     QTimer timer_;

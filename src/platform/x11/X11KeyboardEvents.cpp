@@ -95,6 +95,7 @@ void X11KeyboardEvents::press(xcb_keycode_t keycode, uint8_t mask) {
     if (!pressed_.empty())
         release(pressed_.back(), 0);
     // A combination without modifiers leaves no switcher open, whoever takes it.
+    pressedMask_ = mask;
     std::optional<ChordTrial::Question> question;
     if (mask && trial_)
         question = trial_->ask(keycode, mask);
@@ -129,6 +130,7 @@ void X11KeyboardEvents::release(xcb_keycode_t keycode, uint8_t mask) {
     });
     auto modifiers = std::exchange(pressed_, {});
     std::erase(modifiers, keycode);
+    const uint8_t pressedMask = std::exchange(pressedMask_, 0);
     std::optional<xcb_grab_keyboard_cookie_t> switcher;
     {
         // Real modifier keys give the state by themselves.
@@ -140,13 +142,17 @@ void X11KeyboardEvents::release(xcb_keycode_t keycode, uint8_t mask) {
             SyntheticKeys::release(connection_, modifier);
         notePressed();
     }
-    if (switcher) {
-        // A keyboard frozen by a synchronous grab shows the key as down: then the grab says
-        // nothing.
-        const bool frozen = isDown(askBefore().keymap, keycode);
-        if (!lateSwitcher_->isHeld(*switcher) || frozen)
-            lateSwitcher_->watch(std::move(modifiers), keyboard_.modifiers().silentKey());
-    }
+    // A keyboard frozen by a synchronous grab shows the key as down: then the grab says nothing.
+    const bool seesRelease =
+        switcher && lateSwitcher_->isHeld(*switcher) && !isDown(askBefore().keymap, keycode);
+    // A combination that seemed free may be taken for all that: a window manager that reads the
+    // keyboard map anew lets go of its keys for a moment.
+    if (pressedMask && trial_ && !seesRelease)
+        lateSwitcher_->watch(
+            keyboard_.modifiers().keysFor(pressedMask), keyboard_.modifiers().silentKey(),
+            [this, keycode, pressedMask] {
+                return trial_->isTaken(trial_->ask(keycode, pressedMask));
+            });
     held.insert(held.end(), heldWhilePressed_.begin(), heldWhilePressed_.end());
     heldWhilePressed_.clear();
     restore(held);

@@ -43,7 +43,8 @@ private:
     std::unique_ptr<LateSwitcher> lateSwitcher_; ///< there from the first event source on
     std::unique_ptr<KeyWatcher> watcher_;        ///< likewise
     std::vector<xcb_keycode_t>
-        pressed_; ///< what is down in the user's place: modifiers, then the key
+        pressed_;             ///< what is down in the user's place: modifiers, then the key
+    uint8_t pressedMask_ = 0; ///< the modifiers of the key that is down
     std::vector<xcb_keycode_t> heldWhilePressed_; ///< the user's keys to restore at the release
 };
 

@@ -83,6 +83,7 @@ TEST_P(WindowManager, SwitchesWindowsAndLeavesNoSwitcherOpen) {
     Witness second(QRect(600, 200, 300, 200));
     AltTab altTab;
     Driver driver;
+    EXPECT_TRUE(waitFor([&] { return activeWindow(client) == second.window(); }));
     // Where the bar is. xfwm4 keeps the keyboard, after a user's own Alt+Tab too, while the pointer
     // is where its switcher was and no window is below.
     driver.move(200, 3);
@@ -126,8 +127,23 @@ public:
     SlowManager() {
         const uint32_t redirect = XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT;
         xcb_change_window_attributes(client_, client_.root(), XCB_CW_EVENT_MASK, &redirect);
+        takeCombination();
+    }
+
+    /// The combination is its own, or free for a moment.
+    void takeCombination() {
         xcb_grab_key(
             client_, false, client_.root(), alt, tab_, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+        client_.sync();
+    }
+    void leaveCombination() {
+        xcb_ungrab_key(client_, tab_, client_.root(), alt);
+        client_.sync();
+    }
+    void openSwitcher() {
+        xcb_grab_keyboard(
+            client_, false, client_.root(), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC,
+            XCB_GRAB_MODE_ASYNC);
         client_.sync();
     }
 
@@ -147,9 +163,7 @@ private:
         switch (event.response_type) {
         case XCB_KEY_PRESS:
             if (key.detail == tab_)
-                xcb_grab_keyboard(
-                    client_, false, client_.root(), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC,
-                    XCB_GRAB_MODE_ASYNC);
+                openSwitcher();
             break;
         case XCB_KEY_RELEASE:
             if (key.detail != alt_)
@@ -189,6 +203,34 @@ TEST_F(OwnDisplay, ASwitcherThatOpensLateIsClosed) {
         EXPECT_TRUE(isKeyboardFree(client));
         EXPECT_FALSE(isAnythingDown(client));
     }
+}
+
+TEST_F(OwnDisplay, ASwitcherOfACombinationThatSeemedFreeIsClosed) {
+    XClient client;
+    SlowManager manager;
+    AltTab altTab;
+    // As when it reads the keyboard map anew just when the combination is typed.
+    manager.leaveCombination();
+    altTab.type([&] {
+        manager.takeCombination();
+        manager.openSwitcher();
+    });
+    manager.work();
+    EXPECT_FALSE(isKeyboardFree(client));
+    EXPECT_TRUE(waitFor([&] { return manager.work(); }));
+    EXPECT_TRUE(isKeyboardFree(client));
+    EXPECT_FALSE(isAnythingDown(client));
+
+    // Who takes the keyboard after a combination that is nobody's is left alone.
+    manager.leaveCombination();
+    altTab.type([&] { manager.openSwitcher(); });
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_TRUE(waitFor([&] {
+        EXPECT_FALSE(manager.work());
+        return timer.hasExpired(300); // three looks
+    }));
+    EXPECT_FALSE(isKeyboardFree(client));
 }
 
 } // namespace
