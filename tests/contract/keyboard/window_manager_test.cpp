@@ -74,6 +74,23 @@ protected:
     }
 };
 
+/// Waits until the window manager has dealt with everything so far, focus and keyboard map
+/// included: resizing a window of ours is up to it.
+void letManagerCatchUp(const XClient& client) {
+    const xcb_window_t window = xcb_generate_id(client);
+    xcb_create_window(
+        client, 0, window, client.root(), 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+        XCB_COPY_FROM_PARENT, 0, nullptr);
+    const uint32_t width = 2;
+    xcb_configure_window(client, window, XCB_CONFIG_WINDOW_WIDTH, &width);
+    EXPECT_TRUE(waitFor([&] {
+        const Reply<xcb_get_geometry_reply_t> geometry(
+            xcb_get_geometry_reply(client, xcb_get_geometry(client, window), nullptr));
+        return geometry->width == width;
+    }));
+    xcb_destroy_window(client, window);
+}
+
 /// What the user does with the Alt key meanwhile.
 enum class UsersAlt { Up, LetGoBetweenPressAndRelease, LetGoAfterwards };
 
@@ -95,6 +112,7 @@ TEST_P(WindowManager, SwitchesWindowsAndLeavesNoSwitcherOpen) {
             const KeyboardState untouched = keyboardState(client);
             if (usersAlt != UsersAlt::Up)
                 driver.pressKey("LALT", physical);
+            letManagerCatchUp(client);
             KeyboardState expected = keyboardState(client);
             const xcb_window_t active = activeWindow(client);
             altTab.type([&] {
