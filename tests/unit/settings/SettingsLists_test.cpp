@@ -2,6 +2,7 @@
 
 #include "foundation/ActionMessages.h"
 #include "foundation/Bundle.h"
+#include "foundation/Log.h"
 #include "foundation/UserDefaults.h"
 #include "input/MouseButtonManager.h"
 #include "model/ShortcutManager.h"
@@ -278,6 +279,7 @@ TEST(VersionLine, SaysSoEachTimeItShowsAnUnknownVersion) {
         line.show();
         const QString once = u"⚠️ InfoDictionary is nil or missing keys.\nBundle Path: %1\n"
                              u"InfoDictionary: %2\n"_s.arg(Bundle::bundlePath(), description);
+        Log::flush();
         EXPECT_EQ(
             QString::fromStdString(testing::internal::GetCapturedStdout()),
             isKnown ? QString() : once.repeated(2));

@@ -2,6 +2,7 @@
 
 #include "foundation/ActionMessages.h"
 #include "foundation/Bundle.h"
+#include "foundation/Log.h"
 #include "foundation/UserDefaults.h"
 #include "input/MouseButtonManager.h"
 #include "model/ShortcutManager.h"
@@ -75,9 +76,11 @@ TEST_F(SettingsWindowTest, IsMadeOnceAndDroppedWhenItCloses) {
     testing::internal::CaptureStdout();
     first->close();
     EXPECT_FALSE(window_.window());
+    Log::flush();
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
     testing::internal::CaptureStdout();
     EXPECT_TRUE(waitFor([&] { return !first; }));
+    Log::flush();
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "🗑️ SettingsWindow released\n");
 
     window_.show();

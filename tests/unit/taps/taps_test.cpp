@@ -1,5 +1,6 @@
 // The decisions of the event taps, without a display.
 
+#include "foundation/Log.h"
 #include "platform/x11/ChordStates.h"
 #include "platform/x11/KeyLabels.h"
 #include "platform/x11/MouseButtonNumbers.h"
@@ -182,6 +183,7 @@ TEST_F(Tap, AsksAgainAfterGrowingPausesWhileItsHandlerWantsIt) {
     EXPECT_TRUE(tap->isEnabled());
     EXPECT_THAT(types, testing::Each(EventType::tapDisabledByUserInput));
     EXPECT_EQ(types.size(), 3U);
+    Log::flush();
     EXPECT_EQ(
         testing::internal::GetCapturedStdout(),
         "X is held by another program; trying again\nX works again\n");
