@@ -3,6 +3,7 @@
 #include "support/TestDisplay.h"
 
 #include <algorithm>
+#include <xcb/xinput.h>
 #define explicit explicitModifiers // a member's name in this header
 #include <xcb/xkb.h>
 #undef explicit
@@ -79,10 +80,6 @@ QImage screenshot(const XClient& client, const QRect& area) {
         .copy();
 }
 
-bool saveScreenshot(const XClient& client, const QString& path) {
-    return screenshot(client).save(path, "PNG");
-}
-
 QRgb pixel(const XClient& client, const QPoint& place) {
     const QImage image = screenshot(client, QRect(place, QSize(1, 1)));
     return image.isNull() ? 0 : image.pixel(0, 0);
@@ -114,6 +111,22 @@ KeyboardState keyboardState(const XClient& client) {
     const Reply<xcb_xkb_get_state_reply_t> reply(xcb_xkb_get_state_reply(
         client, xcb_xkb_get_state(client, XCB_XKB_ID_USE_CORE_KBD), nullptr));
     return {reply->mods, reply->baseMods, reply->latchedMods, reply->lockedMods, reply->group};
+}
+
+uint8_t inputDevice(const XClient& client, uint16_t type) {
+    Reply<xcb_input_xi_query_version_reply_t>(xcb_input_xi_query_version_reply(
+        client, xcb_input_xi_query_version(client, 2, 2), nullptr));
+    const Reply<xcb_input_xi_query_device_reply_t> reply(xcb_input_xi_query_device_reply(
+        client, xcb_input_xi_query_device(client, XCB_INPUT_DEVICE_ALL), nullptr));
+    for (auto info = xcb_input_xi_query_device_infos_iterator(reply.get()); info.rem;
+         xcb_input_xi_device_info_next(&info)) {
+        const QByteArray name(
+            xcb_input_xi_device_info_name(info.data),
+            xcb_input_xi_device_info_name_length(info.data));
+        if (info.data->type == type && !name.contains("XTEST"))
+            return static_cast<uint8_t>(info.data->deviceid);
+    }
+    qFatal("the display lacks a device");
 }
 
 bool isAnythingDown(const XClient& client) {

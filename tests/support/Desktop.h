@@ -29,8 +29,6 @@ std::vector<TopWindow> topWindows(const XClient& client);
 
 /// What the screen shows (all of it when `area` is empty). Pixels, top-left origin.
 QImage screenshot(const XClient& client, const QRect& area = {});
-/// Saves what the screen shows as a PNG file.
-bool saveScreenshot(const XClient& client, const QString& path);
 QRgb pixel(const XClient& client, const QPoint& place);
 
 /// Sets the keyboard's layout ("fr", "us,ru", …) with setxkbmap and waits until it is in force.
@@ -51,6 +49,8 @@ struct KeyboardState {
 };
 KeyboardState keyboardState(const XClient& client);
 
+/// The first input device of a type (XCB_INPUT_DEVICE_TYPE_…) that is not XTEST's own.
+uint8_t inputDevice(const XClient& client, uint16_t type);
 /// Whether any key or button is down on the session's keyboard and pointer.
 bool isAnythingDown(const XClient& client);
 /// Whether another client could grab the keyboard now: no switcher or menu holds it.

@@ -1,5 +1,7 @@
 #include "support/Driver.h"
 
+#include "support/Desktop.h"
+
 #include <algorithm>
 #include <xcb/xinput.h>
 #include <xcb/xtest.h>
@@ -32,28 +34,11 @@ QHash<QByteArray, uint8_t> readKeycodes(const XClient& client) {
     return keycodes;
 }
 
-/// The first keyboard that is not the one XTEST types on.
-uint8_t findPhysicalKeyboard(const XClient& client) {
-    Reply<xcb_input_xi_query_version_reply_t>(xcb_input_xi_query_version_reply(
-        client, xcb_input_xi_query_version(client, 2, 2), nullptr));
-    const Reply<xcb_input_xi_query_device_reply_t> reply(xcb_input_xi_query_device_reply(
-        client, xcb_input_xi_query_device(client, XCB_INPUT_DEVICE_ALL), nullptr));
-    for (auto device = xcb_input_xi_query_device_infos_iterator(reply.get()); device.rem;
-         xcb_input_xi_device_info_next(&device)) {
-        const QByteArray name(
-            xcb_input_xi_device_info_name(device.data),
-            xcb_input_xi_device_info_name_length(device.data));
-        if (device.data->type == XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD && !name.contains("XTEST"))
-            return static_cast<uint8_t>(device.data->deviceid);
-    }
-    qFatal("the display has no keyboard");
-}
-
 } // namespace
 
 Driver::Driver()
     : keycodes_(readKeycodes(client_)),
-      physicalKeyboard_(findPhysicalKeyboard(client_)),
+      physicalKeyboard_(inputDevice(client_, XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD)),
       inputEventBase_(xcb_get_extension_data(client_, &xcb_input_id)->first_event) {}
 
 Driver::~Driver() {

@@ -2,46 +2,31 @@
 
 #include "platform/EventTap.h"
 
-#include <QCoreApplication>
-#include <QTimer>
-#include <algorithm>
+#include <QList>
+#include <gtest/gtest.h>
 #include <utility>
 #include <vector>
 
 namespace velmora::test {
 
-/// A session in memory: taps get what the test sends, as far as they asked for it. Refusals are
-/// reported in the next turn of the event loop; retries happen only when the test says so.
+/// A session in memory: taps get what the test sends, as far as they asked for it.
 class FakeEventTaps final : public EventTaps {
 public:
     /// A tap that lives now.
     struct Tap final : EventTap {
         ~Tap() override { std::erase(session->taps, this); }
 
-        void setEnabled(bool on) override {
-            if (on == enabled)
-                return;
-            enabled = on;
-            granted = on && !std::exchange(refusedBefore, false) && session->ask(*this);
-            if (!on)
-                refusedBefore = false;
-        }
+        void setEnabled(bool on) override { enabled = on; }
         bool isEnabled() const override { return enabled; }
         void setInterest(EventTapInterest newInterest) override {
             interest = std::move(newInterest);
         }
 
         FakeEventTaps* session = nullptr;
-        EventTapLocation location{};
-        EventTapPlacement placement{};
-        EventTapOptions options{};
         std::uint64_t eventsOfInterest = 0;
         EventTapInterest interest;
         Handler handler;
         bool enabled = false;
-        bool granted = false; ///< enabled and not refused: events come
-        bool refusedBefore = false;
-        QObject context; ///< ends pending reports with the tap
     };
 
     /// The live taps, oldest first.
@@ -50,8 +35,6 @@ public:
     bool allowsTaps = true;
     /// What went past all taps to the application in front, in order.
     QList<TapEvent> passedOn;
-    /// How often a tap was refused.
-    int refusals = 0;
 
     /// The test's key events carry the position itself.
     KeyCode keyCode(std::uint32_t nativeScanCode) const override {
@@ -61,13 +44,13 @@ public:
     std::unique_ptr<EventTap> create(
         EventTapLocation location, EventTapPlacement placement, EventTapOptions options,
         std::uint64_t eventsOfInterest, EventTapInterest interest, Handler handler) override {
+        EXPECT_EQ(location, EventTapLocation::sessionEventTap);
+        EXPECT_EQ(placement, EventTapPlacement::headInsert);
+        EXPECT_EQ(options, EventTapOptions::defaultTap);
         if (!allowsTaps)
             return nullptr;
         auto tap = std::make_unique<Tap>();
         tap->session = this;
-        tap->location = location;
-        tap->placement = placement;
-        tap->options = options;
         tap->eventsOfInterest = eventsOfInterest;
         tap->interest = std::move(interest);
         tap->handler = std::move(handler);
@@ -75,34 +58,18 @@ public:
         return tap;
     }
 
-    /// Another program takes, or lets go of, whatever taps ask for from now on. Letting go grants
-    /// the taps that are enabled.
-    void setHeldElsewhere(bool held) {
-        heldElsewhere_ = held;
-        if (!held)
-            retry();
-    }
-
-    /// Asks again for every enabled tap that was not granted, as a session does after a pause.
-    void retry() {
-        for (Tap* tap : std::vector(taps)) {
-            if (tap->enabled && !tap->granted)
-                tap->granted = ask(*tap);
-        }
-    }
-
     /// Switches `tap` off as a session does on its own, and tells its handler so.
     void disable(Tap& tap, EventType reason) {
-        tap.enabled = tap.granted = false;
+        tap.enabled = false;
         const Handler handler = tap.handler;
         handler(reason, TapEvent{.type = reason});
     }
 
-    /// The user does something: true when a tap swallowed it. The newest granted tap that wants it
+    /// The user does something: true when a tap swallowed it. The newest enabled tap that wants it
     /// decides; without one, or when the handler returns it, it is passed on.
     bool send(const TapEvent& event) {
         for (auto tap = taps.rbegin(); tap != taps.rend(); ++tap) {
-            if (!(*tap)->granted || !wants(**tap, event))
+            if (!(*tap)->enabled || !wants(**tap, event))
                 continue;
             // Every key of the session is taken, releases too, though no handler hears of those.
             if (!((*tap)->eventsOfInterest & eventMaskBit(event.type)))
@@ -133,21 +100,6 @@ public:
     }
 
 private:
-    bool ask(Tap& tap) {
-        if (!heldElsewhere_)
-            return true;
-        ++refusals;
-        // A tap for every key waits by itself; the others are switched off.
-        if (std::holds_alternative<TapInterest::EveryKey>(tap.interest))
-            return false;
-        tap.enabled = false;
-        QTimer::singleShot(0, &tap.context, [this, &tap] {
-            tap.refusedBefore = true;
-            disable(tap, EventType::tapDisabledByUserInput);
-        });
-        return false;
-    }
-
     static bool wants(const Tap& tap, const TapEvent& event) {
         const bool asked = tap.eventsOfInterest & eventMaskBit(event.type);
         if (const auto* chord = std::get_if<TapInterest::Chord>(&tap.interest))
@@ -159,8 +111,6 @@ private:
         return event.type == EventType::keyDown || event.type == EventType::keyUp ||
                event.type == EventType::flagsChanged;
     }
-
-    bool heldElsewhere_ = false;
 };
 
 } // namespace velmora::test

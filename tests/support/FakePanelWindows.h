@@ -4,7 +4,9 @@
 
 #include <QPointer>
 #include <QStringList>
+#include <QVariant>
 #include <QWidget>
+#include <gtest/gtest.h>
 #include <vector>
 
 namespace velmora::test {
@@ -12,17 +14,10 @@ namespace velmora::test {
 /// What became of one panel window; outlives the window itself.
 struct PanelWindowRecord {
     QRectF contentRect;
-    unsigned styleMask = 0;
-    int level = 0;
-    unsigned collectionBehavior = 0;
-    QColor backgroundColor = Qt::white;
-    bool hasShadow = true;
-    bool opaque = true;
-    bool ignoresMouseEvents = true;
-    double alphaValue = 1.0;
+    QStringList
+        calls; ///< "setLevel 25": the setters with their values, in the order of their calls
     bool onScreen = false;
     QPointer<QWidget> contentView;
-    QStringList calls; ///< the names of the setters, in the order of their calls
 };
 
 /// Makes panel windows that only take notes.
@@ -42,33 +37,26 @@ public:
         delete record_->contentView;
     }
 
-    void setLevel(int level) override { note("setLevel", record_->level = level); }
+    void setLevel(int level) override { note("setLevel", level); }
     void setCollectionBehavior(unsigned behavior) override {
-        note("setCollectionBehavior", record_->collectionBehavior = behavior);
+        note("setCollectionBehavior", behavior);
     }
     void setBackgroundColor(const QColor& color) override {
-        note("setBackgroundColor", record_->backgroundColor = color);
+        note("setBackgroundColor", color.name(QColor::HexArgb));
     }
-    void setHasShadow(bool hasShadow) override {
-        note("setHasShadow", record_->hasShadow = hasShadow);
-    }
-    void setOpaque(bool opaque) override { note("setOpaque", record_->opaque = opaque); }
-    void setIgnoresMouseEvents(bool ignores) override {
-        note("setIgnoresMouseEvents", record_->ignoresMouseEvents = ignores);
-    }
-    void setAlphaValue(double alpha) override {
-        note("setAlphaValue", record_->alphaValue = alpha);
-    }
+    void setHasShadow(bool hasShadow) override { note("setHasShadow", hasShadow); }
+    void setOpaque(bool opaque) override { note("setOpaque", opaque); }
+    void setIgnoresMouseEvents(bool ignores) override { note("setIgnoresMouseEvents", ignores); }
+    void setAlphaValue(double alpha) override { note("setAlphaValue", alpha); }
     void orderFrontRegardless() override { note("orderFrontRegardless", record_->onScreen = true); }
     void setContentView(QWidget* view) override {
         view->setGeometry(QRectF({0, 0}, record_->contentRect.size()).toRect());
-        note("setContentView", record_->contentView = view);
+        record_->contentView = view;
     }
 
 private:
-    template<typename Value>
-    void note(const char* call, const Value&) {
-        record_->calls += QString::fromLatin1(call);
+    void note(const char* call, const QVariant& value) {
+        record_->calls += QString::fromLatin1(call) + u' ' + value.toString();
     }
 
     std::shared_ptr<PanelWindowRecord> record_;
@@ -78,7 +66,7 @@ inline std::unique_ptr<PanelWindow>
 FakePanelWindows::create(const QRectF& contentRect, unsigned styleMask) {
     auto record = std::make_shared<PanelWindowRecord>();
     record->contentRect = contentRect;
-    record->styleMask = styleMask;
+    EXPECT_EQ(styleMask, 0x8080U);
     windows.push_back(record);
     return std::make_unique<FakePanelWindow>(record);
 }

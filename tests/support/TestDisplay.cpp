@@ -44,8 +44,7 @@ TestDisplay::TestDisplay(int width, int height) {
     ::close(pipe[0]);
     if (number.isEmpty())
         qFatal("Xvfb did not start");
-    name_ = u':' + QString::fromLatin1(number);
-    qputenv("DISPLAY", name_.toLatin1());
+    qputenv("DISPLAY", ':' + number);
     processes_.push_back(std::move(xvfb));
 }
 

@@ -16,9 +16,6 @@ public:
     explicit TestDisplay(int width = 1512, int height = 982);
     ~TestDisplay();
 
-    /// ":<number>".
-    const QString& name() const { return name_; }
-
     /// Ends the server at once, with its clients still connected.
     void kill();
 
@@ -38,7 +35,6 @@ public:
 private:
     QProcessEnvironment makeXfceEnvironment();
 
-    QString name_;
     QTemporaryDir xfceSettings_;
     std::vector<std::unique_ptr<QProcess>> processes_;
 };

@@ -77,14 +77,13 @@ void Witness::markAsInUse() const {
 
 void Witness::record(const xcb_generic_event_t& event) {
     const uint8_t type = event.response_type & 0x7f;
-    const auto now = std::chrono::steady_clock::now();
     if (type >= XCB_KEY_PRESS && type <= XCB_BUTTON_RELEASE) {
         // Keys and buttons have one layout.
         const auto& input = reinterpret_cast<const xcb_key_press_event_t&>(event);
-        events_.push_back({type, input.detail, input.state, now});
+        events_.push_back({type, input.detail, input.state});
     } else if (type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT) {
         const auto& focus = reinterpret_cast<const xcb_focus_in_event_t&>(event);
-        events_.push_back({type, focus.detail, focus.mode, now});
+        events_.push_back({type, focus.detail, focus.mode});
     }
 }
 
@@ -114,17 +113,6 @@ bool Witness::waitForInput(size_t count) {
                    return event.type <= XCB_BUTTON_RELEASE;
                }) >= static_cast<std::ptrdiff_t>(count);
     });
-}
-
-Witness::Event Witness::next() {
-    const size_t before = events_.size();
-    while (events_.size() == before) {
-        const Reply<xcb_generic_event_t> event(xcb_wait_for_event(client_));
-        if (!event)
-            qFatal("the display went away");
-        record(*event);
-    }
-    return events_.back();
 }
 
 void Witness::clear() {

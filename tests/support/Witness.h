@@ -4,7 +4,6 @@
 
 #include <QRect>
 #include <QString>
-#include <chrono>
 
 namespace velmora::test {
 
@@ -17,7 +16,6 @@ public:
         uint8_t type;   ///< XCB_KEY_PRESS …; focus events too
         uint8_t detail; ///< keycode, button, or the focus event's detail
         uint16_t state; ///< modifiers and buttons just before it; the mode of a focus event
-        std::chrono::steady_clock::time_point arrival; ///< when this program read it
     };
 
     /// Maps the window and takes the focus; aborts the test program when it cannot. Pixels.
@@ -36,8 +34,6 @@ public:
     std::vector<Event> keys();
     /// Waits until at least `count` key and button events are there.
     bool waitForInput(size_t count);
-    /// Blocks this thread until an event arrives, and gives it.
-    Event next();
     /// Forgets what came so far.
     void clear();
 

@@ -1,7 +1,7 @@
 // main() of the event-tap contract tests: a display with a window manager, and the application on
 // it.
 
-#include "X11World.h"
+#include "World.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

@@ -1,9 +1,6 @@
-// What EventTaps promises, on the session in memory that other tests use and on a real X server.
+// What EventTaps promises: who gets a press, and when.
 
 #include "World.h"
-#include "support/TestDisplay.h"
-
-#include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
@@ -18,39 +15,13 @@ constexpr EventFlags shift = kCGEventFlagMaskShift;
 constexpr EventFlags control = kCGEventFlagMaskControl;
 constexpr EventFlags command = kCGEventFlagMaskCommand;
 
-struct WorldKind {
-    const char* name;
-    std::unique_ptr<World> (*make)();
-};
-
-class Taps : public testing::TestWithParam<WorldKind> {
-protected:
-    void makeEnabled(EventTapInterest interest) {
-        tap.make(world->taps(), std::move(interest));
-        ASSERT_TRUE(tap.tap);
-        tap.tap->setEnabled(true);
-    }
-    void makeCapture() { makeEnabled(TapInterest::EveryKey{&world->focusedView()}); }
-    void type(const Key& key, EventFlags flags = 0) { world->type(key, flags, tap); }
-    void click(std::int64_t number) { world->click(number, tap); }
-
-    std::unique_ptr<World> world = GetParam().make();
-    TapUnderTest tap;
-    const TapInterest::Chord optionM{keyM.code, option};
-};
-
-INSTANTIATE_TEST_SUITE_P(
-    Session, Taps,
-    testing::Values(WorldKind{"fake", makeFakeWorld}, WorldKind{"x11", makeX11World}),
-    [](const auto& kind) { return kind.param.name; });
-
-TEST_P(Taps, AChordIsTakenAndNothingElse) {
+TEST_F(TapsTest, AChordIsTakenAndNothingElse) {
     makeEnabled(optionM);
     type(keyM);
     type(keyM, command);
     type(keyA, option);
     EXPECT_THAT(tap.events, IsEmpty());
-    EXPECT_THAT(world->reachedFront(), ElementsAre(46, 46, 0));
+    EXPECT_THAT(world.reachedFront(), ElementsAre(46, 46, 0));
 
     for (const EventFlags also :
          {EventFlags(0), shift, command, control, shift | command | control}) {
@@ -62,11 +33,11 @@ TEST_P(Taps, AChordIsTakenAndNothingElse) {
         EXPECT_FALSE(tap.events.back().isRepeat);
     }
     EXPECT_EQ(tap.events.size(), 5U);
-    EXPECT_EQ(world->reachedFront().size(), 3U);
+    EXPECT_EQ(world.reachedFront().size(), 3U);
 }
 
-TEST_P(Taps, OnlyWhileEnabledAndAlive) {
-    tap.make(world->taps(), optionM);
+TEST_F(TapsTest, OnlyWhileEnabledAndAlive) {
+    tap.make(world.taps(), optionM);
     EXPECT_FALSE(tap.tap->isEnabled());
     type(keyM, option);
     tap.tap->setEnabled(true);
@@ -79,63 +50,48 @@ TEST_P(Taps, OnlyWhileEnabledAndAlive) {
     tap.tap.reset();
     type(keyM, option);
     EXPECT_EQ(tap.presses(), 2U);
-    EXPECT_EQ(world->reachedFront().size(), 3U);
+    EXPECT_EQ(world.reachedFront().size(), 3U);
 }
 
-TEST_P(Taps, BoundButtonsAreTakenAndEditsFollowAtOnce) {
+TEST_F(TapsTest, BoundButtonsAreTakenAndEditsFollowAtOnce) {
     makeEnabled(TapInterest::MouseButtons{{0, 1, 3, 4, -7, 251, 5000}});
     for (const std::int64_t number : {0, 2, 3, 4, 5})
         click(number);
     EXPECT_THAT(tap.pressed(), ElementsAre(3, 4));
-    EXPECT_THAT(world->reachedFront(), ElementsAre(0, 2, 5));
+    EXPECT_THAT(world.reachedFront(), ElementsAre(0, 2, 5));
 
     tap.tap->setInterest(TapInterest::MouseButtons{{4, 5, 2}});
     for (const std::int64_t number : {2, 3, 4, 5})
         click(number);
     EXPECT_THAT(tap.pressed(), ElementsAre(3, 4, 2, 4, 5));
-    EXPECT_THAT(world->reachedFront(), ElementsAre(0, 2, 5, 3));
+    EXPECT_THAT(world.reachedFront(), ElementsAre(0, 2, 5, 3));
 
     tap.tap->setInterest(TapInterest::MouseButtons{});
     click(4);
     EXPECT_EQ(tap.presses(), 5U);
 }
 
-TEST_P(Taps, ARefusalIsReportedAndTheTapWorksOnceTheOtherLetsGo) {
+TEST_F(TapsTest, ARefusalIsReportedAndTheTapWorksOnceTheOtherLetsGo) {
     for (const EventTapInterest& interest :
          {EventTapInterest(optionM), EventTapInterest(TapInterest::MouseButtons{{3}})}) {
         tap = {};
-        world->holdElsewhere(true);
+        std::optional<OtherProgram> holder(std::in_place);
+        EXPECT_TRUE(holder->takeChord(world.driver.keycode(keyM.name)) && holder->takeButton(8));
         makeEnabled(interest);
         EXPECT_TRUE(waitFor([this] { return tap.refusals > 0; }));
         EXPECT_TRUE(tap.tap->isEnabled()) << "waiting";
-        world->holdElsewhere(false);
+        holder.reset();
         // Whether the next try has come shows in the press going to the tap.
-        const bool works = waitFor([&] {
-            if (interest.index() == 0)
-                type(keyM, option);
-            else
-                click(3);
+        EXPECT_TRUE(waitFor([&] {
+            interest.index() == 0 ? type(keyM, option) : click(3);
             return !tap.events.empty();
-        });
-        EXPECT_TRUE(works);
-        tap.tap.reset();
+        }));
     }
 }
 
-TEST_P(Taps, ARefusedTapStaysOffWhenItsHandlerDoesNotAskAgain) {
-    world->holdElsewhere(true);
-    tap.asksAgain = false;
-    makeEnabled(optionM);
-    EXPECT_TRUE(waitFor([this] { return tap.refusals == 1; }));
-    EXPECT_FALSE(tap.tap->isEnabled());
-    world->holdElsewhere(false);
-    type(keyM, option);
-    EXPECT_THAT(world->reachedFront(), ElementsAre(46));
-}
-
-TEST_P(Taps, CaptureTakesEveryKeyWithItsFlagsAndCharacters) {
+TEST_F(TapsTest, CaptureTakesEveryKeyWithItsFlagsAndCharacters) {
     TapUnderTest chord;
-    chord.make(world->taps(), optionM);
+    chord.make(world.taps(), optionM);
     chord.tap->setEnabled(true);
     makeCapture();
     struct Case {
@@ -170,30 +126,31 @@ TEST_P(Taps, CaptureTakesEveryKeyWithItsFlagsAndCharacters) {
         }
     }
     EXPECT_THAT(chord.events, IsEmpty());
-    EXPECT_THAT(world->reachedFront(), IsEmpty());
+    EXPECT_THAT(world.reachedFront(), IsEmpty());
 }
 
-TEST_P(Taps, CaptureEndsAtOnceWithTheTap) {
+TEST_F(TapsTest, CaptureEndsAtOnceWithTheTap) {
     makeCapture();
-    EXPECT_FALSE(world->isKeyboardFree());
+    EXPECT_FALSE(world.isKeyboardFree());
     tap.tap->setEnabled(false);
-    EXPECT_TRUE(waitFor([this] { return world->isKeyboardFree(); }, 100));
+    EXPECT_TRUE(waitFor([this] { return world.isKeyboardFree(); }, 100));
     tap.tap->setEnabled(true);
-    EXPECT_FALSE(world->isKeyboardFree());
+    EXPECT_FALSE(world.isKeyboardFree());
     tap.tap.reset();
-    EXPECT_TRUE(waitFor([this] { return world->isKeyboardFree(); }, 100));
+    EXPECT_TRUE(waitFor([this] { return world.isKeyboardFree(); }, 100));
     type(keyA);
     EXPECT_THAT(tap.events, IsEmpty());
-    EXPECT_THAT(world->reachedFront(), ElementsAre(0));
+    EXPECT_THAT(world.reachedFront(), ElementsAre(0));
 }
 
-TEST_P(Taps, CaptureWaitsForTheKeyboardWithoutAReport) {
-    QWidget& view = world->focusedView();
-    world->holdKeyboardElsewhere(true);
+TEST_F(TapsTest, CaptureWaitsForTheKeyboardWithoutAReport) {
+    QWidget& view = world.focusedView();
+    std::optional<OtherProgram> holder(std::in_place);
+    EXPECT_TRUE(holder->takeKeyboard());
     makeEnabled(TapInterest::EveryKey{&view});
     EXPECT_TRUE(tap.tap->isEnabled());
-    world->holdKeyboardElsewhere(false);
-    EXPECT_TRUE(waitFor([this] { return !world->isKeyboardFree(); }));
+    holder.reset();
+    EXPECT_TRUE(waitFor([this] { return !world.isKeyboardFree(); }));
     type(keyA);
     EXPECT_THAT(tap.pressed(), ElementsAre(0));
     EXPECT_EQ(tap.refusals, 0);
