@@ -10,8 +10,6 @@
 #include <cmath>
 #include <xcb/randr.h>
 
-using namespace Qt::StringLiterals;
-
 namespace velmora::test {
 namespace {
 
@@ -95,9 +93,6 @@ TEST_F(AnyScale, StripIsCoveredToThePixel) {
         // Less than a point more than asked for.
         const int below = pixels + static_cast<int>(std::ceil(ratio));
         EXPECT_FALSE(isGradient(pixel(client, {displaySize.width() / 2, below})));
-        const QString folder = qEnvironmentVariable("VELMORA_TEST_SCREENSHOTS");
-        if (!folder.isEmpty())
-            saveScreenshot(client, u"%1/strip-%2-%3.png"_s.arg(folder).arg(ratio).arg(pixels));
     }
 }
 

@@ -1,16 +1,14 @@
 // Launches on one display, each with a connection of its own.
 
-#include "Launch.h"
-#include "platform/Relaunch.h"
+#include "platform/x11/X11SingleInstance.h"
 #include "support/TestDisplay.h"
 #include "support/XClient.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QTemporaryDir>
 #include <array>
 #include <atomic>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <thread>
 #include <vector>
 
@@ -18,6 +16,12 @@ using namespace velmora;
 using namespace velmora::test;
 
 namespace {
+
+/// What a launch has of the session.
+struct Launch {
+    std::unique_ptr<X11Connection> connection = X11Connection::open();
+    X11SingleInstance instance{*connection};
+};
 
 /// Whether a launch waits for the instance that has the place to go.
 bool isWaitedFor() {
@@ -45,13 +49,6 @@ TEST(SingleInstance, ASecondLaunchAsksTheFirstToComeForward) {
     EXPECT_FALSE(Launch().instance.claim());
     EXPECT_LT(clock.elapsed(), 100);
     EXPECT_TRUE(waitFor([&] { return asked == 2; }));
-}
-
-TEST(SingleInstance, APlaceIsFreeOnceItsInstanceHasGone) {
-    for (int round = 0; round < 3; ++round) {
-        Launch launch;
-        EXPECT_TRUE(launch.instance.claim());
-    }
 }
 
 TEST(SingleInstance, OfLaunchesAtTheSameMomentOneStays) {
@@ -103,25 +100,11 @@ TEST(SingleInstance, AnInstanceThatNeverGoesIsNotWaitedForForever) {
     EXPECT_FALSE(Launch().instance.claim()) << "the new one has the place";
 }
 
-TEST(Relaunch, HandsThePlaceOnEachTime) {
-    const QTemporaryDir folder;
-    for (int round = 0; round < 10; ++round) {
-        SCOPED_TRACE(round);
-        auto old = std::make_unique<Launch>();
-        // The one before may still be ending.
-        ASSERT_TRUE(waitFor([&] { return old->instance.claim(); }));
-        const QString mark = folder.filePath(QString::number(round));
-        qputenv(relaunchMark, mark.toUtf8());
-        bool completed = false;
-        relaunch(old->instance, [&] { completed = true; });
-        qunsetenv(relaunchMark);
-        EXPECT_FALSE(completed) << "in a later turn";
-        EXPECT_TRUE(waitFor([&] { return completed; }));
-        EXPECT_TRUE(waitFor(isWaitedFor));
-        EXPECT_FALSE(QFile::exists(mark));
-        old.reset();
-        EXPECT_TRUE(waitFor([&] { return QFile::exists(mark); }));
-    }
-}
-
 } // namespace
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    const TestDisplay display;
+    return RUN_ALL_TESTS();
+}
