@@ -6,19 +6,7 @@
 namespace velmora {
 namespace {
 
-using test::FakeScreens;
 using test::screenOf;
-
-struct GeometryCase {
-    const char* name;
-    std::optional<Screen> screen;
-    double menuBarHeight;
-    bool hasNotch;
-    QRectF notch;
-    NotchSafeZones zones;
-};
-
-class Geometry : public testing::TestWithParam<GeometryCase> {};
 
 // QRectF compares with a tolerance; the geometry is promised to the last bit.
 void expectSameBits(const QRectF& actual, const QRectF& expected) {
@@ -28,59 +16,36 @@ void expectSameBits(const QRectF& actual, const QRectF& expected) {
     EXPECT_EQ(actual.height(), expected.height());
 }
 
-TEST_P(Geometry, FollowsFromFrameAndTopInset) {
-    const GeometryCase& expected = GetParam();
-    FakeScreens screens;
-    screens.screen = expected.screen;
+TEST(ScreenManagerTest, GeometryFollowsFromFrameAndTopInset) {
+    const struct {
+        std::optional<Screen> screen;
+        double menuBarHeight;
+        QRectF notch;
+        NotchSafeZones zones;
+    } cases[] = {
+        {std::nullopt, 24, {0, 0, 0, 0}, {0, 0}},
+        {screenOf(1920, 1080), 24, {0, 0, 0, 0}, {1920, 0}},
+        {screenOf(1512, 982, 32), 32, {529.2, 950, 453.59999999999997, 32}, {529.2, 529.2}},
+        {screenOf(1440, 900, 32), 32, {504, 868, 432, 32}, {504, 504}},
+        {screenOf(1000, 500, 1e-9), 1e-9, {350, 500 - 1e-9, 300, 1e-9}, {350, 350}},
+        {screenOf(1000, 500, -1), 24, {0, 0, 0, 0}, {1000, 0}},
+        {Screen{{-1440, 300, 1440, 900}, {1, 32, 3, 4}}, 32, {504, 868, 432, 32}, {504, 504}},
+        {std::nullopt, 24, {0, 0, 0, 0}, {0, 0}},
+    };
+    test::FakeScreens screens; // asked anew each time
     const ScreenManager manager(screens);
-    EXPECT_EQ(manager.getMenuBarHeight(), expected.menuBarHeight);
-    EXPECT_EQ(manager.hasNotch(), expected.hasNotch);
-    expectSameBits(manager.getNotchBounds(), expected.notch);
-    EXPECT_EQ(manager.getNotchSafeZones().left, expected.zones.left);
-    EXPECT_EQ(manager.getNotchSafeZones().right, expected.zones.right);
-    expectSameBits(
-        manager.getScreenFrame(), expected.screen ? expected.screen->frame : QRectF(0, 0, 0, 0));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Screens, Geometry,
-    testing::Values(
-        GeometryCase{"None", std::nullopt, 24, false, {0, 0, 0, 0}, {0, 0}},
-        GeometryCase{"WithoutNotch", screenOf(1920, 1080), 24, false, {0, 0, 0, 0}, {1920, 0}},
-        GeometryCase{
-            "Laptop14",
-            screenOf(1512, 982, 32),
-            32,
-            true,
-            {529.2, 950, 453.59999999999997, 32},
-            {529.2, 529.2}},
-        GeometryCase{
-            "Width1440", screenOf(1440, 900, 32), 32, true, {504, 868, 432, 32}, {504, 504}},
-        GeometryCase{
-            "TinyInset",
-            screenOf(1000, 500, 1e-9),
-            1e-9,
-            true,
-            {350, 500 - 1e-9, 300, 1e-9},
-            {350, 350}},
-        GeometryCase{"NegativeInset", screenOf(1000, 500, -1), 24, false, {0, 0, 0, 0}, {1000, 0}},
-        GeometryCase{
-            "ElsewhereThanTheOrigin",
-            Screen{{-1440, 300, 1440, 900}, {0, 32, 0, 0}},
-            32,
-            true,
-            {504, 868, 432, 32},
-            {504, 504}}),
-    [](const auto& geometry) { return geometry.param.name; });
-
-TEST(ScreenManagerTest, AsksForTheScreenEachTime) {
-    FakeScreens screens;
-    const ScreenManager manager(screens);
-    EXPECT_FALSE(manager.getPrimaryScreen());
-    screens.screen = Screen{{0, 0, 1512, 982}, {1, 32, 3, 4}};
-    EXPECT_EQ(manager.getSafeInsets(), QMarginsF(1, 32, 3, 4));
-    screens.screen.reset();
-    EXPECT_EQ(manager.getSafeInsets(), QMarginsF());
+    for (const auto& [screen, menuBarHeight, notch, zones] : cases) {
+        SCOPED_TRACE(menuBarHeight);
+        screens.screen = screen;
+        EXPECT_EQ(manager.getPrimaryScreen().has_value(), screen.has_value());
+        EXPECT_EQ(manager.getSafeInsets(), screen ? screen->safeAreaInsets : QMarginsF());
+        EXPECT_EQ(manager.getMenuBarHeight(), menuBarHeight);
+        EXPECT_EQ(manager.hasNotch(), notch.height() > 0);
+        expectSameBits(manager.getNotchBounds(), notch);
+        EXPECT_EQ(manager.getNotchSafeZones().left, zones.left);
+        EXPECT_EQ(manager.getNotchSafeZones().right, zones.right);
+        expectSameBits(manager.getScreenFrame(), screen ? screen->frame : QRectF(0, 0, 0, 0));
+    }
 }
 
 /// Replaces what the composite queries are made of.
@@ -96,7 +61,7 @@ public:
 };
 
 TEST(ScreenManagerTest, CompositeQueriesHonourSubstitutes) {
-    const FakeScreens none;
+    const test::FakeScreens none;
     SubstitutedManager manager(none);
     EXPECT_EQ(manager.getScreenFrame(), QRectF(0, 0, 1000, 500));
     EXPECT_EQ(manager.getNotchSafeZones(), (NotchSafeZones{100, 700}));
