@@ -84,17 +84,6 @@ TEST(ChildProcess, GathersBothStreamsAsText) {
     }
 }
 
-TEST(ChildProcess, KeepsLongOutputWholeUpToTheLimit) {
-    const Child numbers(u"seq 1000000"_s);
-    EXPECT_EQ(numbers.output().count(u'\n'), 1000000);
-    EXPECT_TRUE(numbers.output().endsWith(u"\n999999\n1000000\n"_s));
-    EXPECT_FALSE(numbers.outcome().truncated);
-
-    const Child flood(u"head -c 70000000 /dev/zero"_s);
-    EXPECT_EQ(flood.output().size(), velmora::ChildProcess::outputLimit);
-    EXPECT_TRUE(flood.outcome().truncated);
-}
-
 TEST(ChildProcess, SaysWhyAProgramDoesNotStart) {
     const Child missing(u"/nonexistent/zsh"_s, {});
     EXPECT_FALSE(missing.isComplete()) << "completions come in a later turn";
