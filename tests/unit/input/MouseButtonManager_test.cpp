@@ -95,21 +95,24 @@ TEST_F(MouseButtonManagerTest, OperationsAnnounceChangeAndSave) {
         });
         one.operation(manager);
         EXPECT_EQ(summary(manager), one.after);
+        const bool isNew = one.after.contains(u'n');
+        EXPECT_EQ(
+            manager.bindings().contains(on3) + manager.bindings().contains(on4) +
+                manager.bindings().contains(on5),
+            isNew)
+            << "a replacement brings its id";
         const bool changes = one.after != before;
         EXPECT_EQ(seen, changes ? QStringList{before} : QStringList());
         EXPECT_EQ(defaults_.data(key), changes ? encodedList(manager.bindings()) : "unsaved"_ba);
     }
 }
 
-TEST_F(MouseButtonManagerTest, AReplacementBringsItsId) {
-    const MouseButtonBinding added = bound(3, u"b"_s);
-    start({bound(3, u"a"_s)}).addBinding(added);
-    EXPECT_EQ(start().bindings().front().id(), added.id());
-}
-
 TEST_F(MouseButtonManagerTest, UnreadableDataIsLeftUntilTheNextSaveAndKeptBeside) {
     const QByteArray bad =
         R"([{"id":"no","buttonNumber":3,"action":{"openURL":{"url":"precious"}}}])";
+    EXPECT_TRUE(start().bindings().isEmpty());
+    EXPECT_FALSE(defaults_.data(key)) << "nothing is stored at first";
+    EXPECT_FALSE(defaults_.data(unreadableKey));
     defaults_.setData(key, bad);
     for (int launch = 0; launch < 2; ++launch) {
         EXPECT_TRUE(start().bindings().isEmpty());
@@ -121,12 +124,6 @@ TEST_F(MouseButtonManagerTest, UnreadableDataIsLeftUntilTheNextSaveAndKeptBeside
     EXPECT_EQ(defaults_.data(unreadableKey), bad);
 }
 
-TEST_F(MouseButtonManagerTest, StartsEmptyAndStoresNothing) {
-    EXPECT_TRUE(start().bindings().isEmpty());
-    EXPECT_FALSE(defaults_.data(key));
-    EXPECT_FALSE(defaults_.data(unreadableKey));
-}
-
 TEST_F(MouseButtonManagerTest, WatchesPressesOfBoundButtonsOnly) {
     start({bound(4, u"a"_s), bound(1, u"b"_s), bound(0, u"c"_s), bound(4, u"d"_s),
            bound(-1, u"e"_s), bound(2, u"f"_s)})
@@ -134,9 +131,6 @@ TEST_F(MouseButtonManagerTest, WatchesPressesOfBoundButtonsOnly) {
     manager_->startMonitoring();
     ASSERT_EQ(taps_.taps.size(), 1U);
     const auto& tap = *taps_.taps.front();
-    EXPECT_EQ(tap.location, EventTapLocation::sessionEventTap);
-    EXPECT_EQ(tap.placement, EventTapPlacement::headInsert);
-    EXPECT_EQ(tap.options, EventTapOptions::defaultTap);
     EXPECT_EQ(tap.eventsOfInterest, 0x2000000U);
     EXPECT_TRUE(tap.enabled);
     EXPECT_EQ(wanted(), (QList<std::int64_t>{4, 2}));
@@ -164,21 +158,15 @@ TEST_F(MouseButtonManagerTest, AnEditCountsFromTheNextPress) {
     EXPECT_EQ(wanted(), QList<std::int64_t>{3});
 
     manager.removeBinding(0);
-    EXPECT_EQ(openedBy(3), QStringList{u"c"_s});
+    opened_.clear();
+    taps_.sendButton(3);
     manager.removeBinding(0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(opened_, QStringList{u"c"_s}) << "what was bound at the press";
     EXPECT_TRUE(wanted().isEmpty());
     EXPECT_TRUE(openedBy(3).isEmpty());
     EXPECT_FALSE(swallowed_);
     EXPECT_EQ(taps_.taps.size(), 1U);
-}
-
-TEST_F(MouseButtonManagerTest, CarriesOutWhatWasBoundAtThePress) {
-    MouseButtonManager& manager = start({bound(3, u"a"_s)});
-    manager.startMonitoring();
-    taps_.sendButton(3);
-    manager.removeBinding(0);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(opened_, QStringList{u"a"_s});
 }
 
 TEST_F(MouseButtonManagerTest, LeavesOtherEventsAndWorksAgainAfterBeingSwitchedOff) {
