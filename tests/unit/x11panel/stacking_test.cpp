@@ -1,56 +1,43 @@
 #include "platform/x11/PanelStacking.h"
 #include "platform/x11/RaiseLimiter.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace velmora {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using namespace std::chrono_literals;
 
-class StackingTest : public testing::Test {
-protected:
-    std::vector<std::uint32_t> raises(const std::vector<WindowAbove>& above) const {
-        return windowsToRaise(1, panel, screen.height(), above);
-    }
-
-    const QRect screen{0, 0, 1512, 982};
-    const QRect panel{0, 0, 1512, 24};
-    const QRect overlapping{100, 10, 50, 50};
+TEST(StackingTest, RaisesThePanelOverWhatMayNotCoverItAndItsMenusInTheirOrder) {
+    const QRect screen(0, 0, 1512, 982);
+    const QRect panel(0, 0, 1512, 24);
+    const QRect overlapping(100, 10, 50, 50);
     const WindowAbove managed{.id = 2, .frame = overlapping};
+    const WindowAbove fullScreen{.id = 2, .frame = screen};
+    const WindowAbove ourSettings{.id = 2, .frame = overlapping, .ours = true};
     const WindowAbove popup{.id = 3, .frame = overlapping, .overrideRedirect = true};
-    const WindowAbove ourMenu{
-        .id = 4, .frame = overlapping, .overrideRedirect = true, .ours = true};
-    const WindowAbove foreignTooltip{
-        .id = 5, .frame = overlapping, .overrideRedirect = true, .transient = true};
-    const WindowAbove locker{.id = 6, .frame = screen, .overrideRedirect = true};
-};
-
-TEST_F(StackingTest, RaisesOverWhatCoversThePanel) {
-    EXPECT_THAT(raises({managed}), ElementsAre(1));
-    EXPECT_THAT(raises({popup}), ElementsAre(1));
-    WindowAbove fullScreen = managed;
-    fullScreen.frame = screen;
-    EXPECT_THAT(raises({fullScreen}), ElementsAre(1));
-    WindowAbove ourSettings = ourMenu;
-    ourSettings.overrideRedirect = false;
-    EXPECT_THAT(raises({ourSettings}), ElementsAre(1));
-}
-
-TEST_F(StackingTest, LeavesAloneWhatMayOrDoesNotCoverIt) {
-    WindowAbove elsewhere = popup;
-    elsewhere.frame = {100, 24, 50, 50};
     WindowAbove hidden = popup;
     hidden.viewable = false;
-    EXPECT_THAT(raises({}), IsEmpty());
-    EXPECT_THAT(raises({elsewhere, hidden, ourMenu, foreignTooltip, locker}), IsEmpty());
-}
-
-TEST_F(StackingTest, KeepsMenusAboveInTheirOrder) {
-    EXPECT_THAT(raises({ourMenu, foreignTooltip, popup}), ElementsAre(1, 4, 5));
-    EXPECT_THAT(raises({foreignTooltip, managed, ourMenu}), ElementsAre(1, 5, 4));
+    const WindowAbove elsewhere{.id = 3, .frame = {100, 24, 50, 50}, .overrideRedirect = true};
+    const WindowAbove menu{.id = 4, .frame = overlapping, .overrideRedirect = true, .ours = true};
+    const WindowAbove tooltip{
+        .id = 5, .frame = overlapping, .overrideRedirect = true, .transient = true};
+    const WindowAbove locker{.id = 6, .frame = screen, .overrideRedirect = true};
+    const struct {
+        std::vector<WindowAbove> above;
+        std::vector<std::uint32_t> raised;
+    } cases[] = {
+        {{}, {}},
+        {{managed}, {1}},
+        {{fullScreen}, {1}},
+        {{ourSettings}, {1}},
+        {{popup}, {1}},
+        {{elsewhere, hidden, menu, tooltip, locker}, {}},
+        {{menu, tooltip, popup}, {1, 4, 5}},
+        {{tooltip, managed, menu}, {1, 5, 4}},
+    };
+    for (const auto& [above, raised] : cases)
+        EXPECT_EQ(windowsToRaise(1, panel, screen.height(), above), raised);
 }
 
 TEST(RaiseLimiterTest, AWarSlowsDownAndACalmIsForgiven) {
