@@ -123,6 +123,12 @@ TEST_F(DraggableScrollTest, CoastingStopsAtAnEnd) {
     }
 }
 
+TEST_F(DraggableScrollTest, TheTimerTicksByItself) {
+    strip.startDeceleration(-1.2);
+    EXPECT_TRUE(test::waitFor([this] { return !strip.isCoasting(); }));
+    EXPECT_GT(strip.offset(), 30);
+}
+
 TEST_F(DraggableScrollTest, APressStopsCoasting) {
     strip.startDeceleration(-10);
     send(Kind::leftMouseDown, {-1, 10});
