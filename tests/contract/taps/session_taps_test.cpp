@@ -17,6 +17,23 @@ namespace {
 
 constexpr EventFlags option = kCGEventFlagMaskAlternate;
 
+TEST_F(TapsTest, TheReleaseOfASwallowedPressReachesTheFront) {
+    TapUnderTest buttons;
+    buttons.make(world.taps(), TapInterest::MouseButtons{{3}});
+    buttons.tap->setEnabled(true);
+    makeEnabled(optionM);
+    type(keyM, option);
+    world.click(3, buttons);
+    const auto hasArrived = [this](uint8_t type, uint8_t detail) {
+        return std::ranges::any_of(world.witness.events(), [&](const Witness::Event& event) {
+            return event.type == type && event.detail == detail;
+        });
+    };
+    EXPECT_TRUE(hasArrived(XCB_KEY_RELEASE, world.driver.keycode(keyM.name)));
+    EXPECT_TRUE(hasArrived(XCB_BUTTON_RELEASE, 8));
+    EXPECT_THAT(world.reachedFront(), IsEmpty());
+}
+
 TEST_F(TapsTest, NeitherALockNorALayoutChangesAnything) {
     makeEnabled(optionM);
     TapUnderTest buttons;
