@@ -89,12 +89,12 @@ bool OtherProgram::takeChord(uint8_t keycode, uint32_t also) {
     return reply && reply->num_modifiers == 0;
 }
 
-bool OtherProgram::takeButton(uint8_t button) {
+bool OtherProgram::takeButton(uint8_t button, uint16_t modifiers) {
     const Reply<xcb_generic_error_t> error(xcb_request_check(
         client_,
         xcb_grab_button_checked(
             client_, false, client_.root(), XCB_EVENT_MASK_BUTTON_PRESS, XCB_GRAB_MODE_ASYNC,
-            XCB_GRAB_MODE_ASYNC, XCB_WINDOW_NONE, XCB_CURSOR_NONE, button, XCB_MOD_MASK_ANY)));
+            XCB_GRAB_MODE_ASYNC, XCB_WINDOW_NONE, XCB_CURSOR_NONE, button, modifiers)));
     return !error;
 }
 

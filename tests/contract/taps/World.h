@@ -51,8 +51,8 @@ public:
     /// A key with Option and `also` (modifier bits), whatever else is locked or held, as XInput 2
     /// clients do; false when any of it is refused.
     bool takeChord(uint8_t keycode, uint32_t also = 0);
-    /// An X button with any modifiers.
-    bool takeButton(uint8_t button);
+    /// An X button with exactly these modifiers.
+    bool takeButton(uint8_t button, uint16_t modifiers = XCB_MOD_MASK_ANY);
     bool takeKeyboard();
     bool takePointer();
 

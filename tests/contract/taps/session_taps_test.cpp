@@ -145,6 +145,22 @@ TEST_F(TapsTest, ATapWorksBesideAnotherProgramsLongerChord) {
     EXPECT_EQ(tap.refusals, 0);
 }
 
+TEST_F(TapsTest, AButtonWorksBesideAnotherProgramsUseOfItWithAModifier) {
+    OtherProgram program;
+    EXPECT_TRUE(program.takeButton(xButton(3), XCB_MOD_MASK_CONTROL));
+    makeEnabled(TapInterest::MouseButtons{{3}});
+    EXPECT_TRUE(tap.tap->isEnabled());
+    click(3);
+    lockModifiers(world.client, XCB_MOD_MASK_LOCK, true);
+    click(3);
+    lockModifiers(world.client, XCB_MOD_MASK_LOCK, false);
+    EXPECT_EQ(tap.presses(), 2U);
+    // Given back as a whole: another program can have all of it.
+    tap.tap.reset();
+    EXPECT_TRUE(waitFor([&] { return OtherProgram().takeButton(xButton(3), 0); }));
+    EXPECT_EQ(tap.refusals, 0);
+}
+
 TEST_F(TapsTest, CaptureChangesNoFocusAndGivesLayoutLetters) {
     QWidget& view = world.focusedView();
     struct FocusCounter : QObject {
