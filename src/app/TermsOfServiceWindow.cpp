@@ -66,6 +66,8 @@ void TermsOfServiceWindow::show(std::function<void()> onAgree) {
 }
 
 void TermsOfServiceWindow::handleAgree() {
+    if (!window_)
+        return; // the same answer again, before the window has gone
     // The button that brought us here belongs to the window: it goes in the next turn.
     window_->hide();
     window_.release()->deleteLater();

@@ -1,0 +1,40 @@
+#include "app/TermsOfServiceWindow.h"
+
+#include "foundation/UserDefaults.h"
+#include "platform/WindowActivation.h"
+
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+namespace {
+
+class FakeActivation : public WindowActivation {
+public:
+    QWidget* shown = nullptr;
+    void makeKeyAndOrderFront(QWidget& window) override {
+        shown = &window;
+        window.show();
+    }
+};
+
+TEST(TermsOfServiceWindow, TakesTheAnswerOnce) {
+    const QTemporaryDir root;
+    UserDefaults defaults(root.path() + u"/velmora.conf"_s);
+    FakeActivation activation;
+    TermsOfServiceWindow terms(defaults, activation);
+    int agreed = 0;
+    terms.show([&] { ++agreed; });
+    for (QPushButton* button : activation.shown->findChildren<QPushButton*>()) {
+        // The second click of a double click comes before the window has gone.
+        for (int click = 0; click < 2 && button->isDefault(); ++click)
+            button->click();
+    }
+    EXPECT_EQ(agreed, 1);
+}
+
+} // namespace
+} // namespace velmora
