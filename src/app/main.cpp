@@ -62,9 +62,10 @@ int main(int argc, char** argv) {
     // Qt reads the fonts' configuration when it draws the first text; beside the start of the rest
     // that takes no time.
     std::jthread fontConfiguration([] { FcInit(); });
+    // Before the application object, whose end waits for the threads that use it.
+    LateWorkspace workspace;
     QApplication application(argc, argv);
     LateAppearance appearance;
-    LateWorkspace workspace;
     StatusNotifierTrayHost statusNotifierTrayHost;
     EitherTrayHost trayHost(statusNotifierTrayHost, session->trayHost());
     const Platform platform{

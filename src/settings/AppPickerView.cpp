@@ -9,6 +9,7 @@
 #include "viewkit/Sheet.h"
 #include "viewkit/Theme.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
@@ -62,6 +63,12 @@ AppPickerView::AppPickerView(
     pages_->addWidget(makeLoadingView());
     pages_->addWidget(list_);
     stack->addLayout(pages_, 1);
+    // The end of the program waits for the thread.
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { scan_.request_stop(); });
+}
+
+AppPickerView::~AppPickerView() {
+    scan_.request_stop();
 }
 
 QWidget* AppPickerView::makeLoadingView() {
@@ -85,29 +92,37 @@ void AppPickerView::showEvent(QShowEvent* event) {
 
 void AppPickerView::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
-    if (!event->spontaneous())
-        model_.setApps({});
+    if (event->spontaneous())
+        return;
+    scan_.request_stop();
+    model_.setApps({});
 }
 
 void AppPickerView::loadApps() {
-    QThreadPool::globalInstance()->start([self = QPointer(this), scanner = scanner_] {
-        auto apps = std::make_shared<SearchableApps>(scanner.getInstalledApps());
-        MainQueue::submit([self, apps] {
-            if (!self)
-                return;
-            self->isLoading_ = false;
-            self->pages_->setCurrentWidget(self->list_);
-            if (self->isVisible())
+    scan_ = std::stop_source();
+    QThreadPool::globalInstance()->start(
+        [self = QPointer(this), scanner = scanner_, stop = scan_.get_token()] {
+            auto apps = std::make_shared<SearchableApps>(scanner.getInstalledApps(stop));
+            MainQueue::submit([self, apps, stop] {
+                if (!self || stop.stop_requested())
+                    return;
+                self->isLoading_ = false;
+                self->pages_->setCurrentWidget(self->list_);
                 self->model_.setApps(std::move(*apps));
+                self->goToFirstFound();
+            });
         });
-    });
 }
 
 void AppPickerView::setSearchText(const QString& text) {
     model_.setSearchText(text);
     list_->scrollToTop();
-    if (!text.isEmpty())
-        list_->setCurrentIndex(model_.index(0)); // what Return picks
+    goToFirstFound();
+}
+
+void AppPickerView::goToFirstFound() {
+    if (!searchField_->edit().text().isEmpty())
+        list_->setCurrentIndex(model_.index(0));
 }
 
 void AppPickerView::pick(const QModelIndex& index) {

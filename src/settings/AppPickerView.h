@@ -15,8 +15,8 @@ class AppListView;
 class SearchField;
 
 /// The chooser of an application, to be shown in a sheet. It scans when it appears, off the main
-/// thread. Typing searches wherever the focus is; the arrows move through the list also from the
-/// search field, and Return picks.
+/// thread, and no longer than it is shown. Typing searches wherever the focus is; the arrows move
+/// through the list also from the search field, and Return picks.
 class AppPickerView : public QWidget {
     Q_OBJECT
 public:
@@ -25,6 +25,7 @@ public:
     AppPickerView(
         const QString& selectedBundleId, std::function<void(const AppInfo&)> onPick,
         AppScanner scanner = AppScanner::shared());
+    ~AppPickerView() override;
 
     /// Whether no scan has ended yet.
     bool isLoading() const { return isLoading_; }
@@ -42,11 +43,14 @@ private:
     QWidget* makeLoadingView();
     void loadApps();
     void setSearchText(const QString& text);
+    /// Makes the first row that was found the current one, which Return picks.
+    void goToFirstFound();
     /// Does what a row is for: picks its application, or shows all.
     void pick(const QModelIndex& index);
 
     std::function<void(const AppInfo&)> onPick_;
     AppScanner scanner_;
+    std::stop_source scan_; ///< of the last scan
     AppListModel model_;
     bool isLoading_ = true;
     SearchField* searchField_;

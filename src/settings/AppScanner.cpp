@@ -63,9 +63,9 @@ bool isPackage(const fs::path& folder) {
 
 /// Appends the applications in `folder` and its ordinary sub-folders, in the order of their names.
 /// Links to folders are not followed.
-void appendApplications(const fs::path& folder, QList<AppInfo>& apps) {
+void appendApplications(const fs::path& folder, QList<AppInfo>& apps, const std::stop_token& stop) {
     std::vector<fs::path> pending{folder};
-    while (!pending.empty()) {
+    while (!pending.empty() && !stop.stop_requested()) {
         const fs::path path = std::move(pending.back());
         pending.pop_back();
         if (path != folder && path.extension() == ".app") {
@@ -127,10 +127,12 @@ const AppScanner& AppScanner::shared() {
     return *instance;
 }
 
-QList<AppInfo> AppScanner::getInstalledApps() const {
+QList<AppInfo> AppScanner::getInstalledApps(const std::stop_token& stop) const {
     QList<AppInfo> apps;
     for (const QString& folder : sources_.folders)
-        appendApplications(QFile::encodeName(folder).toStdString(), apps);
+        appendApplications(QFile::encodeName(folder).toStdString(), apps, stop);
+    if (stop.stop_requested())
+        return apps;
     if (auto finder = getAppInfo(QFile::encodeName(sources_.finder).toStdString());
         finder && !apps.contains(*finder))
         apps.append(std::move(*finder));

@@ -6,6 +6,7 @@
 #include <QList>
 #include <filesystem>
 #include <functional>
+#include <stop_token>
 
 namespace velmora {
 
@@ -28,8 +29,8 @@ public:
 
     /// All applications, ordered by name as the user's language orders, ignoring case; equal names
     /// stay in the order found. An application in two folders is listed twice. Reads the disk: call
-    /// off the main thread.
-    QList<AppInfo> getInstalledApps() const;
+    /// off the main thread. Ends soon after `stop` was requested, with any part of the list.
+    QList<AppInfo> getInstalledApps(const std::stop_token& stop = {}) const;
 
     /// The popular ones among getInstalledApps(), in its order.
     QList<AppInfo> getCommonApps() const;

@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QSemaphore>
 #include <QTest>
+#include <QThreadPool>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -78,6 +79,39 @@ TEST_F(AppPickerViewTest, ClosedWhileScanning) {
     gate.release();
     EXPECT_TRUE(waitFor([this] { return scans == 1; }));
     EXPECT_TRUE(picked.isEmpty());
+}
+
+TEST_F(AppPickerViewTest, AScanEndsWithTheChooser) {
+    // One thread, and that one busy: the scan is still to come when the chooser goes.
+    QThreadPool& pool = *QThreadPool::globalInstance();
+    pool.setMaxThreadCount(1);
+    const std::pair<const char*, std::function<void()>> ends[] = {
+        {"closed", [this] { sheet->reject(); }},
+        {"destroyed", [this] { delete sheet; }},
+        {"program ends", [] { QMetaObject::invokeMethod(qApp, "aboutToQuit"); }},
+    };
+    for (const auto& [name, end] : ends) {
+        SCOPED_TRACE(name);
+        QSemaphore busy;
+        pool.start([&busy] { busy.acquire(); });
+        gate.release();
+        open(30);
+        end();
+        busy.release();
+        pool.waitForDone();
+        EXPECT_EQ(scans, 0);
+        delete sheet;
+    }
+    pool.setMaxThreadCount(QThread::idealThreadCount());
+}
+
+TEST_F(AppPickerViewTest, WhatWasTypedWhileLoadingFindsItsRow) {
+    open(30);
+    QTest::keyClicks(&edit(), u"0025"_s);
+    gate.release();
+    ASSERT_TRUE(waitFor([this] { return picker->model().rowCount() == 1; }));
+    QTest::keyClick(&edit(), Qt::Key_Return);
+    EXPECT_EQ(picked, QStringList{u"org.app25"_s});
 }
 
 TEST_F(AppPickerViewTest, EmptiesTheListWhenItDisappearsAndScansWhenItAppears) {

@@ -55,6 +55,14 @@ protected:
     QTemporaryDir root_;
 };
 
+TEST_F(AppScannerTest, LooksNoFurtherOnceItIsToStop) {
+    bundle(u"Applications/Alpha.app"_s, "alpha", "org.alpha");
+    std::stop_source source;
+    source.request_stop();
+    EXPECT_EQ(
+        scanner({{u"org.b"_s, u"B"_s, {}, {}}}).getInstalledApps(source.get_token()).size(), 0);
+}
+
 TEST_F(AppScannerTest, FindsApplicationsInOrdinaryFolders) {
     bundle(u"Applications/Alpha.app"_s, "alpha", "org.alpha");
     bundle(u"Applications/Utilities/Deep/Beta.app"_s, "Beta", "org.beta");
