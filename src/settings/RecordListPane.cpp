@@ -34,12 +34,12 @@ RecordListPane::RecordListPane(const QString& title, RecordSource source, QWidge
     list_->setAccessibleName(title);
     list_->setReorderable(bool(source_.move));
     connect(list_, &RecordListView::editRequested, this, &RecordListPane::openEditor);
-    connect(list_, &RecordListView::deleteRequested, this, [this](int row) {
-        source_.remove(row);
-        setSelection({});
-    });
+    connect(list_, &RecordListView::deleteRequested, this, &RecordListPane::remove);
     connect(list_, &RecordListView::deleteSelectedRequested, this, &RecordListPane::deleteSelected);
-    connect(list_, &RecordListView::moveRequested, this, source_.move);
+    connect(list_, &RecordListView::moveRequested, this, [this](int from, int to) {
+        source_.move(from, to);
+        reload();
+    });
     connect(
         list_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         [this](const QItemSelection& selected) {
@@ -97,7 +97,13 @@ Sheet* RecordListPane::editor() const {
 void RecordListPane::scheduleReload() {
     // Stores say so before they change, and a move is two changes: read once, afterwards.
     if (!std::exchange(isReloadScheduled_, true))
-        QMetaObject::invokeMethod(this, &RecordListPane::reload, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (isReloadScheduled_)
+                    reload();
+            },
+            Qt::QueuedConnection);
 }
 
 void RecordListPane::reload() {
@@ -134,10 +140,14 @@ void RecordListPane::editSelected() {
 
 void RecordListPane::deleteSelected() {
     const qsizetype index = selection_ ? source_.snapshot().ids.indexOf(*selection_) : -1;
-    if (index < 0)
-        return;
+    if (index >= 0)
+        remove(index);
+}
+
+void RecordListPane::remove(qsizetype index) {
     source_.remove(index);
     setSelection({});
+    reload();
 }
 
 void RecordListPane::openEditor(qsizetype index) {

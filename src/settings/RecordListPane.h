@@ -50,7 +50,10 @@ public:
 private:
     /// An opening of the editor.
     void openEditor(qsizetype index);
+    /// Reads the records now; whoever changes them from here calls it, as the next key may come
+    /// before the next turn.
     void reload();
+    void remove(qsizetype index);
     void setSelection(std::optional<QUuid> selection);
     void editSelected();
     void deleteSelected();
