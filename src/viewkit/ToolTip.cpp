@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QTextBoundaryFinder>
 #include <QToolTip>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -36,7 +37,7 @@ void applyLook() {
     static const bool once [[maybe_unused]] = [] {
         QPalette palette = QToolTip::palette();
         palette.setColor(QPalette::ToolTipBase, QColor(0x26, 0x26, 0x2b));
-        // Also the colour of the frame; the text brings its own.
+        // The colour of the frame; the text brings its own.
         palette.setColor(QPalette::ToolTipText, QColor(0x55, 0x55, 0x5d));
         QToolTip::setPalette(palette);
         QToolTip::setFont(Theme::systemFont(12));
@@ -58,15 +59,18 @@ QString markup(const QString& text) {
             start = end;
         } while (start < paragraph.size());
     }
-    return u"<p style='white-space:pre; color:#f2f2f4'>"_s + lines.join(u"<br/>"_s) + u"</p>"_s;
+    return u"<p style='white-space:pre'>"_s + lines.join(u"<br/>"_s) + u"</p>"_s;
 }
 
 void show(const QHelpEvent& event, QWidget* view, const QString& text) {
     applyLook();
     if (text.isEmpty())
         QToolTip::hideText();
-    else
+    else if (view->testAttribute(Qt::WA_StyleSheet))
         QToolTip::showText(event.globalPos(), markup(text), view);
+    else
+        QToolTip::showText(
+            event.globalPos(), u"<div style='color:#f2f2f4'>"_s + markup(text) + u"</div>"_s, view);
 }
 
 } // namespace velmora::ToolTip

@@ -250,7 +250,7 @@ TEST_F(ContentViewTest, ToolTipsShowTheActionLiterallyThoughTheBarIsNeverActive)
     EXPECT_TRUE(view->testAttribute(Qt::WA_AlwaysShowToolTips));
     QHelpEvent request(QEvent::ToolTip, {5, 5}, button(0)->mapToGlobal(QPoint(5, 5)));
     QCoreApplication::sendEvent(button(0), &request);
-    EXPECT_EQ(QToolTip::text(), ToolTip::markup(displayName(OpenUrl{u"<b>x</b>"_s})));
+    EXPECT_TRUE(QToolTip::text().contains(ToolTip::markup(displayName(OpenUrl{u"<b>x</b>"_s}))));
     QToolTip::hideText();
 }
 
