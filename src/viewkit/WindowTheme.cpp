@@ -213,10 +213,6 @@ void setColorScheme(ColorScheme newScheme) {
         window->setStyleSheet(styleSheet(currentColors()));
 }
 
-ColorScheme colorScheme() {
-    return scheme().current;
-}
-
 void follow(QWidget& window) {
     if (scheme().followers.isEmpty())
         applyToApplication();
@@ -224,6 +220,8 @@ void follow(QWidget& window) {
     QObject::connect(&window, &QObject::destroyed, &scheme(), [window = &window] {
         scheme().followers.removeOne(window);
     });
+    // The new font first: under a style sheet the window would keep the one it had.
+    window.ensurePolished();
     window.setStyleSheet(styleSheet(currentColors()));
 }
 

@@ -16,7 +16,6 @@ inline constexpr int fontSize = 13;
 
 /// Sets the scheme of all windows that follow the theme, now and later.
 void setColorScheme(ColorScheme scheme);
-ColorScheme colorScheme();
 
 /// Gives `window` and its children the look of the current scheme, for as long as it lives. The
 /// application's palette and font are the theme's from the first such window on.
