@@ -1,6 +1,7 @@
 #include "input/KeyCaptureNSView.h"
 
 #include "foundation/LocalizedString.h"
+#include "foundation/MainQueue.h"
 #include "input/CapturedKey.h"
 #include "input/KeyCaptureAccessible.h"
 #include "input/WindowKeyEvent.h"
@@ -8,6 +9,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +22,10 @@ constexpr int textInset = 10;
 constexpr int placeholderFontSize = 13;
 constexpr int combinationFontSize = 14;
 constexpr KeyCode keyCodeReturn = 36;
+
+bool isDefaultKey(const TapEvent& event) {
+    return event.keyCode == keyCodeReturn && CapturedKey::modifierNames(event.flags).isEmpty();
+}
 
 } // namespace
 
@@ -42,7 +48,8 @@ void KeyCaptureNSView::updateDisplay(const QStringList& modifiers, const QString
     currentModifiers_ = modifiers;
     currentKey_ = key;
     // Names rather than symbols: this is read aloud.
-    setAccessibleDescription((modifiers + QStringList(key)).join(u'+'));
+    const QStringList names = key.isEmpty() ? modifiers : modifiers + QStringList(key);
+    setAccessibleDescription(names.join(u'+'));
     update();
 }
 
@@ -91,9 +98,7 @@ void KeyCaptureNSView::handleWindowKey(QKeyEvent& event) {
     const auto keyEvent = windowKeyEvent(event);
     if (!keyEvent)
         return;
-    const bool isDefaultKey = keyEvent->type == EventType::keyDown &&
-                              keyEvent->keyCode == keyCodeReturn && keyEvent->flags == 0;
-    if (isDefaultKey && onDefaultKey)
+    if (keyEvent->type == EventType::keyDown && onDefaultKey && isDefaultKey(*keyEvent))
         onDefaultKey();
     else if (keyEvent->type == EventType::keyDown)
         keyDown(*keyEvent);
@@ -154,10 +159,18 @@ std::optional<TapEvent> KeyCaptureNSView::handleTapEvent(EventType type, const T
     }
     tapDelivers_ = true;
     // Capturing may close the editor, and this view with it: nothing of it is used afterwards.
-    if (type == EventType::keyDown)
+    if (type == EventType::keyDown && onDefaultKey && isDefaultKey(event)) {
+        // Not from within the tap: a slow handler would be switched off. The key may repeat before
+        // the first one is answered.
+        MainQueue::submit([self = QPointer(this)] {
+            if (self && self->eventMonitor_)
+                self->onDefaultKey();
+        });
+    } else if (type == EventType::keyDown) {
         keyDown(event);
-    else if (type == EventType::flagsChanged)
+    } else if (type == EventType::flagsChanged) {
         flagsChanged(event);
+    }
     return std::nullopt;
 }
 

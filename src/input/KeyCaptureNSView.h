@@ -24,8 +24,7 @@ public:
     /// Told of every capture, and with an empty key of every preview of held modifiers.
     std::function<void(const QStringList& modifiers, const QString& key)> onKeyCapture;
 
-    /// When set, answers Return without modifiers where the window delivers it. A tap takes every
-    /// key first, and with it Return is captured like any other.
+    /// When set, answers Return without modifiers, which is then not captured.
     std::function<void()> onDefaultKey;
 
     /// Forgets the capture and shows the placeholder.
