@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 namespace velmora {
@@ -35,6 +36,12 @@ QVBoxLayout* makeStack(QWidget* view) {
     stack->setContentsMargins(0, 0, 0, 0);
     stack->setSpacing(parameterSpacing);
     return stack;
+}
+
+/// Every character as it was entered; toPlainText() makes ordinary ones of special spaces and line
+/// separators.
+QString commandText(const QTextDocument& document) {
+    return document.toRawText().replace(QChar::ParagraphSeparator, u'\n');
 }
 
 } // namespace
@@ -122,7 +129,7 @@ QWidget* ActionForm::makeCommandParameter() {
     command->setTabChangesFocus(true);
     command->setAccessibleName(localizedString("label_command"));
     connect(command, &QPlainTextEdit::textChanged, this, [this, command] {
-        fields_.shellCommand = command->toPlainText();
+        fields_.shellCommand = commandText(*command->document());
         Q_EMIT fieldsChanged();
     });
     auto* view = new QWidget;
