@@ -31,13 +31,10 @@ const QString frameKey = u"NSWindow Frame SettingsWindow"_s;
 /// A window that is being dragged is saved when it comes to rest.
 constexpr auto saveDelay = 300ms;
 
-/// Room for a title bar, whose height is known only once the window has one.
-constexpr int titleBarHeight = 36;
-
 QList<QRect> availableScreens() {
     QList<QRect> screens;
     for (const QScreen* screen : QGuiApplication::screens())
-        screens.append(screen->availableGeometry().adjusted(0, 0, 0, -titleBarHeight));
+        screens.append(screen->availableGeometry());
     return screens;
 }
 
@@ -129,9 +126,10 @@ void SettingsWindow::restoreFrame() {
     QRect frame(QPoint(), window_->sizeHint().expandedTo(minimum));
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         frame.moveCenter(screen->availableGeometry().center());
-    if (const auto data = defaults_.data(frameKey))
-        frame = WindowFrame::decoded(*data).value_or(frame);
-    frame = WindowFrame::onScreen(frame, availableScreens(), minimum);
+    const auto data = defaults_.data(frameKey);
+    const auto saved = data ? WindowFrame::decoded(*data) : std::nullopt;
+    frame = saved ? WindowFrame::inReach(*saved, availableScreens(), minimum)
+                  : WindowFrame::onScreen(frame, availableScreens(), minimum);
     window_->resize(frame.size());
     window_->move(frame.topLeft());
 }
