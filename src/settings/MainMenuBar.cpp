@@ -1,6 +1,7 @@
 #include "settings/MainMenuBar.h"
 
 #include "foundation/ActionMessages.h"
+#include "viewkit/PopupMenu.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -41,7 +42,9 @@ MainMenuBar::MainMenuBar(const QList<MenuModel>& menus, QWidget* parent) : QMenu
     for (const MenuModel& model : menus) {
         // The application's own menu has no title; the program's name stands for it.
         const QString title = model.title.isEmpty() ? u"Velmora"_s : model.title;
-        QMenu* menu = addMenu(literal(title));
+        auto* menu = new PopupMenu(this);
+        menu->setTitle(literal(title));
+        addMenu(menu);
         menu->setAccessibleName(title);
         addEntries(*menu, model.entries);
     }
@@ -53,22 +56,21 @@ bool MainMenuBar::eventFilter(QObject* /*object*/, QEvent* /*event*/) {
     return false;
 }
 
-void MainMenuBar::addEntries(QMenu& menu, const QList<MenuEntry>& entries) {
+void MainMenuBar::addEntries(PopupMenu& menu, const QList<MenuEntry>& entries) {
     for (const MenuEntry& entry : entries) {
         if (entry.isSeparator()) {
             menu.addSeparator();
             continue;
         }
-        QAction* action = menu.addAction(literal(entry.title));
-        action->setShortcut(entry.keyEquivalent);
         const QByteArray operation = editOperation(entry.actionMessage);
         if (operation.isEmpty()) {
-            connect(action, &QAction::triggered, this, [message = entry.actionMessage] {
-                ActionMessages::shared().send(message);
-            });
+            commands_.append(
+                menu.addItem(entry.title, entry.keyEquivalent, [message = entry.actionMessage] {
+                    ActionMessages::shared().send(message);
+                }));
             continue;
         }
-        connect(action, &QAction::triggered, this, [operation] {
+        QAction* action = menu.addItem(entry.title, entry.keyEquivalent, [operation] {
             if (QWidget* field = focusedField())
                 QMetaObject::invokeMethod(field, operation.constData());
         });

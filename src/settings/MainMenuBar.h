@@ -6,6 +6,8 @@
 
 namespace velmora {
 
+class PopupMenu;
+
 /// The application's main menu as a window's menu bar. Messages of editing ("copy:", …) act on the
 /// field with the keyboard focus and are off while there is none; all others are sent as action
 /// messages. F10 opens it from the keyboard; Alt alone does not, being the hot key's modifier: its
@@ -15,12 +17,17 @@ class MainMenuBar : public QMenuBar {
 public:
     explicit MainMenuBar(const QList<MenuModel>& menus, QWidget* parent = nullptr);
 
+    /// The entries whose key equivalents act everywhere in the window: all but those of editing.
+    const QList<QAction*>& commands() const { return commands_; }
+
 protected:
     /// Where the base class watches for Alt.
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    void addEntries(QMenu& menu, const QList<MenuEntry>& entries);
+    void addEntries(PopupMenu& menu, const QList<MenuEntry>& entries);
+
+    QList<QAction*> commands_;
 };
 
 } // namespace velmora

@@ -110,6 +110,7 @@ void SettingsWindow::makeWindow() {
     if (relaunch_)
         services.relaunch = relaunch_;
     auto* menuBar = new MainMenuBar(mainMenu_);
+    window_->addActions(menuBar->commands());
     view_ = new SettingsView(services);
     auto* layout = new QVBoxLayout(window_.get());
     layout->setContentsMargins(0, 0, 0, 0);

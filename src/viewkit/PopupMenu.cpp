@@ -60,17 +60,32 @@ void PopupMenu::setKeyFilter(KeyFilter filter) {
     keyFilter() = std::move(filter);
 }
 
+bool PopupMenu::filter(const QKeyEvent& event) {
+    return keyFilter() && keyFilter()(event);
+}
+
 void PopupMenu::keyPressEvent(QKeyEvent* event) {
-    if (keyFilter() && keyFilter()(*event))
+    if (filter(*event))
         return;
     const QKeySequence pressed(event->keyCombination());
+    const auto answers = [&pressed](const QAction* item) {
+        return item->isEnabled() && !item->shortcut().isEmpty() && item->shortcut() == pressed;
+    };
     for (QAction* item : actions()) {
-        if (!item->isEnabled() || item->shortcut().isEmpty() || item->shortcut() != pressed)
+        if (!answers(item))
             continue;
         // Chosen as if by Return, which closes the menu in good order first.
         setActiveAction(item);
         QKeyEvent choose(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
         QMenu::keyPressEvent(&choose);
+        return;
+    }
+    for (QAction* command :
+         parentWidget() ? parentWidget()->window()->actions() : QList<QAction*>()) {
+        if (!answers(command))
+            continue;
+        close();
+        command->trigger();
         return;
     }
     QMenu::keyPressEvent(event);

@@ -6,7 +6,8 @@
 
 namespace velmora {
 
-/// A small menu of our own look whose key equivalents act while it is open.
+/// A small menu of our own look. While it is open its key equivalents act, and those of its
+/// window's actions.
 class PopupMenu : public QMenu {
     Q_OBJECT
 public:
@@ -27,6 +28,8 @@ public:
     /// Sets the filter of all menus. While a menu is open it holds the keyboard, and with it what
     /// global hot keys would get.
     static void setKeyFilter(KeyFilter filter);
+    /// Whether the filter dealt with `event`, which reached another kind of open menu.
+    static bool filter(const QKeyEvent& event);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -11,7 +11,10 @@ Sheet::Sheet(QWidget& window) : QDialog(&window) {
     setWindowFlags(
         Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setAttribute(Qt::WA_DeleteOnClose);
+    addActions(window.actions());
     WindowTheme::follow(*this);
+    // It lives until the next turn; the second click of a double click may come before.
+    connect(this, &QDialog::finished, this, [this] { setEnabled(false); });
 }
 
 Sheet& Sheet::present(QWidget& presenter, std::unique_ptr<QWidget> content) {

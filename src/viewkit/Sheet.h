@@ -6,7 +6,8 @@
 namespace velmora {
 
 /// A dialog that belongs to one window and holds its input while it is there. Escape and the close
-/// button of its frame dismiss it. Main thread only.
+/// button of its frame dismiss it. The actions of the window are the sheet's too, so that their key
+/// equivalents act. Main thread only.
 class Sheet : public QDialog {
     Q_OBJECT
 public:

@@ -179,6 +179,16 @@ TEST_F(SettingsListsTest, EditorsWorkOnTheStore) {
     EXPECT_EQ(stored(), u"abcYe"_s);
     button(u"add"_s)->click();
     ASSERT_TRUE(pane.editor());
+    auto* editor = pane.editor()->findChild<ShortcutEditorView*>();
+    for (QLineEdit* field : editor->findChildren<QLineEdit*>())
+        field->setText(u"Z"_s);
+    for (int click = 0; click < 2; ++click)
+        QTest::mouseClick(&editor->saveButton(), Qt::LeftButton);
+    EXPECT_EQ(stored(), u"abcYeZ"_s) << "once for a double click";
+    ASSERT_TRUE(waitFor([&] { return !pane.editor(); }));
+    store_.removeShortcut(5);
+    button(u"add"_s)->click();
+    ASSERT_TRUE(pane.editor());
     EXPECT_EQ(pane.editor()->windowTitle(), u"shortcut_add_title"_s);
     QTest::keyClick(pane.editor()->findChild<QLineEdit*>(), Qt::Key_Escape);
     ASSERT_TRUE(waitFor([&] { return !pane.editor(); }));
@@ -225,6 +235,24 @@ TEST_F(SettingsListsTest, RowsMoveByDragAndByKey) {
     QTest::keyClick(&list(), Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(shown(), u"becad"_s);
     EXPECT_EQ(selectedRow(), u"e"_s);
+}
+
+TEST_F(SettingsListsTest, KeysOfOneTurnActOnTheRowsAsTheyAre) {
+    RecordListPane& pane = open();
+    clickRow(0);
+    for (int i = 0; i < 2; ++i)
+        QTest::keyClick(&list(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(stored(), u"bcade"_s);
+    QTest::keyClick(&list(), Qt::Key_Delete);
+    QTest::keyClick(&list(), Qt::Key_Home);
+    QTest::keyClick(&list(), Qt::Key_Down);
+    QTest::keyClick(&list(), Qt::Key_Down);
+    QTest::keyClick(&list(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(stored(), u"bced"_s);
+    QTest::keyClick(&list(), Qt::Key_Return);
+    ASSERT_TRUE(pane.editor());
+    EXPECT_EQ(pane.editor()->findChild<QLineEdit*>()->text(), u"d"_s);
+    EXPECT_EQ(shown(), u"bced"_s);
 }
 
 TEST_F(SettingsListsTest, RestartLaunchesAndThenTerminates) {

@@ -125,7 +125,7 @@ TEST_F(SettingsWindowTest, ComesBackWhereItWas) {
 TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
     window_.setMainMenu(
         {{u""_s,
-          {{u"Tom & Jerry"_s, u"testMessage:"_s, {}},
+          {{u"Tom & Jerry"_s, u"testMessage:"_s, QKeySequence(u"Ctrl+T"_s)},
            {},
            {u"About"_s, u"orderFrontStandardAboutPanel:"_s, {}}}},
          {u"Edit"_s,
@@ -143,9 +143,12 @@ TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
     EXPECT_TRUE(program[1]->isSeparator());
     program[0]->trigger();
     EXPECT_EQ(sent, 1);
-    ActionMessages::shared().setHandler(u"testMessage:"_s, [] {});
 
     QMenu* edit = bar->actions()[1]->menu();
+    edit->popup({});
+    QTest::keyClick(edit, Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(sent, 2) << "whichever menu is open";
+    EXPECT_FALSE(edit->isVisible());
     QAction* selectAll = edit->actions()[1];
     Q_EMIT edit->aboutToShow();
     EXPECT_FALSE(selectAll->isEnabled());
@@ -163,6 +166,11 @@ TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
     window_.showAboutPanel();
     window_.showAboutPanel();
     EXPECT_EQ(window_.window()->findChildren<AboutView*>().size(), 1);
+    QWidget* sheet = window_.window()->findChild<Sheet*>();
+    QApplication::setActiveWindow(sheet);
+    QTest::keyClick(sheet, Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(sent, 3);
+    ActionMessages::shared().setHandler(u"testMessage:"_s, [] {});
     window_.close();
 }
 

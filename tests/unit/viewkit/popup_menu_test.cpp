@@ -1,5 +1,7 @@
+#include "viewkit/PopUpButton.h"
 #include "viewkit/PopupMenu.h"
 
+#include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <gmock/gmock.h>
@@ -31,9 +33,10 @@ protected:
         };
     }
 
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers) { press(key, modifiers, menu); }
+    static void press(Qt::Key key, Qt::KeyboardModifiers modifiers, QWidget& view) {
         QKeyEvent event(QEvent::KeyPress, key, modifiers);
-        QCoreApplication::sendEvent(&menu, &event);
+        QCoreApplication::sendEvent(&view, &event);
     }
 
     PopupMenu menu;
@@ -49,6 +52,22 @@ TEST_F(PopupMenuTest, KeyEquivalentsActWhileItIsOpen) {
     menu.popUp({100, 100});
     press(Qt::Key_Q, Qt::ControlModifier);
     EXPECT_THAT(chosen, ElementsAre("settings", "quit"));
+}
+
+TEST_F(PopupMenuTest, KeyEquivalentsOfItsWindowActToo) {
+    QWidget window;
+    QAction command;
+    command.setShortcut(Qt::CTRL | Qt::Key_W);
+    window.addAction(&command);
+    PopupMenu inWindow(&window);
+    inWindow.addItem(u"Item"_s, {}, [] {});
+    QObject::connect(&command, &QAction::triggered, &inWindow, [&] {
+        EXPECT_FALSE(inWindow.isVisible());
+        chosen.push_back("command");
+    });
+    inWindow.popUp({100, 100});
+    press(Qt::Key_W, Qt::ControlModifier, inWindow);
+    EXPECT_THAT(chosen, ElementsAre("command"));
 }
 
 TEST_F(PopupMenuTest, OtherKeysChooseNothing) {
@@ -70,6 +89,16 @@ TEST_F(PopupMenuTest, TheFilterSeesKeysFirst) {
     EXPECT_THAT(chosen, IsEmpty());
     press(Qt::Key_Comma, Qt::ControlModifier);
     EXPECT_THAT(chosen, ElementsAre("settings"));
+
+    PopUpButton button(u"Kind"_s);
+    button.addItems({u"a"_s, u"q"_s});
+    button.show();
+    button.showPopup();
+    press(Qt::Key_Q, Qt::NoModifier, *button.view());
+    EXPECT_EQ(button.view()->currentIndex().row(), 0);
+    press(Qt::Key_Down, Qt::NoModifier, *button.view());
+    EXPECT_EQ(button.view()->currentIndex().row(), 1);
+    button.hidePopup();
 }
 
 } // namespace
