@@ -1,5 +1,7 @@
 #include "viewkit/PopUpButton.h"
 
+#include "viewkit/PopupMenu.h"
+
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -30,6 +32,8 @@ PopUpButton::PopUpButton(const QString& name, QWidget* parent) : QComboBox(paren
 }
 
 bool PopUpButton::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && PopupMenu::filter(static_cast<QKeyEvent&>(*event)))
+        return true;
     // What the pointer was over last would stay selected, and what is selected cannot be selected
     // again. Queued: the choice is still to be read from there.
     if (event->type() == QEvent::Hide)
@@ -72,14 +76,14 @@ void PopUpButton::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_PageDown:
     case Qt::Key_Home:
     case Qt::Key_End:
+    case Qt::Key_Space:
         showPopup();
         break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        event->ignore(); // the window's default button
-        break;
     default:
-        QComboBox::keyPressEvent(event);
+        if (event->text().isEmpty())
+            QComboBox::keyPressEvent(event);
+        else
+            event->ignore(); // a letter would choose an item
     }
 }
 

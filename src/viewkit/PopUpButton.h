@@ -5,7 +5,7 @@
 namespace velmora {
 
 /// A button that shows one of several items and opens a menu of them. The choice changes only in
-/// the menu: neither the wheel nor an arrow key passes through the items.
+/// the menu: neither the wheel nor a key passes through the items.
 class PopUpButton : public QComboBox {
     Q_OBJECT
 public:

@@ -11,6 +11,7 @@
 #include "viewkit/SegmentedPicker.h"
 #include "viewkit/Sheet.h"
 
+#include <QAbstractItemView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -191,6 +192,14 @@ TEST_F(EditorTest, AShellCommandIsSavedOnlyOnceTheQuestionIsAnswered) {
     EXPECT_EQ(saved_.size(), 1);
 }
 
+TEST_F(EditorTest, ACommandKeepsEveryCharacter) {
+    const QString command = u"a\u00a0b\u2028c\n\td"_s;
+    ShortcutEditorView& editor = open(ShortcutButton(u"T"_s, {}, ExecuteShellCommand{command}));
+    auto* text = editor.findChild<QPlainTextEdit*>();
+    QTest::keyClicks(text, u"x"_s);
+    EXPECT_EQ(editor.actionForm().fields().shellCommand, u'x' + command);
+}
+
 TEST_F(EditorTest, EscapeAndTheButtonCancelOnce) {
     ShortcutEditorView& editor = open();
     QTest::keyClick(field(editor, u"label_title"_s), Qt::Key_Escape);
@@ -215,19 +224,32 @@ TEST_F(EditorTest, ReturnIsAKeyLikeAnyOtherWhileAButtonsKeysAreRecorded) {
     EXPECT_EQ(saved_.size(), 1);
 }
 
-TEST_F(EditorTest, ReturnSavesAMouseBindingUnlessTheTapTakesIt) {
+TEST_F(EditorTest, ReturnSavesAMouseBindingAlsoWhileItsKeysAreRecorded) {
     MouseBindingEditorView& editor = openMouse();
     choose(editor, ActionType::pressKey);
     EXPECT_TRUE(editor.saveButton().isDefault());
-    taps_.sendKey(36, 0, u"\r"_s);
+    const auto pressReturn = [this] {
+        EXPECT_TRUE(taps_.sendKey(36, 0, u"\r"_s));
+        EXPECT_TRUE(savedBindings_.isEmpty()) << "not from within the tap";
+        QCoreApplication::processEvents();
+    };
+    pressReturn();
+    EXPECT_TRUE(savedBindings_.isEmpty()) << "incomplete";
+    taps_.sendKey(36, kCGEventFlagMaskShift, u"\r"_s);
     EXPECT_EQ(editor.actionForm().fields().keyValue, u"Return"_s);
-    EXPECT_TRUE(savedBindings_.isEmpty());
     taps_.sendKey(45, kCGEventFlagMaskCommand, u"n"_s);
+    const MouseButtonBinding expected(3, PressKeyCombo{{u"Command"_s}, u"N"_s});
+    const auto expectSaved = [&] {
+        ASSERT_EQ(savedBindings_.size(), 1);
+        EXPECT_EQ(savedBindings_[0].buttonNumber, expected.buttonNumber);
+        EXPECT_EQ(savedBindings_[0].action, expected.action);
+        savedBindings_.clear();
+    };
+    pressReturn();
+    expectSaved();
     taps_.disable(*taps_.taps.front(), EventType::tapDisabledByUserInput);
     QTest::keyClick(&editor.actionForm().keyCapture().view(), Qt::Key_Return);
-    ASSERT_EQ(savedBindings_.size(), 1);
-    EXPECT_EQ(savedBindings_[0].buttonNumber, 3);
-    EXPECT_EQ(savedBindings_[0].action, ShortcutAction(PressKeyCombo{{u"Command"_s}, u"N"_s}));
+    expectSaved();
 }
 
 TEST_F(EditorTest, AButtonThatIsNotOfferedSurvivesEditing) {
@@ -253,9 +275,16 @@ TEST_F(EditorTest, PickersChangeOnlyInTheirMenu) {
         {5, 5}, editor.buttonPicker().mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
         Qt::NoScrollPhase, false);
     QApplication::sendEvent(&editor.buttonPicker(), &wheel);
-    QTest::keyClick(&editor.buttonPicker(), Qt::Key_Down);
+    // A letter finds no item, not even the one it begins.
+    editor.buttonPicker().addItem(u"x"_s);
+    QTest::keyClick(&editor.buttonPicker(), Qt::Key_X);
     EXPECT_EQ(editor.buttonPicker().currentData(), 3);
-    editor.buttonPicker().hidePopup();
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Space}) {
+        QTest::keyClick(&editor.buttonPicker(), key);
+        EXPECT_TRUE(editor.buttonPicker().view()->isVisible());
+        EXPECT_EQ(editor.buttonPicker().currentData(), 3);
+        editor.buttonPicker().hidePopup();
+    }
 }
 
 } // namespace
