@@ -40,6 +40,7 @@ void StatusBarController::makeStatusItem() {
 
 void StatusBarController::setupMenu() {
     menu_ = std::make_unique<PopupMenu>();
+    menu_->setAccessibleName(u"Velmora"_s);
     menu_->addItem(u"メニューバーを切り替え (Option+M)"_s, {}, [this] { toggleOverlay(); });
     menu_->addSeparator();
     menu_->addItem(u"設定..."_s, QKeySequence(u"Ctrl+,"_s), [this] { openSettings(); });

@@ -7,6 +7,8 @@
 #include <QLinearGradient>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 ContentView::ContentView(
@@ -18,6 +20,7 @@ ContentView::ContentView(
       execute_(std::move(execute)) {
     // Left of the notch is left in every language.
     setLayoutDirection(Qt::LeftToRight);
+    setAccessibleName(u"Velmora"_s);
     connect(
         &shortcutManager_, &ShortcutManager::shortcutsWillChange, this,
         &ContentView::scheduleRebuild);

@@ -25,6 +25,7 @@ QLabel* iconLabel() {
     auto* label = new QLabel;
     label->setFixedSize(iconSide, iconSide);
     label->setScaledContents(true);
+    label->setAccessibleName(u"Velmora"_s);
     if (const auto file = Bundle::path(u"i-menu"_s, u"png"_s, u"icon"_s))
         label->setPixmap(QPixmap(*file));
     return label;

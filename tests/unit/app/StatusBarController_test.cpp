@@ -67,6 +67,7 @@ TEST_F(StatusBarControllerTest, HasThreeEntriesWithSeparators) {
                      u"メニューバーを切り替え (Option+M)|"_s, u"-"_s, u"設定...|Ctrl+,"_s, u"-"_s,
                      u"終了|Ctrl+Q"_s));
     EXPECT_EQ(controller.statusItem->contextMenu(), controller.menu());
+    EXPECT_EQ(controller.menu()->accessibleName(), u"Velmora"_s);
 }
 
 TEST_F(StatusBarControllerTest, OnlyAPlainClickOpensTheMenuItself) {
