@@ -27,7 +27,6 @@ public:
     explicit AppListModel(QString selectedBundleId, QObject* parent = nullptr);
 
     void setApps(SearchableApps apps);
-    const QList<AppInfo>& apps() const { return all_.apps; }
 
     void setSearchText(const QString& text);
     /// Lifts the first-20 rule; rows stay where they are.

@@ -16,15 +16,16 @@ SettingsView::SettingsView(const SettingsServices& services, QWidget* parent)
     : QTabWidget(parent),
       shortcuts_(new VelmoraSettingsView(
           services.shortcutManager, services.eventTaps, services.relaunch,
-          services.infoDictionary)),
-      mouse_(new MouseSettingsView(services.mouseManager, services.eventTaps)) {
+          services.infoDictionary)) {
     const int side = Symbols::sideLength(WindowTheme::fontSize);
     setIconSize(QSize(side, side));
     setMinimumSize(contentSize);
     tabBar()->setDrawBase(false);
     tabBar()->setExpanding(false);
     addTab(shortcuts_, symbolIcon(u"menubar.rectangle"_s), localizedString("settings_tab_velmora"));
-    addTab(mouse_, symbolIcon(u"computermouse"_s), localizedString("settings_tab_mouse"));
+    addTab(
+        new MouseSettingsView(services.mouseManager, services.eventTaps),
+        symbolIcon(u"computermouse"_s), localizedString("settings_tab_mouse"));
 }
 
 } // namespace velmora

@@ -7,7 +7,6 @@
 namespace velmora {
 
 class MouseButtonManager;
-class MouseSettingsView;
 
 /// What the settings work on; all of it outlives them.
 struct SettingsServices {
@@ -27,13 +26,11 @@ public:
     static constexpr QSize contentSize{600, 500}; ///< points; the least, and at first
 
     VelmoraSettingsView& shortcuts() { return *shortcuts_; }
-    MouseSettingsView& mouse() { return *mouse_; }
 
     QSize sizeHint() const override { return contentSize; }
 
 private:
     VelmoraSettingsView* const shortcuts_;
-    MouseSettingsView* const mouse_;
 };
 
 } // namespace velmora
