@@ -105,14 +105,14 @@ TEST_F(SettingsWindowTest, AnEditorGoesWithItUnsaved) {
 TEST_F(SettingsWindowTest, ComesBackWhereItWas) {
     const QString key = u"NSWindow Frame SettingsWindow"_s;
     window_.show();
-    window_.window()->move(20, 30);
+    window_.window()->move(300, 30);
     window_.window()->resize(640, 560);
     // At rest it is saved without being closed.
-    EXPECT_TRUE(waitFor([&] { return defaults_.data(key) == "20 30 640 560"; }));
+    EXPECT_TRUE(waitFor([&] { return defaults_.data(key) == "300 30 640 560"; }));
     window_.window()->resize(650, 560);
     window_.close();
     window_.show();
-    EXPECT_EQ(window_.window()->pos(), QPoint(20, 30));
+    EXPECT_EQ(window_.window()->pos(), QPoint(300, 30));
     EXPECT_EQ(window_.window()->size(), QSize(650, 560));
     window_.close();
     defaults_.setData(key, "90000 90000 640 560");
