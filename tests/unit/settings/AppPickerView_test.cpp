@@ -32,6 +32,7 @@ protected:
         auto view = std::make_unique<AppPickerView>(
             selected, [this](const AppInfo& app) { picked.append(app.bundleId); },
             AppScanner({.folders = {}, .finder = {}, .installed = [this, installed] {
+                            isScanning = true;
                             gate.acquire();
                             ++scans;
                             return installed;
@@ -54,6 +55,7 @@ protected:
     }
 
     QSemaphore gate;
+    std::atomic<bool> isScanning = false;
     std::atomic<int> scans = 0;
     QStringList picked;
     QWidget window;
@@ -74,6 +76,7 @@ TEST_F(AppPickerViewTest, ShowsTheListWhenTheScanEnds) {
 
 TEST_F(AppPickerViewTest, ClosedWhileScanning) {
     open(30);
+    ASSERT_TRUE(waitFor([this] { return isScanning.load(); }));
     QTest::keyClick(&edit(), Qt::Key_Escape);
     EXPECT_TRUE(isClosed());
     gate.release();
