@@ -265,12 +265,16 @@ int main(int argc, char** argv) {
     std::vector<std::vector<double>> memory(homes.size());
     for (int run = 0; run < runs; ++run) {
         for (size_t i = 0; i < homes.size(); ++i) {
-            const Running program(folder + (i ? u"/velmora"_s : u"/minimal_window"_s), homes[i]);
-            painted[i].push_back(program.untilPainted(client, background));
-            QThread::msleep(300); // what start-up leaves for later is part of its memory
-            memory[i].push_back(program.privateDirty());
+            {
+                const Running program(
+                    folder + (i ? u"/velmora"_s : u"/minimal_window"_s), homes[i]);
+                painted[i].push_back(program.untilPainted(client, background));
+                QThread::msleep(300); // what start-up leaves for later is part of its memory
+                memory[i].push_back(program.privateDirty());
+            }
+            gone();
+            QThread::msleep(50); // the server tidies up after it
         }
-        gone();
     }
     const auto row = [](const char* name, const std::vector<std::vector<double>>& values,
                         const char* unit, double scale) {
