@@ -23,7 +23,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <malloc.h>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -197,7 +196,6 @@ void measureChooser(Application& application) {
 } // namespace
 
 int main(int argc, char** argv) {
-    mallopt(M_ARENA_MAX, 1); // as the program
     const QTemporaryDir home;
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());

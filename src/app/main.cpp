@@ -18,7 +18,6 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <fontconfig/fontconfig.h>
-#include <malloc.h>
 #include <thread>
 #include <unistd.h>
 
@@ -44,8 +43,6 @@ void tidyInheritance() {
 } // namespace
 
 int main(int argc, char** argv) {
-    // One heap: what a short thread allocates would keep another one.
-    mallopt(M_ARENA_MAX, 1);
     tidyInheritance();
     // Before Qt, which aborts without a display.
     const auto session = X11Session::create();
