@@ -73,6 +73,15 @@ TEST_F(ScreencaptureTest, TakesWhatIsAskedForIntoTheFile) {
     EXPECT_TRUE(calls().endsWith(u"\ngnome-screenshot -a -f %1\n"_s.arg(file)));
 }
 
+TEST_F(ScreencaptureTest, NeverLetsImportWaitForASelection) {
+    install(u"import"_s);
+    const QString file = folder.filePath(u"shot.png"_s);
+    for (const QString& option : {u"-i"_s, u"-w"_s, u"-x"_s}) {
+        EXPECT_EQ(run({option, file}), 0) << qPrintable(errors);
+        EXPECT_TRUE(calls().endsWith(u"import -window root %1\n"_s.arg(file)));
+    }
+}
+
 TEST_F(ScreencaptureTest, PutsTheImageOnTheClipboard) {
     install(u"scrot"_s);
     EXPECT_EQ(run({u"-c"_s}), 1);
