@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QScreen>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -192,10 +193,11 @@ const Colors& currentColors() {
 }
 
 /// Palette and font go by way of the application: a window with a style sheet keeps its own from
-/// its children.
+/// its children. The font's size is in points, for Qt's SVG reader takes a text that gives no size
+/// of its own to be that many points, and draws none of it when there are none.
 void applyToApplication() {
     QFont font = QApplication::font();
-    font.setPixelSize(fontSize);
+    font.setPointSizeF(fontSize * 72 / QGuiApplication::primaryScreen()->logicalDotsPerInchY());
     QApplication::setFont(font);
     QApplication::setPalette(palette(currentColors()));
 }

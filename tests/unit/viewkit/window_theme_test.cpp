@@ -1,6 +1,7 @@
 #include "viewkit/WindowTheme.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QLabel>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
@@ -18,7 +19,7 @@ TEST(WindowTheme, TheFirstWindowHasTheTextOfTheOthers) {
         auto* label = new QLabel;
         (new QVBoxLayout(&view))->addWidget(label);
         view.show();
-        EXPECT_EQ(label->font().pixelSize(), WindowTheme::fontSize) << window;
+        EXPECT_EQ(QFontInfo(label->font()).pixelSize(), WindowTheme::fontSize) << window;
     }
 }
 
