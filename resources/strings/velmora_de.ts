@@ -119,6 +119,10 @@
         <source></source>
         <translation>Adresse</translation>
     </message>
+    <message id="list_empty">
+        <source></source>
+        <translation>Noch nichts vorhanden. „Hinzufügen“ legt den ersten Eintrag an.</translation>
+    </message>
     <message id="menu_help">
         <source></source>
         <extracomment>Menu tooltip</extracomment>
@@ -219,6 +223,10 @@
     <message id="picker_app_loading">
         <source></source>
         <translation>Programme werden gesucht …</translation>
+    </message>
+    <message id="picker_app_no_match">
+        <source></source>
+        <translation>Keine passende Anwendung.</translation>
     </message>
     <message id="picker_app_search">
         <source></source>

@@ -119,6 +119,10 @@
         <source></source>
         <translation>Address</translation>
     </message>
+    <message id="list_empty">
+        <source></source>
+        <translation>Nothing here yet. Choose “Add” to make the first.</translation>
+    </message>
     <message id="menu_help">
         <source></source>
         <extracomment>Menu tooltip</extracomment>
@@ -219,6 +223,10 @@
     <message id="picker_app_loading">
         <source></source>
         <translation>Looking for applications…</translation>
+    </message>
+    <message id="picker_app_no_match">
+        <source></source>
+        <translation>No application matches.</translation>
     </message>
     <message id="picker_app_search">
         <source></source>

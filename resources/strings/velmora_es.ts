@@ -119,6 +119,10 @@
         <source></source>
         <translation>URL</translation>
     </message>
+    <message id="list_empty">
+        <source></source>
+        <translation>Aún no hay nada. «Añadir» crea el primer elemento.</translation>
+    </message>
     <message id="menu_help">
         <source></source>
         <extracomment>Menu tooltip</extracomment>
@@ -219,6 +223,10 @@
     <message id="picker_app_loading">
         <source></source>
         <translation>Buscando aplicaciones…</translation>
+    </message>
+    <message id="picker_app_no_match">
+        <source></source>
+        <translation>Ninguna aplicación coincide.</translation>
     </message>
     <message id="picker_app_search">
         <source></source>

@@ -119,6 +119,10 @@
         <source></source>
         <translation>Adresse</translation>
     </message>
+    <message id="list_empty">
+        <source></source>
+        <translation>Rien ici pour l’instant. « Ajouter » crée le premier élément.</translation>
+    </message>
     <message id="menu_help">
         <source></source>
         <extracomment>Menu tooltip</extracomment>
@@ -219,6 +223,10 @@
     <message id="picker_app_loading">
         <source></source>
         <translation>Recherche des applications…</translation>
+    </message>
+    <message id="picker_app_no_match">
+        <source></source>
+        <translation>Aucune application ne correspond.</translation>
     </message>
     <message id="picker_app_search">
         <source></source>

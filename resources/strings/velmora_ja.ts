@@ -119,6 +119,10 @@
         <source></source>
         <translation>URL</translation>
     </message>
+    <message id="list_empty">
+        <source></source>
+        <translation>まだ何もありません。「追加」で最初の項目を作成できます。</translation>
+    </message>
     <message id="menu_help">
         <source></source>
         <extracomment>Menu tooltip</extracomment>
@@ -219,6 +223,10 @@
     <message id="picker_app_loading">
         <source></source>
         <translation>アプリを探しています...</translation>
+    </message>
+    <message id="picker_app_no_match">
+        <source></source>
+        <translation>一致するアプリケーションはありません。</translation>
     </message>
     <message id="picker_app_search">
         <source></source>

@@ -119,6 +119,10 @@
         <source></source>
         <translation>URL</translation>
     </message>
+    <message id="list_empty">
+        <source></source>
+        <translation>아직 아무것도 없습니다. ‘추가’를 선택해 첫 항목을 만드세요.</translation>
+    </message>
     <message id="menu_help">
         <source></source>
         <extracomment>Menu tooltip</extracomment>
@@ -219,6 +223,10 @@
     <message id="picker_app_loading">
         <source></source>
         <translation>앱을 찾는 중...</translation>
+    </message>
+    <message id="picker_app_no_match">
+        <source></source>
+        <translation>일치하는 응용 프로그램이 없습니다.</translation>
     </message>
     <message id="picker_app_search">
         <source></source>

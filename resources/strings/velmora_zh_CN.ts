@@ -119,6 +119,10 @@
         <source></source>
         <translation>网址</translation>
     </message>
+    <message id="list_empty">
+        <source></source>
+        <translation>这里还没有内容。点按“添加”即可新建。</translation>
+    </message>
     <message id="menu_help">
         <source></source>
         <extracomment>Menu tooltip</extracomment>
@@ -219,6 +223,10 @@
     <message id="picker_app_loading">
         <source></source>
         <translation>正在查找应用程序…</translation>
+    </message>
+    <message id="picker_app_no_match">
+        <source></source>
+        <translation>没有匹配的应用程序。</translation>
     </message>
     <message id="picker_app_search">
         <source></source>

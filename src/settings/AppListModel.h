@@ -29,6 +29,7 @@ public:
     void setApps(SearchableApps apps);
 
     void setSearchText(const QString& text);
+    bool isSearching() const { return !searchText_.isEmpty(); }
     /// Lifts the first-20 rule; rows stay where they are.
     void showAllApps();
 

@@ -1,7 +1,9 @@
 #include "settings/AppListView.h"
 
+#include "foundation/LocalizedString.h"
 #include "settings/AppListModel.h"
 #include "settings/AppRow.h"
+#include "settings/EmptyHint.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -132,6 +134,12 @@ bool AppListView::moveCurrent(int key) {
         setCurrentIndex(model_.index(qBound(0, row, rows - 1)));
     }
     return true;
+}
+
+void AppListView::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (model_.isSearching())
+        paintEmptyHint(*this, localizedString("picker_app_no_match"));
 }
 
 void AppListView::pickSelected() {

@@ -32,6 +32,7 @@ protected:
     selectionCommand(const QModelIndex&, const QEvent*) const override {
         return QItemSelectionModel::NoUpdate;
     }
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     class Delegate;

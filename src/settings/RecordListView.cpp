@@ -1,6 +1,7 @@
 #include "settings/RecordListView.h"
 
 #include "foundation/LocalizedString.h"
+#include "settings/EmptyHint.h"
 #include "settings/RecordListModel.h"
 #include "settings/RecordRowDelegate.h"
 #include "viewkit/PopupMenu.h"
@@ -178,6 +179,7 @@ void RecordListView::contextMenuEvent(QContextMenuEvent* event) {
 
 void RecordListView::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
+    paintEmptyHint(*this, localizedString("list_empty"));
     if (!drag_)
         return;
     constexpr double knob = 3;
