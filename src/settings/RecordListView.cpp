@@ -21,6 +21,20 @@ constexpr int scrollZone = 20;
 constexpr int scrollInterval = 16; // milliseconds
 constexpr int scrollStep = 6;
 
+bool movesThroughRows(int key) {
+    switch (key) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 RecordListView::RecordListView(RecordListModel& model, QWidget* parent)
@@ -145,6 +159,11 @@ void RecordListView::keyPressEvent(QKeyEvent* event) {
     } else if (isPlain && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2)) {
         if (row >= 0)
             Q_EMIT editRequested(row);
+    } else if (isPlain && row < 0 && movesThroughRows(key)) {
+        // None is selected: the arrows start where the ring is.
+        if (key != Qt::Key_Up && key != Qt::Key_Down)
+            QListView::keyPressEvent(event);
+        setCurrentIndex(currentIndex().isValid() ? currentIndex() : model()->index(0, 0));
     } else {
         QListView::keyPressEvent(event);
     }
