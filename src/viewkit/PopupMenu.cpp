@@ -24,7 +24,7 @@ QString sheetFor(bool dark) {
         QMenu::item:disabled { color: %5; }
         QMenu::separator { height: 1px; background: %3; margin: 4px 8px; }
     )"_s;
-    const QString accent = Theme::accent.name();
+    const QString accent = Theme::accent(dark).name();
     return dark ? sheet.arg(u"#26262b"_s, u"#f2f2f4"_s, u"#45454d"_s, accent, u"#8a8a92"_s)
                 : sheet.arg(u"#fafafb"_s, u"#1c1c1f"_s, u"#d3d3d9"_s, accent, u"#8f8f97"_s);
 }

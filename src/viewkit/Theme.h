@@ -15,8 +15,10 @@ inline constexpr int defaultSpacing = 8;
 /// The system font at `size` points (device-independent pixels).
 QFont systemFont(int size, QFont::Weight weight = QFont::Normal);
 
-/// The one accent colour, legible on light and dark.
-inline constexpr QColor accent(0x3b, 0x82, 0xf6);
+/// The accent colour of a scheme. White text on it keeps a contrast of at least 4.5 to 1.
+constexpr QColor accent(bool dark) {
+    return dark ? QColor(0x2a, 0x72, 0xdc) : QColor(0x0a, 0x62, 0xcf);
+}
 
 /// Whether `palette` belongs to a dark scheme.
 bool isDark(const QPalette& palette);

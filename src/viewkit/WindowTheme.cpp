@@ -1,5 +1,8 @@
 #include "viewkit/WindowTheme.h"
 
+#include "foundation/Bundle.h"
+#include "viewkit/Theme.h"
+
 #include <QApplication>
 #include <QPalette>
 #include <QScreen>
@@ -40,9 +43,9 @@ const Colors lightColors{
     .button = QColor(0xffffff),
     .buttonHover = QColor(0xf0f0f3),
     .buttonPressed = QColor(0xe2e2e7),
-    .accent = QColor(0x0a62cf),
+    .accent = Theme::accent(false),
     .accentHover = QColor(0x0856b8),
-    .accentText = QColor(0x0a62cf),
+    .accentText = Theme::accent(false),
     .scrollHandle = QColor(0xb4b4ba),
     .disabledText = QColor(0x9d9da4),
     .selected = QColor(0xdcdce2),
@@ -58,7 +61,7 @@ const Colors darkColors{
     .button = QColor(0x38383d),
     .buttonHover = QColor(0x424248),
     .buttonPressed = QColor(0x303034),
-    .accent = QColor(0x2a72dc),
+    .accent = Theme::accent(true),
     .accentHover = QColor(0x3a7fe4),
     .accentText = QColor(0x5c9cf5),
     .scrollHandle = QColor(0x66666d),
@@ -222,6 +225,10 @@ void follow(QWidget& window) {
     QObject::connect(&window, &QObject::destroyed, &scheme(), [window = &window] {
         scheme().followers.removeOne(window);
     });
+    // Sheets show the icon of their window.
+    if (const auto icon = Bundle::path(u"i-menu"_s, u"png"_s, u"icon"_s);
+        icon && !window.parentWidget())
+        window.setWindowIcon(QIcon(*icon));
     // The new font first: under a style sheet the window would keep the one it had.
     window.ensurePolished();
     window.setStyleSheet(styleSheet(currentColors()));
