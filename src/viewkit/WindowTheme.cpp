@@ -150,6 +150,7 @@ QComboBox QAbstractItemView::item { min-height: 24px; padding: 0 6px; border-rad
 QComboBox QAbstractItemView::item:selected { background: @accent; color: white; }
 QTabWidget::pane { border: none; }
 QTabWidget::tab-bar { alignment: center; }
+QTabBar { outline: none; }
 QTabBar::tab {
     background: @button; color: @text; border: 1px solid @border; padding: 5px 14px;
     min-height: 18px; margin-top: 10px;
