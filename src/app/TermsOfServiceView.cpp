@@ -3,6 +3,7 @@
 #include "foundation/ActionMessages.h"
 #include "foundation/LocalizedString.h"
 #include "foundation/UserDefaults.h"
+#include "viewkit/Theme.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -18,8 +19,9 @@ using namespace Qt::StringLiterals;
 namespace velmora {
 namespace {
 
+using Theme::defaultPadding;
+
 constexpr int childSpacing = 20;
-constexpr int defaultPadding = 16;
 constexpr int titleFontSize = 22;
 constexpr int buttonLabelWidth = 80;
 constexpr double cornerRadius = 8;

@@ -4,14 +4,12 @@
 
 #include <QKeyEvent>
 #include <QKeySequence>
-#include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace velmora {
 namespace {
-
-constexpr KeyCode unusedKeyCode = 0xFFFF;
 
 // Qt's own name for Command's key on this platform is Meta.
 constexpr std::pair<Qt::KeyboardModifier, EventFlags> modifierFlags[] = {
@@ -116,7 +114,7 @@ std::optional<TapEvent> windowKeyEvent(const QKeyEvent& event) {
     if (!isPress)
         return std::nullopt;
     result.type = EventType::keyDown;
-    result.keyCode = KeyNames::keyCode(nameOfPosition(event)).value_or(unusedKeyCode);
+    result.keyCode = KeyNames::keyCode(nameOfPosition(event)).value_or(kNoKeyCode);
     result.charactersIgnoringModifiers = characters(event.key());
     return result;
 }
