@@ -7,7 +7,6 @@ class QWidget;
 
 namespace velmora {
 
-class Screens;
 class UserDefaults;
 class WindowActivation;
 

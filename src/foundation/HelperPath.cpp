@@ -3,7 +3,6 @@
 #include "foundation/Bundle.h"
 
 #include <QFile>
-#include <QtGlobal>
 
 namespace velmora {
 

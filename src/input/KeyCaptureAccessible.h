@@ -4,8 +4,6 @@
 
 namespace velmora {
 
-class KeyCaptureNSView;
-
 /// The capture view as assistive technology sees it: a field for a key sequence whose value is the
 /// combination's names.
 class KeyCaptureAccessible : public QAccessibleWidget {

@@ -3,7 +3,6 @@
 #include "input/KeyCaptureNSView.h"
 
 #include <QVBoxLayout>
-#include <utility>
 
 namespace velmora {
 

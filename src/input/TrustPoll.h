@@ -23,8 +23,6 @@ public:
     /// is called.
     void start(std::function<void()> onTrusted);
 
-    bool isActive() const { return timer_.isActive(); }
-
 private:
     void ask();
 

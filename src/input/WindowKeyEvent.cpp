@@ -100,7 +100,7 @@ QString characters(int key) {
 } // namespace
 
 std::optional<TapEvent> windowKeyEvent(const QKeyEvent& event) {
-    TapEvent result{.isRepeat = event.isAutoRepeat()};
+    TapEvent result;
     for (const auto& [modifier, flag] : modifierFlags) {
         if (event.modifiers() & modifier)
             result.flags |= flag;

@@ -17,7 +17,6 @@ namespace velmora {
 /// What happened, numbered as in the given vocabulary.
 enum class EventType : std::uint32_t {
     keyDown = 10,
-    keyUp = 11,
     flagsChanged = 12,
     otherMouseDown = 25,
     tapDisabledByTimeout = 0xFFFFFFFE,
@@ -40,7 +39,6 @@ struct TapEvent {
     KeyCode keyCode = 0;
     EventFlags flags = 0;
     std::int64_t buttonNumber = 0; ///< 2 middle, 3 fourth, 4 fifth, …
-    bool isRepeat = false;
     /// What the key types with modifiers but Shift ignored; its usual label when it types nothing.
     QString charactersIgnoringModifiers{};
 };

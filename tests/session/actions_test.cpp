@@ -3,7 +3,6 @@
 #include "session/Session.h"
 
 #include <QElapsedTimer>
-#include <QRegularExpression>
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;

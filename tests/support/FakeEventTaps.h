@@ -71,9 +71,6 @@ public:
         for (auto tap = taps.rbegin(); tap != taps.rend(); ++tap) {
             if (!(*tap)->enabled || !wants(**tap, event))
                 continue;
-            // Every key of the session is taken, releases too, though no handler hears of those.
-            if (!((*tap)->eventsOfInterest & eventMaskBit(event.type)))
-                return true;
             // A copy: the handler may destroy its tap.
             const Handler handler = (*tap)->handler;
             const std::optional<TapEvent> returned = handler(event.type, event);
@@ -101,15 +98,15 @@ public:
 
 private:
     static bool wants(const Tap& tap, const TapEvent& event) {
-        const bool asked = tap.eventsOfInterest & eventMaskBit(event.type);
+        if (!(tap.eventsOfInterest & eventMaskBit(event.type)))
+            return false;
         if (const auto* chord = std::get_if<TapInterest::Chord>(&tap.interest))
-            return asked && event.type == EventType::keyDown && event.keyCode == chord->keyCode &&
+            return event.type == EventType::keyDown && event.keyCode == chord->keyCode &&
                    (event.flags & chord->requiredFlags) == chord->requiredFlags;
         if (const auto* buttons = std::get_if<TapInterest::MouseButtons>(&tap.interest))
-            return asked && event.type == EventType::otherMouseDown && event.buttonNumber >= 2 &&
+            return event.type == EventType::otherMouseDown && event.buttonNumber >= 2 &&
                    buttons->buttonNumbers.contains(event.buttonNumber);
-        return event.type == EventType::keyDown || event.type == EventType::keyUp ||
-               event.type == EventType::flagsChanged;
+        return event.type == EventType::keyDown || event.type == EventType::flagsChanged;
     }
 };
 

@@ -1,8 +1,5 @@
 #include "support/TestDisplay.h"
 
-#include <csignal>
-#include <cstdlib>
-#include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
 

@@ -30,8 +30,6 @@ public:
     /// of no known position, or noted before, changes nothing.
     void add(const QByteArray& name, xcb_keycode_t keycode);
 
-    bool operator==(const KeyPositions&) const = default;
-
 private:
     /// Indexed by position, all known ones being below 128; 0 is no keycode.
     std::array<xcb_keycode_t, 128> keycodes_{};

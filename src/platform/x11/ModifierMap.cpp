@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <span>
-#include <utility>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 namespace velmora {

@@ -121,8 +121,7 @@ void X11ChordGrab::handle(const xcb_generic_event_t& event) {
     sink_.event(
         {.type = EventType::keyDown,
          .keyCode = wanted_.keyCode,
-         .flags = keyboard_.modifiers().flags(static_cast<std::uint8_t>(press->mods.effective)),
-         .isRepeat = (press->flags & XCB_INPUT_KEY_EVENT_FLAGS_KEY_REPEAT) != 0});
+         .flags = keyboard_.modifiers().flags(static_cast<std::uint8_t>(press->mods.effective))});
 }
 
 } // namespace velmora

@@ -7,7 +7,6 @@ namespace velmora {
 
 class X11Connection;
 class X11Keyboard;
-class X11Grab;
 
 /// Event taps over what an X server lets one client take: only what a tap wants is grabbed,
 /// everything else goes its way without this process seeing it.

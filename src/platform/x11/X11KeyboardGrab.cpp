@@ -112,7 +112,6 @@ void X11KeyboardGrab::handlePress(const xcb_input_key_press_event_t& press) {
         {.type = EventType::keyDown,
          .keyCode = keyboard_.positions().position(keycode).value_or(kNoKeyCode),
          .flags = flags,
-         .isRepeat = (press.flags & XCB_INPUT_KEY_EVENT_FLAGS_KEY_REPEAT) != 0,
          .charactersIgnoringModifiers = labels_.label(keycode, group, shift)});
 }
 

@@ -2,7 +2,6 @@
 #include "contract/panel/SessionTest.h"
 #include "platform/x11/X11PanelWindows.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QMenu>
 

@@ -77,20 +77,18 @@ TEST_F(HotKeyManagerTest, MatchesThePositionOfMWithOptionAmongAnyModifiers) {
         EXPECT_FALSE(swallowed_);
     }
     EXPECT_EQ(togglesAfter(positionOfM, kCGEventFlagMaskAlternate, u","_s), 1) << "another layout";
-    taps_.taps.front()->eventsOfInterest |= eventMaskBit(EventType::keyUp);
+    taps_.taps.front()->eventsOfInterest |= eventMaskBit(EventType::flagsChanged);
     EXPECT_FALSE(taps_.send(
-        {.type = EventType::keyUp, .keyCode = positionOfM, .flags = kCGEventFlagMaskAlternate}));
+        {.type = EventType::flagsChanged,
+         .keyCode = positionOfM,
+         .flags = kCGEventFlagMaskAlternate}));
 }
 
 TEST_F(HotKeyManagerTest, EveryRepeatTogglesAgain) {
     manager_->setupHotKeys();
     const qsizetype before = toggles();
     for (int press = 0; press < 3; ++press)
-        taps_.send(
-            {.type = EventType::keyDown,
-             .keyCode = positionOfM,
-             .flags = kCGEventFlagMaskAlternate,
-             .isRepeat = press > 0});
+        taps_.sendKey(positionOfM, kCGEventFlagMaskAlternate);
     QCoreApplication::processEvents();
     EXPECT_EQ(toggles() - before, 3);
     EXPECT_FALSE(controller_->isOverlayVisible);

@@ -3,7 +3,6 @@
 #include "foundation/Bundle.h"
 #include "foundation/HelperPath.h"
 
-#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>

@@ -3,7 +3,6 @@
 #include "platform/freedesktop/DesktopEntryListing.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>

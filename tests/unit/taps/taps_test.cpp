@@ -7,9 +7,7 @@
 #include "platform/x11/X11EventTap.h"
 #include "support/TestDisplay.h"
 
-#include "foundation/Log.h"
-
-#include <cstring>
+#include <QElapsedTimer>
 #include <gmock/gmock.h>
 #include <limits>
 #include <xkbcommon/xkbcommon.h>
