@@ -1,6 +1,6 @@
 #include "platform/x11/ChordTrial.h"
 
-#include <xcb/xinput.h>
+#include "platform/x11/XInput.h"
 
 namespace velmora {
 
@@ -12,14 +12,7 @@ std::unique_ptr<ChordTrial> ChordTrial::open() {
 }
 
 ChordTrial::ChordTrial(std::unique_ptr<X11Connection> connection)
-    : connection_(std::move(connection)) {
-    const auto* extension = xcb_get_extension_data(*connection_, &xcb_input_id);
-    if (!extension || !extension->present)
-        return;
-    const XcbOwned<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
-        *connection_, xcb_input_xi_query_version(*connection_, 2, 2), nullptr));
-    hasInput_ = version && version->major_version >= 2;
-}
+    : connection_(std::move(connection)), hasInput_(XInput::find(*connection_).has_value()) {}
 
 ChordTrial::Question ChordTrial::ask(xcb_keycode_t keycode, uint8_t mask) {
     // Nothing here is of interest, yet every client gets keyboard-mapping events.

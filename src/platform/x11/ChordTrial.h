@@ -29,7 +29,7 @@ private:
     explicit ChordTrial(std::unique_ptr<X11Connection> connection);
 
     std::unique_ptr<X11Connection> connection_;
-    bool hasInput_ = false;
+    bool hasInput_;
 };
 
 } // namespace velmora

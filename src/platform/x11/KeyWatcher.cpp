@@ -9,10 +9,7 @@ using namespace Qt::StringLiterals;
 namespace velmora {
 
 KeyWatcher::KeyWatcher(X11Connection& connection)
-    : connection_(connection), window_(xcb_generate_id(connection)) {
-    xcb_create_window(
-        connection_, 0, window_, connection_.root(), 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-        XCB_COPY_FROM_PARENT, 0, nullptr);
+    : connection_(connection), window_(connection.makeHiddenWindow()) {
     xcb_flush(connection_);
     const auto folder = Bundle::helperPath();
     if (!folder)

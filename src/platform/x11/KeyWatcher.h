@@ -17,7 +17,7 @@ public:
 
 private:
     X11Connection& connection_;
-    xcb_window_t window_; ///< never mapped
+    xcb_window_t window_;
 };
 
 } // namespace velmora

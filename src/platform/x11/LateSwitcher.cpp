@@ -7,10 +7,7 @@
 namespace velmora {
 
 LateSwitcher::LateSwitcher(X11Connection& connection)
-    : connection_(connection), window_(xcb_generate_id(connection)) {
-    xcb_create_window(
-        connection_, 0, window_, connection_.root(), 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-        XCB_COPY_FROM_PARENT, 0, nullptr);
+    : connection_(connection), window_(connection.makeHiddenWindow()) {
     timer_.setInterval(100);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { check(); });
 }

@@ -1,6 +1,7 @@
 #include "platform/x11/PrimaryOutput.h"
 
 #include "platform/x11/X11Connection.h"
+#include "platform/x11/XcbExtension.h"
 
 #include <QList>
 #include <cstring>
@@ -28,8 +29,7 @@ readOutput(X11Connection& connection, xcb_randr_output_t output, xcb_timestamp_t
 } // namespace
 
 std::optional<PrimaryOutput> readPrimaryOutput(X11Connection& connection) {
-    const auto* const extension = xcb_get_extension_data(connection, &xcb_randr_id);
-    if (!extension || !extension->present)
+    if (!findExtension(connection, xcb_randr_id))
         return {};
     const auto resourcesCookie =
         xcb_randr_get_screen_resources_current(connection, connection.root());

@@ -1,7 +1,8 @@
 #include "platform/x11/SyntheticKeys.h"
 
 #include "platform/x11/ModifierMap.h"
-#include "platform/x11/X11Connection.h"
+#include "platform/x11/XcbExtension.h"
+#include "platform/x11/XcbOwned.h"
 
 #include <QByteArrayView>
 #include <vector>
@@ -59,8 +60,8 @@ void release(xcb_connection_t* connection, xcb_keycode_t keycode) {
 }
 
 void pressAgainIfHeld(xcb_connection_t* connection, std::span<const xcb_keycode_t> keycodes) {
-    const xcb_query_extension_reply_t* input = xcb_get_extension_data(connection, &xcb_input_id);
-    if (keycodes.empty() || !input || !input->present)
+    const auto* input = findExtension(connection, xcb_input_id);
+    if (keycodes.empty() || !input)
         return;
     const auto firstEvent = input->first_event;
     const auto pressType = static_cast<uint8_t>(firstEvent + XCB_INPUT_DEVICE_KEY_PRESS);

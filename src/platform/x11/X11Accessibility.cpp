@@ -1,6 +1,7 @@
 #include "platform/x11/X11Accessibility.h"
 
 #include "platform/x11/X11Connection.h"
+#include "platform/x11/XcbExtension.h"
 #include "platform/x11/Xkb.h"
 
 #include <cstdint>
@@ -10,13 +11,8 @@
 namespace velmora {
 namespace {
 
-bool serverOffers(X11Connection& connection, xcb_extension_t& id) {
-    const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection, &id);
-    return extension && extension->present;
-}
-
 bool offersXInput2(X11Connection& connection) {
-    if (!serverOffers(connection, xcb_input_id))
+    if (!findExtension(connection, xcb_input_id))
         return false;
     // Asks for the server's version without settling this client's, unlike XIQueryVersion.
     const QByteArray name = "XInputExtension";
@@ -40,7 +36,7 @@ bool isXwayland(X11Connection& connection) {
 
 X11Accessibility::X11Accessibility(X11Connection& connection)
     : trusted_(
-          serverOffers(connection, xcb_test_id) && serverOffers(connection, xcb_xkb_id) &&
+          findExtension(connection, xcb_test_id) && findExtension(connection, xcb_xkb_id) &&
           offersXInput2(connection) &&
           !isWaylandSession(
               isXwayland(connection), qgetenv("XDG_SESSION_TYPE"), qgetenv("WAYLAND_DISPLAY"))) {}

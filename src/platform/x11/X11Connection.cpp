@@ -49,18 +49,20 @@ std::unique_ptr<X11Connection> X11Connection::open() {
         xcb_disconnect(connection);
         return nullptr;
     }
-    xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
-    while (screenNumber-- > 0 && screens.rem > 1)
-        xcb_screen_next(&screens);
     // One wait for all of them instead of one each.
     for (xcb_extension_t* extension :
          {&xcb_input_id, &xcb_randr_id, &xcb_shape_id, &xcb_test_id, &xcb_xkb_id})
         xcb_prefetch_extension_data(connection, extension);
-    return std::unique_ptr<X11Connection>(new X11Connection(connection, *screens.data));
+    return std::unique_ptr<X11Connection>(new X11Connection(connection, screenNumber));
 }
 
-X11Connection::X11Connection(xcb_connection_t* connection, const xcb_screen_t& screen)
-    : connection_(connection), screen_(&screen) {}
+X11Connection::X11Connection(xcb_connection_t* connection, int screenNumber)
+    : connection_(connection), screenNumber_(screenNumber) {
+    xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
+    while (screenNumber-- > 0)
+        xcb_screen_next(&screens);
+    root_ = screens.data->root;
+}
 
 X11Connection::~X11Connection() {
     QObject::disconnect(aboutToBlock_);
@@ -80,6 +82,14 @@ xcb_atom_t X11Connection::atom(const QByteArray& name) {
     const xcb_atom_t atom = reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
     atoms_.insert(name, atom);
     return atom;
+}
+
+xcb_window_t X11Connection::makeHiddenWindow() {
+    const xcb_window_t window = xcb_generate_id(connection_);
+    xcb_create_window(
+        connection_, 0, window, root_, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+        XCB_COPY_FROM_PARENT, 0, nullptr);
+    return window;
 }
 
 void X11Connection::Subscription::end() {

@@ -23,8 +23,12 @@ public:
     X11Connection& operator=(const X11Connection&) = delete;
 
     operator xcb_connection_t*() const { return connection_; }
-    const xcb_screen_t& screen() const { return *screen_; }
-    xcb_window_t root() const { return screen_->root; }
+    xcb_window_t root() const { return root_; }
+    /// Of the screen that `root()` is the root of.
+    int screenNumber() const { return screenNumber_; }
+
+    /// A new window that is never to be mapped.
+    xcb_window_t makeHiddenWindow();
 
     /// The atom called `name`, asked for once.
     xcb_atom_t atom(const QByteArray& name);
@@ -58,10 +62,11 @@ public:
     void deliverEvents();
 
 private:
-    X11Connection(xcb_connection_t* connection, const xcb_screen_t& screen);
+    X11Connection(xcb_connection_t* connection, int screenNumber);
 
     xcb_connection_t* connection_;
-    const xcb_screen_t* screen_;
+    int screenNumber_;
+    xcb_window_t root_;
     QHash<QByteArray, xcb_atom_t> atoms_;
     std::list<Listener> listeners_;
     std::unique_ptr<QSocketNotifier> notifier_;

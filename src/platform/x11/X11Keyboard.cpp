@@ -1,12 +1,13 @@
 #include "platform/x11/X11Keyboard.h"
 
+#include "platform/x11/XcbExtension.h"
 #include "platform/x11/Xkb.h"
 
 namespace velmora {
 
 X11Keyboard::X11Keyboard(X11Connection& connection) : connection_(connection) {
-    const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection_, &xcb_xkb_id);
-    if (!extension || !extension->present)
+    const auto* extension = findExtension(connection_, xcb_xkb_id);
+    if (!extension)
         return;
     const XcbOwned<xcb_xkb_use_extension_reply_t> use(xcb_xkb_use_extension_reply(
         connection_,

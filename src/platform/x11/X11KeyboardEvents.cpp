@@ -3,6 +3,7 @@
 #include "platform/x11/AbandonedKeys.h"
 #include "platform/x11/ExactModifiers.h"
 #include "platform/x11/SyntheticKeys.h"
+#include "platform/x11/XcbExtension.h"
 #include "platform/x11/Xkb.h"
 
 #include <algorithm>
@@ -11,14 +12,6 @@
 #include <xcb/xtest.h>
 
 namespace velmora {
-namespace {
-
-bool hasExtension(X11Connection& connection, xcb_extension_t& id) {
-    const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection, &id);
-    return extension && extension->present;
-}
-
-} // namespace
 
 /// The keyboard's state when a key is about to be sent.
 struct X11KeyboardEvents::Before {
@@ -38,12 +31,12 @@ X11KeyboardEvents::~X11KeyboardEvents() {
 }
 
 void X11KeyboardEvents::releaseAbandonedKeys() {
-    if (hasExtension(connection_, xcb_test_id))
+    if (findExtension(connection_, xcb_test_id))
         velmora::releaseAbandonedKeys(connection_);
 }
 
 std::unique_ptr<EventSource> X11KeyboardEvents::createEventSource(EventSourceState) {
-    if (!keyboard_.isAvailable() || !hasExtension(connection_, xcb_test_id))
+    if (!keyboard_.isAvailable() || !findExtension(connection_, xcb_test_id))
         return nullptr;
     if (!lateSwitcher_) {
         lateSwitcher_ = std::make_unique<LateSwitcher>(connection_);

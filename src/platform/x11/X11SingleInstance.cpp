@@ -81,10 +81,7 @@ X11SingleInstance::X11SingleInstance(X11Connection& connection)
 
 bool X11SingleInstance::claim() {
     const xcb_atom_t selection = connection_.atom(kSelection);
-    window_ = xcb_generate_id(connection_);
-    xcb_create_window(
-        connection_, 0, window_, connection_.root(), -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-        XCB_COPY_FROM_PARENT, 0, nullptr);
+    window_ = connection_.makeHiddenWindow();
     QDeadlineTimer deadline(maximumWait);
     for (;;) {
         xcb_window_t owner = XCB_WINDOW_NONE;

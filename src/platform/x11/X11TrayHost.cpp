@@ -5,14 +5,6 @@
 namespace velmora {
 namespace {
 
-int screenNumber(X11Connection& connection) {
-    int number = 0;
-    for (auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
-         screens.rem > 0 && screens.data->root != connection.root(); xcb_screen_next(&screens))
-        ++number;
-    return number;
-}
-
 bool hasOwner(X11Connection& connection, xcb_atom_t selection) {
     const XcbOwned<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
         connection, xcb_get_selection_owner(connection, selection), nullptr));
@@ -23,7 +15,7 @@ bool hasOwner(X11Connection& connection, xcb_atom_t selection) {
 
 void X11TrayHost::whenThere(std::function<void()> task) {
     selection_ =
-        connection_.atom("_NET_SYSTEM_TRAY_S" + QByteArray::number(screenNumber(connection_)));
+        connection_.atom("_NET_SYSTEM_TRAY_S" + QByteArray::number(connection_.screenNumber()));
     // First, so that one that comes meanwhile is not missed: a new owner announces itself there.
     alsoSelectEvents(connection_, connection_.root(), XCB_EVENT_MASK_STRUCTURE_NOTIFY);
     if (hasOwner(connection_, selection_)) {

@@ -1,13 +1,13 @@
 #include "platform/x11/XInput.h"
 
-#include "platform/x11/X11Connection.h"
+#include "platform/x11/XcbExtension.h"
+#include "platform/x11/XcbOwned.h"
 
 namespace velmora {
 
 std::optional<XInput> XInput::find(xcb_connection_t* connection) {
-    const xcb_query_extension_reply_t* extension =
-        xcb_get_extension_data(connection, &xcb_input_id);
-    if (!extension || !extension->present)
+    const auto* extension = findExtension(connection, xcb_input_id);
+    if (!extension)
         return std::nullopt;
     const auto versionCookie = xcb_input_xi_query_version(connection, 2, 2);
     const auto devicesCookie = xcb_input_xi_query_device(connection, XCB_INPUT_DEVICE_ALL_MASTER);
