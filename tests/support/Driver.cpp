@@ -112,6 +112,12 @@ void Driver::tapKey(const QByteArray& position, Keyboard keyboard) {
     releaseKey(position, keyboard);
 }
 
+void Driver::tapChord(const QByteArray& modifier, const QByteArray& position) {
+    pressKey(modifier);
+    tapKey(position);
+    releaseKey(modifier);
+}
+
 uint8_t Driver::keycode(const QByteArray& position) const {
     const uint8_t keycode = keycodes_.value(position);
     if (keycode == 0)

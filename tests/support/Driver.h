@@ -28,6 +28,8 @@ public:
     void pressKey(const QByteArray& position, Keyboard keyboard = Keyboard::Synthetic);
     void releaseKey(const QByteArray& position, Keyboard keyboard = Keyboard::Synthetic);
     void tapKey(const QByteArray& position, Keyboard keyboard = Keyboard::Synthetic);
+    /// Taps a key while a modifier key is held.
+    void tapChord(const QByteArray& modifier, const QByteArray& position);
 
     /// The keycode of a position; aborts the test program when there is none.
     uint8_t keycode(const QByteArray& position) const;

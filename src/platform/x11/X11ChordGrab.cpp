@@ -118,6 +118,8 @@ void X11ChordGrab::handle(const xcb_generic_event_t& event) {
     // By the press's time: a grab that was made since stays.
     xcb_input_xi_ungrab_device(connection_, press->time, press->deviceid);
     xcb_flush(connection_);
+    // A longer chord that another program had may be free by now; no timer waits for that.
+    obtain();
     sink_.event(
         {.type = EventType::keyDown,
          .keyCode = wanted_.keyCode,

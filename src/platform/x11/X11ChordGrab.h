@@ -20,7 +20,7 @@ public:
     ~X11ChordGrab() override;
 
     /// True also on a keyboard that has no such key, and when another program has a longer chord
-    /// that contains this one.
+    /// that contains this one: that is asked for again at each press.
     bool obtain() override;
     bool adopt(const EventTapInterest& interest) override;
     QString refusedName() const override;

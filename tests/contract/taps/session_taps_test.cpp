@@ -62,9 +62,7 @@ TEST_F(TapsTest, TheChordFollowsItsKeyAndItsModifier) {
         // Reads afresh where the keys are.
         Driver hands;
         const size_t before = tap.presses();
-        hands.pressKey(modifier);
-        hands.tapKey(key);
-        hands.releaseKey(modifier);
+        hands.tapChord(modifier, key);
         return waitFor([&] { return tap.presses() > before; }, 100);
     };
     const auto setxkbmap = [](const QStringList& arguments) {
@@ -130,14 +128,31 @@ TEST_F(TapsTest, AHandlerThatIsSlowFreezesNobody) {
 }
 
 TEST_F(TapsTest, ATapWorksBesideAnotherProgramsLongerChord) {
-    // Option+Shift+M of a window manager that uses XInput 2: ours is the rest.
-    OtherProgram program;
-    EXPECT_TRUE(program.takeChord(world.driver.keycode(keyM.name), XCB_MOD_MASK_SHIFT));
-    makeEnabled(optionM);
-    EXPECT_TRUE(tap.tap->isEnabled());
-    world.type(keyM, option, tap);
-    EXPECT_EQ(tap.presses(), 1U);
-    EXPECT_EQ(tap.refusals, 0);
+    // Twice: the first key after others on another keyboard changes the keyboard, and that alone
+    // makes the tap ask again.
+    for (int round = 0; round < 2; ++round) {
+        SCOPED_TRACE(round);
+        tap = {};
+        // Option+Shift+M of a window manager that uses XInput 2: ours is the rest.
+        std::optional<OtherProgram> program(std::in_place);
+        EXPECT_TRUE(waitFor([&] {
+            return program->takeChord(world.driver.keycode(keyM.name), XCB_MOD_MASK_SHIFT);
+        }));
+        makeEnabled(optionM);
+        EXPECT_TRUE(tap.tap->isEnabled());
+        type(keyM, option);
+        EXPECT_EQ(tap.presses(), 1U);
+        EXPECT_EQ(tap.refusals, 0);
+
+        // Ours, too, from the next press on, once that program is gone.
+        program.reset();
+        EXPECT_TRUE(waitFor([&] {
+            type(keyM, option);
+            const size_t before = tap.presses();
+            type(keyM, option | kCGEventFlagMaskShift);
+            return tap.presses() > before;
+        }));
+    }
 }
 
 TEST_F(TapsTest, AButtonWorksBesideAnotherProgramsUseOfItWithAModifier) {
