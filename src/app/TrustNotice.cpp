@@ -1,5 +1,7 @@
 #include "app/TrustNotice.h"
 
+#include "app/MainMenu.h"
+#include "foundation/ActionMessages.h"
 #include "foundation/LocalizedString.h"
 #include "platform/WindowActivation.h"
 #include "viewkit/WindowTheme.h"
@@ -7,6 +9,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -41,6 +44,16 @@ void showTrustNotice(WindowActivation& activation) {
     auto* close = new QPushButton(localizedString("button_close"));
     close->setDefault(true);
     QObject::connect(close, &QPushButton::clicked, notice, &QDialog::close);
+
+    // It has no menu bar, but the application's key equivalents act in every window.
+    const MenuModel menu = mainMenu().constFirst();
+    for (const MenuEntry& entry : menu.entries) {
+        if (entry.keyEquivalent.isEmpty())
+            continue;
+        QObject::connect(
+            new QShortcut(entry.keyEquivalent, notice), &QShortcut::activated,
+            [message = entry.actionMessage] { ActionMessages::shared().send(message); });
+    }
 
     auto* layout = new QVBoxLayout(notice);
     layout->setContentsMargins(padding, padding, padding, padding);
