@@ -158,7 +158,7 @@ std::optional<TapEvent> KeyCaptureNSView::handleTapEvent(EventType type, const T
         return std::nullopt;
     }
     tapDelivers_ = true;
-    // Capturing may close the editor, and this view with it: nothing of it is used afterwards.
+    // Capturing may hide the editor, and the tap goes with the focus.
     if (type == EventType::keyDown && onDefaultKey && isDefaultKey(event)) {
         // Not from within the tap: a slow handler would be switched off. The key may repeat before
         // the first one is answered.
