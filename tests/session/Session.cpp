@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -162,9 +163,7 @@ std::vector<QRect> Session::buttons() {
 }
 
 void Session::pressHotKey() {
-    driver_->pressKey("LALT");
-    driver_->tapKey("AB07");
-    driver_->releaseKey("LALT");
+    driver_->tapChord("LALT", "AB07");
 }
 
 bool Session::waitForSettings() {
@@ -173,6 +172,24 @@ bool Session::waitForSettings() {
         return active && title(*client_, active) == u"Velmora 設定"_s &&
                inputFocus(*client_) == active;
     });
+}
+
+void Session::expectSettingsInFront(const std::function<void()>& ask) {
+    for (const bool isOpen : {false, true}) {
+        SCOPED_TRACE(isOpen ? "open behind" : "not open");
+        Witness witness({0, 100, options_.screen.width(), options_.screen.height() - 200});
+        driver_->tapKey("AC01");
+        ASSERT_TRUE(witness.waitForInput(2));
+        witness.markAsInUse();
+        witness.clear();
+        ask();
+        EXPECT_TRUE(waitForSettings());
+        driver_->tapKey(isOpen ? "HOME" : "END");
+        driver_->tapKey("DELE");
+        const size_t left = isOpen ? 2 : 3;
+        EXPECT_TRUE(waitFor([&] { return buttons().size() == left; }));
+        EXPECT_TRUE(witness.keys().empty());
+    }
 }
 
 QString Session::writeFile(const QString& relativePath, const QByteArray& text) {

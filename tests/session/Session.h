@@ -9,6 +9,7 @@
 #include <QProcessEnvironment>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -63,6 +64,11 @@ public:
 
     /// Waits until the settings window is the active one and has the keyboard focus.
     bool waitForSettings();
+
+    /// Works in another application and then calls `ask`, which has the settings shown: first they
+    /// are not open, then behind the other. Each time keys must reach them, not the other: one of
+    /// the four default buttons goes.
+    void expectSettingsInFront(const std::function<void()>& ask);
 
     XClient& client() { return *client_; }
     Driver& driver() { return *driver_; }

@@ -182,21 +182,7 @@ TEST(Instances, ASecondLaunchBringsTheSettingsBeforeAnotherApplication) {
         SCOPED_TRACE(windowManager.toStdString());
         Session session({.windowManager = windowManager});
         session.launch();
-        for (const bool isOpen : {false, true}) {
-            SCOPED_TRACE(isOpen ? "open behind" : "not open");
-            Witness witness({0, 100, 1512, 800});
-            session.driver().tapKey("AC01");
-            ASSERT_TRUE(witness.waitForInput(2));
-            witness.markAsInUse();
-            witness.clear();
-            EXPECT_TRUE(Launch(session).untilDone());
-            EXPECT_TRUE(session.waitForSettings());
-            session.driver().tapKey(isOpen ? "HOME" : "END");
-            session.driver().tapKey("DELE");
-            const size_t left = isOpen ? 2 : 3;
-            EXPECT_TRUE(waitFor([&] { return session.buttons().size() == left; }));
-            EXPECT_TRUE(witness.keys().empty());
-        }
+        session.expectSettingsInFront([&] { EXPECT_TRUE(Launch(session).untilDone()); });
     }
 }
 

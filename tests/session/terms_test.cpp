@@ -43,12 +43,6 @@ protected:
             .toBool();
     }
 
-    void chord(const QByteArray& modifier, const QByteArray& key) {
-        session.driver().pressKey(modifier);
-        session.driver().tapKey(key);
-        session.driver().releaseKey(modifier);
-    }
-
     Session session;
 };
 
@@ -67,9 +61,9 @@ TEST_F(Terms, StandAloneInTheMiddleAndOnTop) {
 
 TEST_F(Terms, OnlyTheTwoAnswersLeave) {
     session.driver().tapKey("ESC");
-    chord("LALT", "FK04");
+    session.driver().tapChord("LALT", "FK04");
     // A later key is answered after the earlier ones: the window is still there to answer it.
-    chord("LCTL", "AD01"); // Ctrl+Q
+    session.driver().tapChord("LCTL", "AD01"); // Ctrl+Q
     EXPECT_TRUE(waitFor([this] { return session.program().state() == QProcess::NotRunning; }));
     EXPECT_EQ(session.program().exitCode(), 0);
     EXPECT_FALSE(agreed());
