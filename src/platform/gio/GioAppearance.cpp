@@ -30,29 +30,11 @@ std::optional<unsigned> unwrapped(GVariant* value) {
     return number;
 }
 
-} // namespace
-
 /// What the answers come from. Handlers run on the main thread, from GLib's main context.
-struct GioAppearance::Sources {
+struct Sources {
     std::function<void(bool)> handler;
     GSettings* gnome = nullptr;
-    GDBusConnection* bus = nullptr;
-    GCancellable* cancellable = g_cancellable_new();
-    unsigned subscription = 0;
     bool portalAnswered = false;
-
-    ~Sources() {
-        g_cancellable_cancel(cancellable);
-        g_object_unref(cancellable);
-        if (bus) {
-            g_dbus_connection_signal_unsubscribe(bus, subscription);
-            g_object_unref(bus);
-        }
-        if (gnome) {
-            g_signal_handlers_disconnect_by_data(gnome, this);
-            g_object_unref(gnome);
-        }
-    }
 
     void readGnome() {
         if (portalAnswered)
@@ -86,20 +68,19 @@ struct GioAppearance::Sources {
 
     void openPortal() {
         g_bus_get(
-            G_BUS_TYPE_SESSION, cancellable,
+            G_BUS_TYPE_SESSION, nullptr,
             [](GObject*, GAsyncResult* result, gpointer self) {
-                // A cancelled call answers after `self` has gone: look at the result only.
                 if (GDBusConnection* connection = g_bus_get_finish(result, nullptr))
                     static_cast<Sources*>(self)->askPortal(connection);
             },
             this);
     }
 
-    void askPortal(GDBusConnection* connection) {
-        bus = connection;
+    /// Keeps `bus` for good.
+    void askPortal(GDBusConnection* bus) {
         // Losing the bus must not end the program.
         g_dbus_connection_set_exit_on_close(bus, false);
-        subscription = g_dbus_connection_signal_subscribe(
+        g_dbus_connection_signal_subscribe(
             bus, portalName, portalInterface, "SettingChanged", portalPath, portalNamespace,
             G_DBUS_SIGNAL_FLAGS_NONE,
             [](GDBusConnection*, const char*, const char*, const char*, const char*,
@@ -116,7 +97,7 @@ struct GioAppearance::Sources {
         g_dbus_connection_call(
             bus, portalName, portalPath, portalInterface, "Read",
             g_variant_new("(ss)", portalNamespace, portalKey), G_VARIANT_TYPE("(v)"),
-            G_DBUS_CALL_FLAGS_NONE, -1, cancellable,
+            G_DBUS_CALL_FLAGS_NONE, -1, nullptr,
             [](GObject* source, GAsyncResult* result, gpointer self) {
                 GVariant* reply =
                     g_dbus_connection_call_finish(G_DBUS_CONNECTION(source), result, nullptr);
@@ -132,15 +113,14 @@ struct GioAppearance::Sources {
     }
 };
 
-GioAppearance::GioAppearance() = default;
-GioAppearance::~GioAppearance() = default;
+} // namespace
 
 void GioAppearance::observe(std::function<void(bool prefersDark)> handler) {
-    sources_ = std::make_unique<Sources>();
-    sources_->handler = std::move(handler);
-    sources_->openGnome();
+    // Never destroyed, like the service itself: they may speak at any time.
+    auto* const sources = new Sources{.handler = std::move(handler)};
+    sources->openGnome();
     if (hasSessionBus())
-        sources_->openPortal();
+        sources->openPortal();
 }
 
 } // namespace velmora
