@@ -3,8 +3,8 @@
 #include "platform/EventTap.h"
 #include "platform/x11/X11Session.h"
 #include "support/Desktop.h"
+#include "support/DisplayMain.h"
 #include "support/Driver.h"
-#include "support/TestDisplay.h"
 #include "support/Witness.h"
 
 #include <QWidget>
@@ -40,8 +40,6 @@ struct TapUnderTest {
     std::vector<std::int64_t> pressed() const;
 };
 
-/// The display that all tests of this program share.
-TestDisplay& display();
 /// Starts `program` in place of the display's window manager and waits until it has taken over.
 void replaceWindowManager(const QString& program);
 

@@ -1,7 +1,6 @@
-// main() of the event-tap contract tests: a display with a window manager, and the application on
-// it.
+// main() of contract tests: a display with a window manager, and the application on it.
 
-#include "World.h"
+#include "support/DisplayMain.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
