@@ -157,7 +157,8 @@ void SettingsWindow::windowWillClose() {
         Log::writeDiagnostic(u"🗑️ SettingsWindow released"_s);
         QPixmapCache::clear();
         // The program goes on for weeks; what the window took is given back, once all is freed.
-        QMetaObject::invokeMethod(qApp, [] { malloc_trim(0); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            qApp, [] { malloc_trim(0); }, Qt::QueuedConnection);
     });
     closed->hide();
     closed->deleteLater();
