@@ -71,10 +71,9 @@ const Colors darkColors{
     .danger = QColor(0xff7a70),
 };
 
-/// Announces a change of scheme to the windows that follow it.
-class Scheme : public QObject {
-public:
+struct Scheme {
     ColorScheme current = ColorScheme::light;
+    bool isApplied = false; ///< to the application, which also menus outside the windows follow
     QList<QWidget*> followers;
 };
 
@@ -204,6 +203,7 @@ void applyToApplication() {
     font.setPointSizeF(fontSize * 72 / QGuiApplication::primaryScreen()->logicalDotsPerInchY());
     QApplication::setFont(font);
     QApplication::setPalette(palette(currentColors()));
+    scheme().isApplied = true;
 }
 
 } // namespace
@@ -212,9 +212,8 @@ void setColorScheme(ColorScheme newScheme) {
     if (scheme().current == newScheme)
         return;
     scheme().current = newScheme;
-    if (scheme().followers.isEmpty())
-        return;
-    applyToApplication();
+    if (scheme().isApplied)
+        applyToApplication();
     for (QWidget* window : scheme().followers)
         window->setStyleSheet(styleSheet(currentColors()));
 }
@@ -223,9 +222,8 @@ void follow(QWidget& window) {
     if (scheme().followers.isEmpty())
         applyToApplication();
     scheme().followers.append(&window);
-    QObject::connect(&window, &QObject::destroyed, &scheme(), [window = &window] {
-        scheme().followers.removeOne(window);
-    });
+    QObject::connect(
+        &window, &QObject::destroyed, [window = &window] { scheme().followers.removeOne(window); });
     // Sheets show the icon of their window.
     if (const auto icon = Bundle::path(u"i-menu"_s, u"png"_s, u"icon"_s);
         icon && !window.parentWidget())

@@ -1,5 +1,7 @@
 #include "viewkit/WindowTheme.h"
 
+#include "viewkit/Theme.h"
+
 #include <QApplication>
 #include <QFontInfo>
 #include <QLabel>
@@ -21,6 +23,14 @@ TEST(WindowTheme, TheFirstWindowHasTheTextOfTheOthers) {
         view.show();
         EXPECT_EQ(QFontInfo(label->font()).pixelSize(), WindowTheme::fontSize) << window;
     }
+}
+
+TEST(WindowTheme, MenusFollowTheSchemeAlsoWhenNoWindowIsThere) {
+    { WindowTheme::follow(*std::make_unique<QWidget>()); }
+    WindowTheme::setColorScheme(ColorScheme::dark);
+    EXPECT_TRUE(Theme::isDark(QApplication::palette()));
+    WindowTheme::setColorScheme(ColorScheme::light);
+    EXPECT_FALSE(Theme::isDark(QApplication::palette()));
 }
 
 } // namespace
