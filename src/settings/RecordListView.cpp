@@ -72,6 +72,11 @@ void RecordListView::mousePressEvent(QMouseEvent* event) {
     QListView::mousePressEvent(event);
 }
 
+void RecordListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        QListView::mouseDoubleClickEvent(event);
+}
+
 void RecordListView::mouseMoveEvent(QMouseEvent* event) {
     if (!event->buttons().testFlag(Qt::LeftButton)) {
         QListView::mouseMoveEvent(event);

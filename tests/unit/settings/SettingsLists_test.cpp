@@ -197,6 +197,12 @@ TEST_F(SettingsListsTest, EditorsWorkOnTheStore) {
         QTest::keyClick(&list(), key);
         save(key == Qt::Key_F2 ? u"Y"_s : u"X"_s);
     }
+    for (const Qt::MouseButton mouseButton : {Qt::MiddleButton, Qt::LeftButton}) {
+        clickRow(3);
+        QTest::mouseDClick(list().viewport(), mouseButton, {}, rowCentre(3));
+        EXPECT_EQ(pane.editor() != nullptr, mouseButton == Qt::LeftButton);
+    }
+    save(u"Y"_s);
     EXPECT_EQ(stored(), u"abcYe"_s);
     button(u"add"_s)->click();
     ASSERT_TRUE(pane.editor());
