@@ -137,7 +137,7 @@ void SettingsWindow::restoreFrame() {
 
 void SettingsWindow::saveFrame() {
     saveTimer_.stop();
-    if (window_ && !window_->isMaximized())
+    if (window_ && !window_->isMaximized() && !window_->isFullScreen())
         defaults_.setData(frameKey, WindowFrame::encoded({window_->pos(), window_->size()}));
 }
 

@@ -111,6 +111,14 @@ TEST_F(SettingsWindowTest, ComesBackWhereItWas) {
     EXPECT_TRUE(waitFor([&] { return defaults_.data(key) == "300 30 640 560"; }));
     window_.window()->resize(650, 560);
     window_.close();
+    // Full screen and maximized are no frames of its own.
+    for (const Qt::WindowState state : {Qt::WindowFullScreen, Qt::WindowMaximized}) {
+        window_.show();
+        window_.window()->setWindowState(state);
+        EXPECT_TRUE(waitFor([&] { return window_.window()->size() != QSize(650, 560); }));
+        window_.close();
+        EXPECT_EQ(defaults_.data(key), "300 30 650 560") << state;
+    }
     window_.show();
     EXPECT_EQ(window_.window()->pos(), QPoint(300, 30));
     EXPECT_EQ(window_.window()->size(), QSize(650, 560));
