@@ -4,22 +4,10 @@
 
 namespace velmora {
 
-const char* rawValue(ActionType type) {
-    switch (type) {
-    case ActionType::launchApp:
-        return "action_launch_app";
-    case ActionType::openURL:
-        return "action_open_url";
-    case ActionType::executeShell:
-        return "action_execute_shell";
-    case ActionType::pressKey:
-        return "action_press_key";
-    }
-    Q_UNREACHABLE();
-}
-
 QString localizedName(ActionType type) {
-    return localizedString(rawValue(type));
+    constexpr const char* keys[actionTypeCount] = {
+        "action_launch_app", "action_open_url", "action_execute_shell", "action_press_key"};
+    return localizedString(keys[static_cast<int>(type)]);
 }
 
 ActionFields::ActionFields(const ShortcutAction& action)

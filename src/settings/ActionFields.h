@@ -11,8 +11,6 @@ namespace velmora {
 enum class ActionType { launchApp, openURL, executeShell, pressKey };
 inline constexpr int actionTypeCount = 4;
 
-/// The raw value, which is also the key of the localized name.
-const char* rawValue(ActionType type);
 QString localizedName(ActionType type);
 
 /// The fields of an action form. Those of the types not chosen are kept but do not reach the
@@ -33,8 +31,6 @@ struct ActionFields {
     /// Whether the chosen type has what it needs, judged on the text exactly as typed.
     bool isComplete() const;
     ShortcutAction action() const;
-
-    bool operator==(const ActionFields&) const = default;
 };
 
 } // namespace velmora

@@ -14,8 +14,8 @@ SearchableApps::SearchableApps(QList<AppInfo> list) : apps(std::move(list)) {
         folded.append(foldedForSearch(app.name) + u'\n' + foldedForSearch(app.bundleId));
 }
 
-AppListModel::AppListModel(QString selectedBundleId, QObject* parent)
-    : QAbstractListModel(parent), selectedBundleId_(std::move(selectedBundleId)) {}
+AppListModel::AppListModel(QString selectedBundleId)
+    : selectedBundleId_(std::move(selectedBundleId)) {}
 
 void AppListModel::setApps(SearchableApps apps) {
     beginResetModel();

@@ -24,7 +24,7 @@ public:
     /// Applications listed until the user searches or asks for all.
     static constexpr qsizetype initialCount = 20;
 
-    explicit AppListModel(QString selectedBundleId, QObject* parent = nullptr);
+    explicit AppListModel(QString selectedBundleId);
 
     void setApps(SearchableApps apps);
 

@@ -5,7 +5,6 @@
 #include "settings/AppRow.h"
 #include "settings/EmptyHint.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QScrollBar>
@@ -76,8 +75,7 @@ private:
     const AppListView& view_;
 };
 
-AppListView::AppListView(AppListModel& model, QWidget* parent)
-    : QListView(parent), model_(model), buttonLook_(this) {
+AppListView::AppListView(AppListModel& model) : model_(model), buttonLook_(this) {
     buttonLook_.hide();
     buttonLook_.setAutoDefault(false);
     buttonLook_.setFocusPolicy(Qt::NoFocus);

@@ -16,7 +16,7 @@ struct AppInfo;
 class AppListView : public QListView {
     Q_OBJECT
 public:
-    explicit AppListView(AppListModel& model, QWidget* parent = nullptr);
+    explicit AppListView(AppListModel& model);
 
     /// Moves the current row as `key` (up, down, page up, page down) does in a list; false for
     /// other keys.

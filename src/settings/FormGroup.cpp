@@ -28,7 +28,7 @@ int labelColumnWidth(const QFontMetrics& metrics) {
 
 } // namespace
 
-FormGroup::FormGroup(const QString& heading, QWidget* parent) : QWidget(parent) {
+FormGroup::FormGroup(const QString& heading) {
     setAccessibleName(heading);
     QLabel* title = headline(heading);
     title->setForegroundRole(QPalette::PlaceholderText); // the secondary colour

@@ -14,12 +14,11 @@ namespace velmora {
 class FormGroup : public QWidget {
     Q_OBJECT
 public:
-    explicit FormGroup(const QString& heading, QWidget* parent = nullptr);
+    explicit FormGroup(const QString& heading);
 
     /// Appends a row of a label, in line with the first line of the controls, and these beside each
     /// other; what is not `stretched` keeps its width. The label names the first one.
-    QLabel*
-    addRow(const QString& label, const QList<QWidget*>& controls, QWidget* stretched = nullptr);
+    QLabel* addRow(const QString& label, const QList<QWidget*>& controls, QWidget* stretched);
     /// Appends a row of a label and a control as wide as there is room.
     QLabel* addRow(const QString& label, QWidget* control) {
         return addRow(label, {control}, control);

@@ -8,6 +8,7 @@
 namespace velmora {
 namespace {
 
+constexpr int cellSide = 50;
 constexpr int symbolFontSize = 24;
 constexpr double cornerRadius = 8;
 constexpr double outlineWidth = 2;
@@ -24,15 +25,11 @@ IconButton::IconButton(const QString& icon, bool isSelected, std::function<void(
     setCheckable(true); // so that assistive programs hear which one is chosen
     setChecked(isSelected);
     setAccessibleName(icon);
-    setFixedSize(sizeHint());
+    constexpr int side = cellSide + 2 * ringMargin;
+    setFixedSize(side, side);
     connect(this, &IconButton::clicked, this, action);
     // What assistive programs do to a checkable button; a click leaves the mark alone.
     connect(this, &IconButton::toggled, this, std::move(action));
-}
-
-QSize IconButton::sizeHint() const {
-    constexpr int side = cellSide + 2 * ringMargin;
-    return {side, side};
 }
 
 void IconButton::paintEvent(QPaintEvent*) {
@@ -73,16 +70,6 @@ void IconButton::keyPressEvent(QKeyEvent* event) {
         click();
     else
         PlainButton::keyPressEvent(event);
-}
-
-void IconButton::focusInEvent(QFocusEvent* event) {
-    PlainButton::focusInEvent(event);
-    update();
-}
-
-void IconButton::focusOutEvent(QFocusEvent* event) {
-    PlainButton::focusOutEvent(event);
-    update();
 }
 
 } // namespace velmora

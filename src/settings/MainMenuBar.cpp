@@ -35,7 +35,7 @@ QString literal(QString title) {
 
 } // namespace
 
-MainMenuBar::MainMenuBar(const QList<MenuModel>& menus, QWidget* parent) : QMenuBar(parent) {
+MainMenuBar::MainMenuBar(const QList<MenuModel>& menus) {
     // In the window, where its shortcuts belong, also on desktops that have a place for menus.
     setNativeMenuBar(false);
     setAccessibleName(u"Velmora"_s);

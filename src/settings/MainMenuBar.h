@@ -15,7 +15,7 @@ class PopupMenu;
 class MainMenuBar : public QMenuBar {
     Q_OBJECT
 public:
-    explicit MainMenuBar(const QList<MenuModel>& menus, QWidget* parent = nullptr);
+    explicit MainMenuBar(const QList<MenuModel>& menus);
 
     /// The entries whose key equivalents act everywhere in the window: all but those of editing.
     const QList<QAction*>& commands() const { return commands_; }

@@ -6,13 +6,11 @@
 #include "settings/FormGroup.h"
 #include "settings/Headline.h"
 #include "viewkit/Alert.h"
-#include "viewkit/Sheet.h"
 #include "viewkit/Theme.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -139,10 +137,7 @@ void RecordEditor::requestSave() {
          .message = localizedString("alert_shell_message"),
          .cancel = localizedString("button_cancel"),
          .destructive = localizedString("button_save")},
-        [self = QPointer(this)] {
-            if (self)
-                self->save();
-        });
+        [this] { save(); });
 }
 
 void RecordEditor::showEvent(QShowEvent* event) {

@@ -8,7 +8,6 @@
 
 class QPushButton;
 class QScrollArea;
-class QVBoxLayout;
 
 namespace velmora {
 

@@ -26,8 +26,6 @@ struct RecordSnapshot {
 class RecordListModel : public QAbstractListModel {
     Q_OBJECT
 public:
-    using QAbstractListModel::QAbstractListModel;
-
     /// Replaces the rows. Those before the first and after the last difference stay the same rows.
     void setSnapshot(RecordSnapshot snapshot);
 

@@ -37,8 +37,8 @@ bool movesThroughRows(int key) {
 
 } // namespace
 
-RecordListView::RecordListView(RecordListModel& model, QWidget* parent)
-    : QListView(parent), delegate_(new RecordRowDelegate(model, this)) {
+RecordListView::RecordListView(RecordListModel& model)
+    : delegate_(new RecordRowDelegate(model, this)) {
     setProperty("inset", true);
     setModel(&model);
     setItemDelegate(delegate_);
@@ -52,10 +52,6 @@ RecordListView::RecordListView(RecordListModel& model, QWidget* parent)
     connect(this, &QListView::doubleClicked, this, [this](const QModelIndex& index) {
         Q_EMIT editRequested(index.row());
     });
-}
-
-int RecordListView::insertionOffset(int y, int rowHeight, int count) {
-    return qBound(0, (y + rowHeight / 2) / rowHeight, count);
 }
 
 int RecordListView::selectedRow() const {
@@ -106,8 +102,9 @@ void RecordListView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 int RecordListView::dropOffset() const {
-    return insertionOffset(
-        drag_->pointerY + verticalOffset(), RecordRowDelegate::rowHeight(), model()->rowCount());
+    const int height = RecordRowDelegate::rowHeight();
+    const int y = drag_->pointerY + verticalOffset();
+    return qBound(0, (y + height / 2) / height, model()->rowCount());
 }
 
 void RecordListView::dragTo(int y) {

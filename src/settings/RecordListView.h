@@ -15,13 +15,10 @@ class RecordRowDelegate;
 class RecordListView : public QListView {
     Q_OBJECT
 public:
-    explicit RecordListView(RecordListModel& model, QWidget* parent = nullptr);
+    explicit RecordListView(RecordListModel& model);
 
     /// Whether rows can be dragged to another place, or moved with Alt+Up and Alt+Down.
     void setReorderable(bool reorderable) { isReorderable_ = reorderable; }
-
-    /// The insertion position, 0 to `count`, that is nearest to `y` among rows of `rowHeight`.
-    static int insertionOffset(int y, int rowHeight, int count);
 
 Q_SIGNALS:
     void editRequested(int row);
@@ -50,6 +47,7 @@ private:
         int pointerY; ///< in the viewport
     };
 
+    /// The insertion position, 0 to the number of rows, that is nearest to the pointer.
     int dropOffset() const;
     void dragTo(int y);
     void endDrag();

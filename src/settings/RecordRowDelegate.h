@@ -11,7 +11,7 @@ class RecordListModel;
 class RecordRowDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:
-    explicit RecordRowDelegate(const RecordListModel& model, QObject* parent = nullptr);
+    explicit RecordRowDelegate(const RecordListModel& model, QObject* parent);
 
     /// Height in points, alike for all rows.
     static int rowHeight();

@@ -10,6 +10,7 @@
 #include <QPushButton>
 
 namespace velmora {
+
 QWidget* sheetHeader(const QString& title, QWidget& content) {
     auto* header = new QWidget;
     auto* close = new QPushButton(localizedString("button_close"));

@@ -35,8 +35,8 @@ std::optional<QString> versionText(const std::optional<QVariantMap>& infoDiction
     return localizedString("version_format").arg(shortVersion.toString(), build.toString());
 }
 
-VersionLine::VersionLine(std::optional<QVariantMap> infoDictionary, QWidget* parent)
-    : QLabel(parent), infoDictionary_(std::move(infoDictionary)) {
+VersionLine::VersionLine(std::optional<QVariantMap> infoDictionary)
+    : infoDictionary_(std::move(infoDictionary)) {
     const auto known = versionText(infoDictionary_);
     isKnown_ = known.has_value();
     setTextFormat(Qt::PlainText);

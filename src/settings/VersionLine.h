@@ -11,7 +11,7 @@ namespace velmora {
 class VersionLine : public QLabel {
     Q_OBJECT
 public:
-    explicit VersionLine(std::optional<QVariantMap> infoDictionary, QWidget* parent = nullptr);
+    explicit VersionLine(std::optional<QVariantMap> infoDictionary);
 
 protected:
     void showEvent(QShowEvent* event) override;

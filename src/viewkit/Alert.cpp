@@ -27,7 +27,7 @@ QLabel* textLabel(const QString& text) {
 
 } // namespace
 
-Sheet& presentAlert(QWidget& presenter, const AlertTexts& texts, std::function<void()> onConfirm) {
+void presentAlert(QWidget& presenter, const AlertTexts& texts, std::function<void()> onConfirm) {
     auto content = std::make_unique<QWidget>();
     QWidget* view = content.get();
     view->setWindowTitle(texts.title);
@@ -43,9 +43,8 @@ Sheet& presentAlert(QWidget& presenter, const AlertTexts& texts, std::function<v
     QObject::connect(cancel, &QPushButton::clicked, view, [view] { Sheet::dismiss(*view); });
     QObject::connect(
         destructive, &QPushButton::clicked, view, [view, confirm = std::move(onConfirm)] {
-            const auto goAhead = confirm;
             Sheet::dismiss(*view);
-            goAhead();
+            confirm();
         });
 
     auto* buttons = new QHBoxLayout;
@@ -61,7 +60,7 @@ Sheet& presentAlert(QWidget& presenter, const AlertTexts& texts, std::function<v
     stack->addSpacing(Theme::defaultSpacing);
     stack->addLayout(buttons);
     view->setFocusProxy(cancel);
-    return Sheet::present(presenter, std::move(content));
+    Sheet::present(presenter, std::move(content));
 }
 
 } // namespace velmora

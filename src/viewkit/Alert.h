@@ -7,8 +7,6 @@ class QWidget;
 
 namespace velmora {
 
-class Sheet;
-
 /// What a question before something risky says.
 struct AlertTexts {
     QString title;
@@ -19,6 +17,6 @@ struct AlertTexts {
 
 /// Asks in a sheet over the window of `presenter`; `onConfirm` runs when the user goes ahead, after
 /// the sheet was dismissed.
-Sheet& presentAlert(QWidget& presenter, const AlertTexts& texts, std::function<void()> onConfirm);
+void presentAlert(QWidget& presenter, const AlertTexts& texts, std::function<void()> onConfirm);
 
 } // namespace velmora

@@ -4,7 +4,6 @@
 #include <functional>
 #include <memory>
 
-class QObject;
 class QWidget;
 
 namespace velmora {

@@ -18,7 +18,7 @@ constexpr double chevronDistance = 2; ///< from the middle line
 
 } // namespace
 
-PopUpButton::PopUpButton(const QString& name, QWidget* parent) : QComboBox(parent) {
+PopUpButton::PopUpButton(const QString& name) {
     setAccessibleName(name);
     view()->setAccessibleName(name);
     setFocusPolicy(Qt::StrongFocus);

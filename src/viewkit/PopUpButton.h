@@ -10,7 +10,7 @@ class PopUpButton : public QComboBox {
     Q_OBJECT
 public:
     /// `name` is what assistive programs call it.
-    explicit PopUpButton(const QString& name, QWidget* parent = nullptr);
+    explicit PopUpButton(const QString& name);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -11,7 +11,7 @@ constexpr int millisecondsPerStep = 80;
 
 } // namespace
 
-ProgressIndicator::ProgressIndicator(QWidget* parent) : QWidget(parent) {
+ProgressIndicator::ProgressIndicator() {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

@@ -9,7 +9,7 @@ namespace velmora {
 class ProgressIndicator : public QWidget {
     Q_OBJECT
 public:
-    explicit ProgressIndicator(QWidget* parent = nullptr);
+    ProgressIndicator();
 
     QSize sizeHint() const override { return {32, 32}; }
 

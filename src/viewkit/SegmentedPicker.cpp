@@ -57,8 +57,7 @@ private:
 
 } // namespace
 
-SegmentedPicker::SegmentedPicker(const QStringList& titles, QWidget* parent)
-    : QWidget(parent), segments_(new QButtonGroup(this)) {
+SegmentedPicker::SegmentedPicker(const QStringList& titles) : segments_(new QButtonGroup(this)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
@@ -68,10 +67,6 @@ SegmentedPicker::SegmentedPicker(const QStringList& titles, QWidget* parent)
         row->addWidget(segment, 1);
     }
     setCurrentIndex(0);
-    connect(segments_, &QButtonGroup::idToggled, this, [this](int index, bool checked) {
-        if (checked)
-            Q_EMIT currentIndexChanged(index);
-    });
 }
 
 int SegmentedPicker::currentIndex() const {
@@ -80,7 +75,6 @@ int SegmentedPicker::currentIndex() const {
 
 void SegmentedPicker::setCurrentIndex(int index) {
     segments_->button(index)->setChecked(true);
-    setFocusProxy(segments_->button(index));
 }
 
 void SegmentedPicker::paintEvent(QPaintEvent*) {

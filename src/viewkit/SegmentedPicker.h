@@ -11,15 +11,11 @@ namespace velmora {
 class SegmentedPicker : public QWidget {
     Q_OBJECT
 public:
-    explicit SegmentedPicker(const QStringList& titles, QWidget* parent = nullptr);
+    explicit SegmentedPicker(const QStringList& titles);
 
     /// Position of the chosen segment.
     int currentIndex() const;
     void setCurrentIndex(int index);
-
-Q_SIGNALS:
-    /// The user chose another segment, or setCurrentIndex() did.
-    void currentIndexChanged(int index);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

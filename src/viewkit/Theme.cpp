@@ -17,10 +17,4 @@ bool isDark(const QPalette& palette) {
            palette.color(QPalette::WindowText).lightness();
 }
 
-QColor secondaryText(const QPalette& palette) {
-    QColor colour = palette.color(QPalette::WindowText);
-    colour.setAlphaF(0.6F);
-    return colour;
-}
-
 } // namespace velmora::Theme

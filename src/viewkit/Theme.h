@@ -23,7 +23,4 @@ constexpr QColor accent(bool dark) {
 /// Whether `palette` belongs to a dark scheme.
 bool isDark(const QPalette& palette);
 
-/// Text of lesser weight on the window's background.
-QColor secondaryText(const QPalette& palette);
-
 } // namespace velmora::Theme
