@@ -13,7 +13,6 @@
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
-#include "platform/Relaunch.h"
 #include "platform/SingleInstance.h"
 #include "settings/SettingsWindow.h"
 #include "viewkit/PopupMenu.h"
@@ -132,9 +131,6 @@ void AppDelegate::showSettings() {
     followDesktopAppearance();
     SettingsWindow& settings = SettingsWindow::shared();
     settings.setMainMenu(mainMenu_);
-    settings.setRelaunch([](const std::function<void()>& completion) {
-        relaunch(Platform::current().singleInstance, completion);
-    });
     settings.show();
 }
 

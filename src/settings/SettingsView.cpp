@@ -12,17 +12,17 @@ using namespace Qt::StringLiterals;
 
 namespace velmora {
 
-SettingsView::SettingsView(const SettingsServices& services, QWidget* parent)
-    : QTabWidget(parent),
-      shortcuts_(new VelmoraSettingsView(
-          services.shortcutManager, services.eventTaps, services.relaunch,
-          services.infoDictionary)) {
+SettingsView::SettingsView(const SettingsServices& services) {
     const int side = Symbols::sideLength(WindowTheme::fontSize);
     setIconSize(QSize(side, side));
     setMinimumSize(contentSize);
     tabBar()->setDrawBase(false);
     tabBar()->setExpanding(false);
-    addTab(shortcuts_, symbolIcon(u"menubar.rectangle"_s), localizedString("settings_tab_velmora"));
+    addTab(
+        new VelmoraSettingsView(
+            services.shortcutManager, services.eventTaps, services.relaunch,
+            services.infoDictionary),
+        symbolIcon(u"menubar.rectangle"_s), localizedString("settings_tab_velmora"));
     addTab(
         new MouseSettingsView(services.mouseManager, services.eventTaps),
         symbolIcon(u"computermouse"_s), localizedString("settings_tab_mouse"));

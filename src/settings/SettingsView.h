@@ -21,16 +21,11 @@ struct SettingsServices {
 class SettingsView : public QTabWidget {
     Q_OBJECT
 public:
-    explicit SettingsView(const SettingsServices& services, QWidget* parent = nullptr);
+    explicit SettingsView(const SettingsServices& services);
 
     static constexpr QSize contentSize{600, 500}; ///< points; the least, and at first
 
-    VelmoraSettingsView& shortcuts() { return *shortcuts_; }
-
     QSize sizeHint() const override { return contentSize; }
-
-private:
-    VelmoraSettingsView* const shortcuts_;
 };
 
 } // namespace velmora

@@ -6,6 +6,7 @@
 #include "input/MouseButtonManager.h"
 #include "model/ShortcutManager.h"
 #include "platform/Platform.h"
+#include "platform/Relaunch.h"
 #include "platform/WindowActivation.h"
 #include "settings/AboutView.h"
 #include "settings/MainMenuBar.h"
@@ -74,7 +75,10 @@ SettingsWindow& SettingsWindow::shared() {
                 .shortcutManager = ShortcutManager::shared(),
                 .mouseManager = MouseButtonManager::shared(),
                 .eventTaps = Platform::current().eventTaps,
-                .relaunch = {},
+                .relaunch =
+                    [](std::function<void()> completion) {
+                        relaunch(Platform::current().singleInstance, std::move(completion));
+                    },
                 .infoDictionary = Bundle::infoDictionary()};
         });
     return *instance;
@@ -106,19 +110,16 @@ void SettingsWindow::makeWindow() {
     window_ = std::make_unique<Window>(*this);
     window_->setWindowTitle(u"Velmora 設定"_s);
     WindowTheme::follow(*window_);
-    SettingsServices services = services_();
-    if (relaunch_)
-        services.relaunch = relaunch_;
     auto* menuBar = new MainMenuBar(mainMenu_);
     window_->addActions(menuBar->commands());
-    view_ = new SettingsView(services);
+    auto* view = new SettingsView(services_());
     auto* layout = new QVBoxLayout(window_.get());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->setMenuBar(menuBar);
-    layout->addWidget(view_);
+    layout->addWidget(view);
     restoreFrame();
-    view_->currentWidget()->setFocus();
+    view->currentWidget()->setFocus();
 }
 
 void SettingsWindow::restoreFrame() {
@@ -152,7 +153,6 @@ void SettingsWindow::windowWillClose() {
     saveFrame();
     // The event that brought us here belongs to the window: it goes in the next turn.
     QWidget* closed = window_.release();
-    view_ = nullptr;
     connect(closed, &QObject::destroyed, qApp, [] {
         Log::writeDiagnostic(u"🗑️ SettingsWindow released"_s);
         QPixmapCache::clear();

@@ -28,8 +28,6 @@ public:
 
     /// The menu bar of windows made from now on.
     void setMainMenu(QList<MenuModel> menus) { mainMenu_ = std::move(menus); }
-    /// What the restart command uses, in windows made from now on.
-    void setRelaunch(Relaunch relaunch) { relaunch_ = std::move(relaunch); }
 
     /// Shows the window in front of all others, or brings it forward as it is.
     void show();
@@ -40,7 +38,6 @@ public:
 
     /// The window while there is one.
     QWidget* window() const { return window_.get(); }
-    SettingsView* view() const { return view_; }
 
 private:
     class Window;
@@ -55,10 +52,8 @@ private:
     WindowActivation& activation_;
     const std::function<SettingsServices()> services_;
     QList<MenuModel> mainMenu_;
-    Relaunch relaunch_;
     std::unique_ptr<QWidget> window_;
-    SettingsView* view_ = nullptr; ///< in the window
-    QTimer saveTimer_;             ///< runs while a frame is to be saved
+    QTimer saveTimer_; ///< runs while a frame is to be saved
 };
 
 } // namespace velmora

@@ -22,6 +22,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -58,6 +59,8 @@ protected:
                                    .relaunch = {},
                                    .infoDictionary = Bundle::infoDictionary()};
                            }};
+
+    QTabWidget& tabs() { return *window_.window()->findChild<QTabWidget*>(); }
 };
 
 TEST_F(SettingsWindowTest, IsMadeOnceAndDroppedWhenItCloses) {
@@ -65,12 +68,12 @@ TEST_F(SettingsWindowTest, IsMadeOnceAndDroppedWhenItCloses) {
     const QPointer<QWidget> first = window_.window();
     ASSERT_TRUE(first);
     EXPECT_EQ(first->windowTitle(), u"Velmora 設定"_s);
-    EXPECT_GE(window_.view()->width(), 600);
-    EXPECT_GE(window_.view()->height(), 500);
-    window_.view()->setCurrentIndex(1);
+    EXPECT_GE(tabs().width(), 600);
+    EXPECT_GE(tabs().height(), 500);
+    tabs().setCurrentIndex(1);
     window_.show();
     EXPECT_EQ(window_.window(), first);
-    EXPECT_EQ(window_.view()->currentIndex(), 1);
+    EXPECT_EQ(tabs().currentIndex(), 1);
     EXPECT_EQ(activation_.activated.size(), 2);
 
     testing::internal::CaptureStdout();
@@ -84,16 +87,15 @@ TEST_F(SettingsWindowTest, IsMadeOnceAndDroppedWhenItCloses) {
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "🗑️ SettingsWindow released\n");
 
     window_.show();
-    EXPECT_EQ(window_.view()->currentIndex(), 0);
+    EXPECT_EQ(tabs().currentIndex(), 0);
     window_.close();
     window_.close();
 }
 
 TEST_F(SettingsWindowTest, AnEditorGoesWithItUnsaved) {
     window_.show();
-    RecordListPane& pane = window_.view()->shortcuts().pane();
-    pane.findChild<QPushButton*>()->click();
-    const QPointer<Sheet> editor = pane.editor();
+    window_.window()->findChild<RecordListPane*>()->findChild<QPushButton*>()->click();
+    const QPointer<Sheet> editor = window_.window()->findChild<Sheet*>();
     ASSERT_TRUE(editor);
     window_.show();
     EXPECT_EQ(activation_.activated.last(), editor.data());
