@@ -1,7 +1,6 @@
 #include "settings/ActionForm.h"
 
 #include "foundation/LocalizedString.h"
-#include "input/KeyCaptureNSView.h"
 #include "input/KeyCaptureView.h"
 #include "settings/AppPickerView.h"
 #include "settings/FormGroup.h"
@@ -52,13 +51,13 @@ ActionForm::ActionForm(const QString& heading, ActionFields fields, EventTaps& e
       keyValue_(std::make_shared<QProperty<QString>>(fields_.keyValue)),
       isKeyCaptureFocused_(std::make_shared<QProperty<bool>>(false)) {
     const QString typeLabel = localizedString("mouse_action_label");
-    typePicker_ = new PopUpButton(typeLabel);
+    auto* typePicker = new PopUpButton(typeLabel);
     for (int type = 0; type < actionTypeCount; ++type)
-        typePicker_->addItem(localizedName(static_cast<ActionType>(type)));
-    typePicker_->setMinimumWidth(FormGroup::pickerWidth);
+        typePicker->addItem(localizedName(static_cast<ActionType>(type)));
+    typePicker->setMinimumWidth(FormGroup::pickerWidth);
 
     auto* group = new FormGroup(heading);
-    group->addRow(typeLabel, {typePicker_}, nullptr);
+    group->addRow(typeLabel, {typePicker}, nullptr);
     auto* parameter = new QWidget;
     QVBoxLayout* parameterStack = makeStack(parameter);
     parameters_ = {
@@ -69,9 +68,9 @@ ActionForm::ActionForm(const QString& heading, ActionFields fields, EventTaps& e
     parameterLabel_ = group->addRow({}, parameter);
     makeStack(this)->addWidget(group);
 
-    typePicker_->setCurrentIndex(static_cast<int>(fields_.type));
+    typePicker->setCurrentIndex(static_cast<int>(fields_.type));
     setType(fields_.type);
-    connect(typePicker_, &QComboBox::currentIndexChanged, this, [this](int index) {
+    connect(typePicker, &QComboBox::currentIndexChanged, this, [this](int index) {
         setType(static_cast<ActionType>(index));
         Q_EMIT typeChanged();
         Q_EMIT fieldsChanged();

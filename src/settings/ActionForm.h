@@ -12,9 +12,7 @@ class QLineEdit;
 namespace velmora {
 
 class EventTaps;
-class FormGroup;
 class KeyCaptureView;
-class PopUpButton;
 
 /// The rows that set an action, in a group of an editor's form: the type, and the parameters of the
 /// type chosen.
@@ -30,7 +28,6 @@ public:
     /// Whether the control that records key combinations has the keyboard focus.
     const Binding<bool>& isKeyCaptureFocused() const { return isKeyCaptureFocused_; }
     KeyCaptureView& keyCapture() { return *keyCapture_; }
-    PopUpButton& typePicker() { return *typePicker_; }
 
 Q_SIGNALS:
     void fieldsChanged();
@@ -50,7 +47,6 @@ private:
     const Binding<QStringList> keyModifiers_;
     const Binding<QString> keyValue_;
     const Binding<bool> isKeyCaptureFocused_;
-    PopUpButton* typePicker_;
     QLabel* parameterLabel_;
     std::array<QWidget*, actionTypeCount> parameters_{};
     QLineEdit* appName_;

@@ -106,7 +106,6 @@ void AppPickerView::loadApps() {
             MainQueue::submit([self, apps, stop] {
                 if (!self || stop.stop_requested())
                     return;
-                self->isLoading_ = false;
                 self->pages_->setCurrentWidget(self->list_);
                 self->model_.setApps(std::move(*apps));
                 self->goToFirstFound();

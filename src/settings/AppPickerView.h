@@ -27,12 +27,8 @@ public:
         AppScanner scanner = AppScanner::shared());
     ~AppPickerView() override;
 
-    /// Whether no scan has ended yet.
-    bool isLoading() const { return isLoading_; }
     /// The rows shown.
     AppListModel& model() { return model_; }
-    SearchField& searchField() { return *searchField_; }
-    AppListView& list() { return *list_; }
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -52,7 +48,6 @@ private:
     AppScanner scanner_;
     std::stop_source scan_; ///< of the last scan
     AppListModel model_;
-    bool isLoading_ = true;
     SearchField* searchField_;
     AppListView* list_;
     QStackedLayout* pages_; ///< the progress, then the list

@@ -18,12 +18,12 @@ namespace velmora {
 namespace {
 
 constexpr QSize contentSize(500, 400);
+constexpr int columns = 6;
 constexpr int cellSpacing = 10;
 
 /// Where `key` leads from `index` among `count` cells; nothing when it is no key of the grid. Left
 /// and right run on over the ends of rows, up and down stay in the column as far as there is one.
 std::optional<qsizetype> target(int key, qsizetype index, qsizetype count) {
-    constexpr qsizetype columns = IconPickerView::columns;
     const qsizetype last = count - 1;
     switch (key) {
     case Qt::Key_Left:

@@ -23,12 +23,6 @@ public:
     /// The symbols offered, in the order shown.
     static const QStringList commonIcons;
 
-    /// Columns of the grid.
-    static constexpr int columns = 6;
-
-    /// The cells, one for each of commonIcons.
-    const QList<IconButton*>& cells() const { return cells_; }
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -38,7 +32,7 @@ private:
     void makeTabStop(IconButton& cell);
 
     QScrollArea* scrollArea_;
-    QList<IconButton*> cells_;
+    QList<IconButton*> cells_; ///< one for each of commonIcons
 };
 
 } // namespace velmora

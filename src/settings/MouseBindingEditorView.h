@@ -20,8 +20,6 @@ public:
         std::function<void(const MouseButtonBinding&)> onSave, std::function<void()> onCancel,
         EventTaps& eventTaps);
 
-    PopUpButton& buttonPicker() { return *buttonPicker_; }
-
 protected:
     void save() override;
 

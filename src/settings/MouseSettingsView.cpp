@@ -29,11 +29,9 @@ RecordSnapshot snapshot(const QList<MouseButtonBinding>& bindings) {
 
 } // namespace
 
-MouseSettingsView::MouseSettingsView(
-    MouseButtonManager& mouseManager, EventTaps& eventTaps, QWidget* parent)
-    : QWidget(parent) {
+MouseSettingsView::MouseSettingsView(MouseButtonManager& mouseManager, EventTaps& eventTaps) {
     MouseButtonManager& store = mouseManager;
-    pane_ = new RecordListPane(
+    auto* pane = new RecordListPane(
         localizedString("mouse_settings_title"),
         {.snapshot = [&store] { return snapshot(store.bindings()); },
          .remove = [&store](qsizetype index) { store.removeBinding(index); },
@@ -52,12 +50,11 @@ MouseSettingsView::MouseSettingsView(
                  isEditing ? std::optional(store.bindings().at(index)) : std::nullopt, onSave,
                  close, eventTaps);
          }});
-    connect(
-        &store, &MouseButtonManager::bindingsWillChange, pane_, &RecordListPane::scheduleReload);
+    connect(&store, &MouseButtonManager::bindingsWillChange, pane, &RecordListPane::scheduleReload);
     auto* stack = new QVBoxLayout(this);
     stack->setContentsMargins(0, 0, 0, 0);
-    stack->addWidget(pane_);
-    setFocusProxy(pane_);
+    stack->addWidget(pane);
+    setFocusProxy(pane);
 }
 
 } // namespace velmora

@@ -25,11 +25,8 @@ constexpr int iconTextSpacing = 3;
 
 } // namespace
 
-RecordListPane::RecordListPane(const QString& title, RecordSource source, QWidget* parent)
-    : QWidget(parent),
-      source_(std::move(source)),
-      list_(new RecordListView(model_)),
-      bar_(new QHBoxLayout) {
+RecordListPane::RecordListPane(const QString& title, RecordSource source)
+    : source_(std::move(source)), list_(new RecordListView(model_)), bar_(new QHBoxLayout) {
     constexpr int padding = Theme::defaultPadding;
     list_->setAccessibleName(title);
     list_->setReorderable(bool(source_.move));
@@ -88,10 +85,6 @@ RecordListPane::addButton(const QString& symbol, const QString& title, int leadi
         bar_->insertSpacing(stretch, leadingPadding);
     bar_->insertWidget(bar_->count() - 1, button);
     return button;
-}
-
-Sheet* RecordListPane::editor() const {
-    return editor_;
 }
 
 void RecordListPane::scheduleReload() {

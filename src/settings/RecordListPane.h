@@ -32,20 +32,13 @@ struct RecordSource {
 class RecordListPane : public QWidget {
     Q_OBJECT
 public:
-    RecordListPane(const QString& title, RecordSource source, QWidget* parent = nullptr);
+    RecordListPane(const QString& title, RecordSource source);
 
     /// Reads the records again in the next turn of the event loop, once for any number of calls.
     void scheduleReload();
 
     /// Appends a button to the bar, `leadingPadding` points further from the one before.
     QPushButton* addButton(const QString& symbol, const QString& title, int leadingPadding = 0);
-
-    RecordListView& list() { return *list_; }
-    RecordListModel& model() { return model_; }
-    /// The id of the selected record, which may be gone from the list by now.
-    const std::optional<QUuid>& selection() const { return selection_; }
-    /// The sheet of the editor while it is open.
-    Sheet* editor() const;
 
 private:
     /// An opening of the editor.
@@ -64,8 +57,8 @@ private:
     QHBoxLayout* const bar_;
     QPushButton* edit_ = nullptr;
     QPushButton* delete_ = nullptr;
-    std::optional<QUuid> selection_;
-    QPointer<Sheet> editor_;
+    std::optional<QUuid> selection_; ///< may be gone from the list by now
+    QPointer<Sheet> editor_;         ///< while it is open
     bool isReloadScheduled_ = false;
     bool isReloading_ = false;
 };

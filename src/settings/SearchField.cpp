@@ -56,8 +56,7 @@ protected:
 
 } // namespace
 
-SearchField::SearchField(const QString& placeholder, QWidget* parent)
-    : QWidget(parent), clearButton_(new ClearButton) {
+SearchField::SearchField(const QString& placeholder) : clearButton_(new ClearButton) {
     edit_.setPlaceholderText(placeholder);
     edit_.setAccessibleName(placeholder);
     edit_.setFrame(false);

@@ -12,10 +12,9 @@ class PlainButton;
 class SearchField : public QWidget {
     Q_OBJECT
 public:
-    explicit SearchField(const QString& placeholder, QWidget* parent = nullptr);
+    explicit SearchField(const QString& placeholder);
 
     QLineEdit& edit() { return edit_; }
-    PlainButton& clearButton() { return *clearButton_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

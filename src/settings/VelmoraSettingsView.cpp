@@ -44,10 +44,10 @@ RecordSnapshot snapshot(const QList<ShortcutButton>& shortcuts) {
 
 VelmoraSettingsView::VelmoraSettingsView(
     ShortcutManager& shortcutManager, EventTaps& eventTaps, Relaunch relaunch,
-    std::optional<QVariantMap> infoDictionary, QWidget* parent)
-    : QWidget(parent), relaunch_(std::move(relaunch)) {
+    std::optional<QVariantMap> infoDictionary)
+    : relaunch_(std::move(relaunch)) {
     ShortcutManager& store = shortcutManager;
-    pane_ = new RecordListPane(
+    auto* pane = new RecordListPane(
         localizedString("shortcuts_title"),
         {.snapshot = [&store] { return snapshot(store.shortcuts()); },
          .remove = [&store](qsizetype index) { store.removeShortcut(index); },
@@ -66,17 +66,17 @@ VelmoraSettingsView::VelmoraSettingsView(
                  isEditing ? std::optional(store.shortcuts().at(index)) : std::nullopt, onSave,
                  close, eventTaps);
          }});
-    connect(&store, &ShortcutManager::shortcutsWillChange, pane_, &RecordListPane::scheduleReload);
+    connect(&store, &ShortcutManager::shortcutsWillChange, pane, &RecordListPane::scheduleReload);
     QPushButton* restart =
-        pane_->addButton(u"arrow.clockwise"_s, localizedString("restart"), restartPadding);
+        pane->addButton(u"arrow.clockwise"_s, localizedString("restart"), restartPadding);
     connect(restart, &QPushButton::clicked, this, &VelmoraSettingsView::restartApp);
 
     auto* stack = new QVBoxLayout(this);
     stack->setContentsMargins(0, 0, 0, footerPadding);
     stack->setSpacing(0);
-    stack->addWidget(pane_, 1);
+    stack->addWidget(pane, 1);
     stack->addWidget(new VersionLine(std::move(infoDictionary)));
-    setFocusProxy(pane_);
+    setFocusProxy(pane);
 }
 
 void VelmoraSettingsView::restartApp() {

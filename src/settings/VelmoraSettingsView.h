@@ -8,7 +8,6 @@
 namespace velmora {
 
 class EventTaps;
-class RecordListPane;
 class ShortcutManager;
 
 /// Starts a new instance of this program and calls `completion` once, whether it started or not.
@@ -21,15 +20,12 @@ public:
     /// The stores outlive the view.
     VelmoraSettingsView(
         ShortcutManager& shortcutManager, EventTaps& eventTaps, Relaunch relaunch,
-        std::optional<QVariantMap> infoDictionary, QWidget* parent = nullptr);
-
-    RecordListPane& pane() { return *pane_; }
+        std::optional<QVariantMap> infoDictionary);
 
 private:
     void restartApp();
 
     const Relaunch relaunch_;
-    RecordListPane* pane_;
 };
 
 } // namespace velmora

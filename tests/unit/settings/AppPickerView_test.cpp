@@ -3,12 +3,12 @@
 #include "settings/AppPickerView.h"
 
 #include "settings/AppListView.h"
-#include "settings/SearchField.h"
 #include "support/TestDisplay.h"
 #include "viewkit/PlainButton.h"
 #include "viewkit/Sheet.h"
 
 #include <QAccessible>
+#include <QLineEdit>
 #include <QPointer>
 #include <QSemaphore>
 #include <QTest>
@@ -45,11 +45,12 @@ protected:
     void openLoaded(int count) {
         gate.release();
         open(count);
-        ASSERT_TRUE(waitFor([this] { return !picker->isLoading(); }));
+        ASSERT_TRUE(waitFor([this] { return list().isVisible(); }));
     }
 
-    QLineEdit& edit() { return picker->searchField().edit(); }
-    int currentRow() { return picker->list().currentIndex().row(); }
+    QLineEdit& edit() { return *picker->findChild<QLineEdit*>(); }
+    AppListView& list() { return *picker->findChild<AppListView*>(); }
+    int currentRow() { return list().currentIndex().row(); }
     bool isClosed() {
         return waitFor([this] { return sheet.isNull(); });
     }
@@ -65,10 +66,9 @@ protected:
 
 TEST_F(AppPickerViewTest, ShowsTheListWhenTheScanEnds) {
     open(30);
-    EXPECT_TRUE(picker->isLoading());
-    EXPECT_FALSE(picker->list().isVisible());
+    EXPECT_FALSE(list().isVisible());
     gate.release();
-    EXPECT_TRUE(waitFor([this] { return picker->list().isVisible(); }));
+    EXPECT_TRUE(waitFor([this] { return list().isVisible(); }));
     EXPECT_EQ(picker->model().rowCount(), 21);
     EXPECT_TRUE(edit().hasFocus());
     EXPECT_TRUE(sheet->isModal());
@@ -122,7 +122,7 @@ TEST_F(AppPickerViewTest, EmptiesTheListWhenItDisappearsAndScansWhenItAppears) {
     picker->hide();
     EXPECT_EQ(picker->model().rowCount(), 0);
     picker->show();
-    EXPECT_FALSE(picker->isLoading());
+    EXPECT_TRUE(list().isVisible());
     EXPECT_EQ(picker->model().rowCount(), 0);
     gate.release();
     EXPECT_TRUE(waitFor([this] { return picker->model().rowCount() == 5; }));
@@ -149,14 +149,15 @@ TEST_F(AppPickerViewTest, ArrowsAndReturnFromTheSearchField) {
 
 TEST_F(AppPickerViewTest, TypingSearchesAndReturnPicksTheFirst) {
     openLoaded(30);
-    QTest::keyClicks(&picker->list(), u"ap"_s);
+    QTest::keyClicks(&list(), u"ap"_s);
     QTest::keyClicks(&edit(), u"p 0025"_s);
     EXPECT_EQ(edit().text(), u"app 0025"_s);
     EXPECT_EQ(picker->model().rowCount(), 1);
-    EXPECT_TRUE(picker->searchField().clearButton().isVisible());
-    QTest::mouseClick(&picker->searchField().clearButton(), Qt::LeftButton);
+    auto* clear = picker->findChild<PlainButton*>();
+    EXPECT_TRUE(clear->isVisible());
+    QTest::mouseClick(clear, Qt::LeftButton);
     EXPECT_EQ(picker->model().rowCount(), 21);
-    EXPECT_FALSE(picker->searchField().clearButton().isVisible());
+    EXPECT_FALSE(clear->isVisible());
     QTest::keyClicks(&edit(), u"org.app29"_s);
     QTest::keyClick(&edit(), Qt::Key_Return);
     EXPECT_EQ(picked, QStringList{u"org.app29"_s});
@@ -176,8 +177,8 @@ TEST_F(AppPickerViewTest, TheLastRowShowsAll) {
 
 TEST_F(AppPickerViewTest, OneClickPicks) {
     openLoaded(30);
-    const QRect row = picker->list().visualRect(picker->model().index(3));
-    QTest::mouseClick(picker->list().viewport(), Qt::LeftButton, {}, row.center());
+    const QRect row = list().visualRect(picker->model().index(3));
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row.center());
     EXPECT_EQ(picked, QStringList{u"org.app3"_s});
     EXPECT_TRUE(isClosed());
 }
@@ -185,10 +186,10 @@ TEST_F(AppPickerViewTest, OneClickPicks) {
 TEST_F(AppPickerViewTest, AssistiveProgramsPickBySelecting) {
     openLoaded(30);
     const auto act = [this](int row) {
-        QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&picker->list());
-        list->child(row)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QAccessibleInterface* rows = QAccessible::queryAccessibleInterface(&list());
+        rows->child(row)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         // Without a bus nothing tells it of changes of the rows.
-        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(list));
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(rows));
     };
     act(20); // the offer of all
     EXPECT_TRUE(waitFor([this] { return picker->model().rowCount() == 30; }));

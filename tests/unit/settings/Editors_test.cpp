@@ -26,17 +26,26 @@ using velmora::test::waitFor;
 
 namespace {
 
-/// The visible text field of that accessible name (its key, as no texts are loaded).
-QLineEdit* field(QWidget& editor, const QString& name) {
-    for (QLineEdit* edit : editor.findChildren<QLineEdit*>()) {
-        if (edit->accessibleName() == name)
-            return edit;
+/// The control of that accessible name (its key, as no texts are loaded).
+template<typename Control>
+Control* named(QWidget& editor, const QString& name) {
+    for (auto* control : editor.findChildren<Control*>()) {
+        if (control->accessibleName() == name)
+            return control;
     }
     return nullptr;
 }
 
-void choose(RecordEditor& editor, ActionType type) {
-    editor.actionForm().typePicker().setCurrentIndex(static_cast<int>(type));
+QLineEdit* field(QWidget& editor, const QString& name) {
+    return named<QLineEdit>(editor, name);
+}
+
+PopUpButton& buttonPicker(QWidget& editor) {
+    return *named<PopUpButton>(editor, u"mouse_btn_label"_s);
+}
+
+void choose(QWidget& editor, ActionType type) {
+    named<PopUpButton>(editor, u"mouse_action_label"_s)->setCurrentIndex(static_cast<int>(type));
 }
 
 QPushButton* button(QWidget& view, const QString& text) {
@@ -259,7 +268,7 @@ TEST_F(EditorTest, AButtonThatIsNotOfferedSurvivesEditing) {
         const MouseButtonBinding stored(number, OpenUrl{u"x:"_s});
         MouseBindingEditorView& editor = openMouse(stored);
         const bool isOffered = number >= 2 && number <= 8;
-        EXPECT_EQ(editor.buttonPicker().count(), isOffered ? 7 : 8) << number;
+        EXPECT_EQ(buttonPicker(editor).count(), isOffered ? 7 : 8) << number;
         editor.requestSave();
         ASSERT_EQ(savedBindings_.size(), 1);
         EXPECT_EQ(savedBindings_[0].buttonNumber, number);
@@ -270,20 +279,19 @@ TEST_F(EditorTest, AButtonThatIsNotOfferedSurvivesEditing) {
 }
 
 TEST_F(EditorTest, PickersChangeOnlyInTheirMenu) {
-    MouseBindingEditorView& editor = openMouse();
+    PopUpButton& picker = buttonPicker(openMouse());
     QWheelEvent wheel(
-        {5, 5}, editor.buttonPicker().mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
-        Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&editor.buttonPicker(), &wheel);
+        {5, 5}, picker.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&picker, &wheel);
     // A letter finds no item, not even the one it begins.
-    editor.buttonPicker().addItem(u"x"_s);
-    QTest::keyClick(&editor.buttonPicker(), Qt::Key_X);
-    EXPECT_EQ(editor.buttonPicker().currentData(), 3);
+    picker.addItem(u"x"_s);
+    QTest::keyClick(&picker, Qt::Key_X);
+    EXPECT_EQ(picker.currentData(), 3);
     for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Space}) {
-        QTest::keyClick(&editor.buttonPicker(), key);
-        EXPECT_TRUE(editor.buttonPicker().view()->isVisible());
-        EXPECT_EQ(editor.buttonPicker().currentData(), 3);
-        editor.buttonPicker().hidePopup();
+        QTest::keyClick(&picker, key);
+        EXPECT_TRUE(picker.view()->isVisible());
+        EXPECT_EQ(picker.currentData(), 3);
+        picker.hidePopup();
     }
 }
 

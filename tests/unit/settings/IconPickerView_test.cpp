@@ -30,10 +30,12 @@ protected:
         QApplication::setActiveWindow(sheet);
     }
 
+    QList<IconButton*> cells() const { return picker->findChildren<IconButton*>(); }
+
     QList<qsizetype> marked() const {
         QList<qsizetype> result;
-        for (qsizetype i = 0; i < picker->cells().size(); ++i) {
-            if (picker->cells()[i]->isSelected())
+        for (qsizetype i = 0; i < cells().size(); ++i) {
+            if (cells()[i]->isSelected())
                 result.append(i);
         }
         return result;
@@ -41,7 +43,7 @@ protected:
 
     /// Position of the cell that has the focus, or -1.
     qsizetype focused() const {
-        return picker->cells().indexOf(qobject_cast<IconButton*>(QApplication::focusWidget()));
+        return cells().indexOf(qobject_cast<IconButton*>(QApplication::focusWidget()));
     }
 
     bool isClosed() {
@@ -64,15 +66,15 @@ TEST_F(IconPickerViewTest, MarksTheChoice) {
     open(u"globe"_s);
     EXPECT_EQ(marked(), QList<qsizetype>{17});
     EXPECT_TRUE(waitFor([this] { return focused() == 17; }));
-    EXPECT_EQ(picker->cells()[17]->help(), u"globe"_s);
-    EXPECT_EQ(picker->cells()[17]->accessibleName(), u"globe"_s);
+    EXPECT_EQ(cells()[17]->help(), u"globe"_s);
+    EXPECT_EQ(cells()[17]->accessibleName(), u"globe"_s);
 }
 
 TEST_F(IconPickerViewTest, MarksNothingElse) {
     open(u"Globe"_s);
     EXPECT_TRUE(marked().isEmpty());
     EXPECT_TRUE(waitFor([this] { return focused() == 0; }));
-    QTest::mouseClick(picker->cells()[6], Qt::LeftButton); // a cell without a picture
+    QTest::mouseClick(cells()[6], Qt::LeftButton); // a cell without a picture
     EXPECT_EQ(picked, QStringList{u"appwindow.swiftui"_s});
     EXPECT_TRUE(isClosed());
 }
@@ -95,7 +97,7 @@ TEST_F(IconPickerViewTest, KeysWalkTheGrid) {
         EXPECT_EQ(focused(), step.cell) << step.key;
     }
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
-    EXPECT_FALSE(picker->cells()[81]->visibleRegion().isEmpty());
+    EXPECT_FALSE(cells()[81]->visibleRegion().isEmpty());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(focused(), -1); // the grid is one stop
     QTest::keyClick(sheet, Qt::Key_Escape);
@@ -107,7 +109,7 @@ TEST_F(IconPickerViewTest, AssistiveProgramsPickByTogglingTheMark) {
     for (const qsizetype cell : {2, 1}) { // also the one marked
         picked.clear();
         open(u"mail"_s);
-        QAccessible::queryAccessibleInterface(picker->cells()[cell])
+        QAccessible::queryAccessibleInterface(cells()[cell])
             ->actionInterface()
             ->doAction(QAccessibleActionInterface::toggleAction());
         EXPECT_EQ(picked, QStringList{IconPickerView::commonIcons[cell]});
