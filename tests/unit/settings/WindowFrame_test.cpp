@@ -17,55 +17,39 @@ TEST(WindowFrame, ReadsWhatItWroteAndNothingElse) {
         EXPECT_FALSE(WindowFrame::decoded(text)) << text;
 }
 
-TEST(WindowFrame, StaysWhereItsTitleBarIsInReach) {
+TEST(WindowFrame, StaysInReachOrMovesOntoAScreen) {
     constexpr QSize minimum(600, 526);
-    const QRect left(0, 0, 1000, 800);
-    const QRect right(1000, 100, 1280, 1024);
+    const QList<QRect> one{{0, 0, 1000, 800}};
+    const QList<QRect> both{{0, 0, 1000, 800}, {1000, 100, 1280, 1024}};
+    const QList<QRect> small{{0, 0, 320, 240}};
     const struct {
         const char* name;
         QRect frame;
         QList<QRect> screens;
-        QRect expected;
+        QRect inReach;
+        QRect onScreen;
     } cases[] = {
-        {"down to the edge", {10, 174, 600, 600}, {left}, {10, 174, 600, 600}},
-        {"partly below", {10, 770, 600, 600}, {left}, {10, 770, 600, 600}},
-        {"partly left", {-500, 10, 600, 600}, {left}, {-500, 10, 600, 600}},
-        {"partly right", {900, 10, 600, 600}, {left}, {900, 10, 600, 600}},
-        {"on both", {900, 100, 1200, 600}, {left, right}, {900, 100, 1200, 600}},
-        {"below", {10, 795, 600, 600}, {left}, {10, 164, 600, 600}},
-        {"above", {10, -30, 600, 600}, {left}, {10, 0, 600, 600}},
-        {"left", {-580, 10, 600, 600}, {left}, {0, 10, 600, 600}},
-        {"beside the higher one", {1300, 20, 700, 600}, {left, right}, {1300, 100, 700, 600}},
-        {"too large", {0, 0, 5000, 5000}, {left}, {0, 0, 1000, 800}},
-        {"too small", {10, 10, 5, 5}, {left}, {10, 10, 600, 526}},
-        {"no screen", {10, 10, 700, 600}, {}, {10, 10, 700, 600}},
+        {"in the middle", {50, 60, 700, 600}, one, {50, 60, 700, 600}, {50, 60, 700, 600}},
+        {"down to the edge", {10, 174, 600, 600}, one, {10, 174, 600, 600}, {10, 164, 600, 600}},
+        {"partly below", {10, 770, 600, 600}, one, {10, 770, 600, 600}, {10, 164, 600, 600}},
+        {"partly left", {-500, 10, 600, 600}, one, {-500, 10, 600, 600}, {0, 10, 600, 600}},
+        {"partly right", {900, 10, 600, 600}, one, {900, 10, 600, 600}, {400, 10, 600, 600}},
+        {"above and left", {-90, -90, 700, 600}, one, {0, 0, 700, 600}, {0, 0, 700, 600}},
+        {"below", {10, 795, 600, 600}, one, {10, 164, 600, 600}, {10, 164, 600, 600}},
+        {"left", {-580, 10, 600, 600}, one, {0, 10, 600, 600}, {0, 10, 600, 600}},
+        {"second", {1300, 300, 700, 600}, both, {1300, 300, 700, 600}, {1300, 300, 700, 600}},
+        {"on both", {900, 200, 1200, 600}, both, {900, 200, 1200, 600}, {1000, 200, 1200, 600}},
+        {"higher", {1300, 20, 700, 600}, both, {1300, 100, 700, 600}, {1300, 100, 700, 600}},
+        {"screen is gone", {1300, 300, 700, 600}, one, {300, 164, 700, 600}, {300, 164, 700, 600}},
+        {"too large", {0, 0, 5000, 5000}, one, {0, 0, 1000, 800}, {0, 0, 1000, 764}},
+        {"too small", {10, 10, 5, 5}, one, {10, 10, 600, 526}, {10, 10, 600, 526}},
+        {"small screen", {10, 10, 700, 600}, small, {10, 10, 600, 526}, {0, 0, 600, 526}},
+        {"no screen", {10, 10, 700, 600}, {}, {10, 10, 700, 600}, {10, 10, 700, 600}},
     };
-    for (const auto& [name, frame, screens, expected] : cases)
-        EXPECT_EQ(WindowFrame::inReach(frame, screens, minimum), expected) << name;
-}
-
-TEST(WindowFrame, LiesOnAScreen) {
-    constexpr QSize minimum(600, 526);
-    const QRect left(0, 0, 1000, 800);
-    const QRect right(1000, 100, 1280, 1024);
-    const struct {
-        const char* name;
-        QRect frame;
-        QList<QRect> screens;
-        QRect expected;
-    } cases[] = {
-        {"as it was", {50, 60, 700, 600}, {left}, {50, 60, 700, 600}},
-        {"second screen", {1300, 300, 700, 600}, {left, right}, {1300, 300, 700, 600}},
-        {"that screen is gone", {1300, 300, 700, 600}, {left}, {300, 164, 700, 600}},
-        {"above and left", {-90, -90, 700, 600}, {left}, {0, 0, 700, 600}},
-        {"most of it right", {900, 200, 700, 600}, {left, right}, {1000, 200, 700, 600}},
-        {"too large", {0, 0, 5000, 5000}, {left}, {0, 0, 1000, 764}},
-        {"too small", {10, 10, 5, 5}, {left}, {10, 10, 600, 526}},
-        {"small screen", {10, 10, 700, 600}, {{0, 0, 320, 240}}, {0, 0, 600, 526}},
-        {"no screen", {10, 10, 700, 600}, {}, {10, 10, 700, 600}},
-    };
-    for (const auto& [name, frame, screens, expected] : cases)
-        EXPECT_EQ(WindowFrame::onScreen(frame, screens, minimum), expected) << name;
+    for (const auto& [name, frame, screens, inReach, onScreen] : cases) {
+        EXPECT_EQ(WindowFrame::inReach(frame, screens, minimum), inReach) << name;
+        EXPECT_EQ(WindowFrame::onScreen(frame, screens, minimum), onScreen) << name;
+    }
 }
 
 } // namespace
