@@ -35,11 +35,6 @@ int textHeight() {
            QFontMetrics(identifierFont()).height();
 }
 
-QColor withOpacity(QColor colour, float opacity) {
-    colour.setAlphaF(opacity);
-    return colour;
-}
-
 /// A square of `side` centred at `centre`.
 QRectF square(QPointF centre, double side) {
     return {centre.x() - side / 2, centre.y() - side / 2, side, side};
@@ -66,9 +61,9 @@ void AppRow::paint(QPainter& painter, const QRect& rect, const QPalette& palette
     const QRectF box = QRectF(rect).adjusted(outerPadding, 0, -outerPadding, 0);
     painter.setPen(Qt::NoPen);
     if (isSelected)
-        painter.setBrush(withOpacity(accent, 0.1F));
+        painter.setBrush(Theme::withOpacity(accent, 0.1F));
     else
-        painter.setBrush(isHovered ? withOpacity(Qt::gray, 0.12F) : QColor(Qt::transparent));
+        painter.setBrush(isHovered ? Theme::withOpacity(Qt::gray, 0.12F) : QColor(Qt::transparent));
     if (isCurrent)
         painter.setPen(QPen(accent, 2));
     painter.drawRoundedRect(box.adjusted(1, 1, -1, -1), cornerRadius, cornerRadius);

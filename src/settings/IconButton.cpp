@@ -1,6 +1,7 @@
 #include "settings/IconButton.h"
 
 #include "viewkit/Symbols.h"
+#include "viewkit/Theme.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -12,11 +13,6 @@ constexpr int cellSide = 50;
 constexpr int symbolFontSize = 24;
 constexpr double cornerRadius = 8;
 constexpr double outlineWidth = 2;
-
-QColor withOpacity(QColor colour, float opacity) {
-    colour.setAlphaF(opacity);
-    return colour;
-}
 
 } // namespace
 
@@ -40,8 +36,8 @@ void IconButton::paintEvent(QPaintEvent*) {
         QRectF(rect()).marginsRemoved(QMarginsF(ringMargin, ringMargin, ringMargin, ringMargin));
     const float strength = isDown() ? 2.5F : isHovered() ? 1.7F : 1.0F;
     painter.setBrush(
-        isSelected() ? withOpacity(accent, 0.2F * strength)
-                     : withOpacity(Qt::gray, 0.1F * strength));
+        isSelected() ? Theme::withOpacity(accent, 0.2F * strength)
+                     : Theme::withOpacity(Qt::gray, 0.1F * strength));
     painter.setPen(Qt::NoPen);
     painter.drawRoundedRect(cell, cornerRadius, cornerRadius);
     painter.setBrush(Qt::NoBrush);

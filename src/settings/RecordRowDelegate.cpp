@@ -32,11 +32,6 @@ int textHeight() {
     return QFontMetrics(titleFont()).height() + lineSpacing + QFontMetrics(detailFont()).height();
 }
 
-QColor withOpacity(QColor colour, float opacity) {
-    colour.setAlphaF(opacity);
-    return colour;
-}
-
 /// The colours of one row.
 struct RowColours {
     QColor ground; ///< of the row; transparent for none
@@ -52,11 +47,11 @@ RowColours colours(const QStyleOptionViewItem& option) {
         if (hasFocus)
             return {
                 option.palette.color(QPalette::Highlight), Qt::white,
-                withOpacity(Qt::white, 0.85F)};
-        return {withOpacity(text, 0.12F), text, text};
+                Theme::withOpacity(Qt::white, 0.85F)};
+        return {Theme::withOpacity(text, 0.12F), text, text};
     }
     if (option.state.testFlag(QStyle::State_MouseOver))
-        return {withOpacity(text, 0.05F), text, secondary};
+        return {Theme::withOpacity(text, 0.05F), text, secondary};
     return {Qt::transparent, text, secondary};
 }
 
@@ -103,7 +98,7 @@ void RecordRowDelegate::paint(
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const bool isCurrent = view && view->hasFocus() && view->currentIndex() == index && !isSelected;
     if (isCurrent || index == menuIndex_)
-        painter->setPen(withOpacity(option.palette.color(QPalette::Highlight), 0.7F));
+        painter->setPen(Theme::withOpacity(option.palette.color(QPalette::Highlight), 0.7F));
     else
         painter->setPen(Qt::NoPen);
     painter->setBrush(colour.ground);
@@ -125,7 +120,7 @@ void RecordRowDelegate::paint(
         badge.moveCenter(content.center());
         badge.moveRight(content.right());
         painter->setPen(Qt::NoPen);
-        painter->setBrush(withOpacity(colour.secondary, isSelected ? 0.2F : 0.1F));
+        painter->setBrush(Theme::withOpacity(colour.secondary, isSelected ? 0.2F : 0.1F));
         painter->drawRoundedRect(placed(badge), badgeRadius, badgeRadius);
         painter->setPen(colour.secondary);
         painter->setFont(detailFont());

@@ -83,9 +83,7 @@ SearchField::SearchField(const QString& placeholder) : clearButton_(new ClearBut
 void SearchField::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    QColor fill(Qt::gray);
-    fill.setAlphaF(0.1F);
-    painter.setBrush(fill);
+    painter.setBrush(Theme::withOpacity(Qt::gray, 0.1F));
     const bool focused = edit_.hasFocus();
     painter.setPen(focused ? QPen(palette().color(QPalette::Highlight), 2) : QPen(Qt::NoPen));
     const double inset = focused ? 1 : 0;

@@ -1,5 +1,7 @@
 #include "viewkit/ProgressIndicator.h"
 
+#include "viewkit/Theme.h"
+
 #include <QPainter>
 #include <QTimerEvent>
 
@@ -21,10 +23,10 @@ void ProgressIndicator::paintEvent(QPaintEvent*) {
     const double radius = qMin(width(), height()) / 2.0;
     painter.translate(rect().toRectF().center());
     painter.rotate(step_ * 360.0 / spokes);
-    QColor colour = palette().color(QPalette::WindowText);
+    const QColor colour = palette().color(QPalette::WindowText);
     for (int spoke = 0; spoke < spokes; ++spoke) {
-        colour.setAlphaF(0.1F + 0.6F * float(spoke) / spokes);
-        painter.setPen(QPen(colour, radius * 0.15, Qt::SolidLine, Qt::RoundCap));
+        const QColor faded = Theme::withOpacity(colour, 0.1F + 0.6F * float(spoke) / spokes);
+        painter.setPen(QPen(faded, radius * 0.15, Qt::SolidLine, Qt::RoundCap));
         painter.rotate(360.0 / spokes);
         painter.drawLine(QPointF(0, -radius * 0.5), QPointF(0, -radius * 0.85));
     }

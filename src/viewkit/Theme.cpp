@@ -12,6 +12,11 @@ QFont systemFont(int size, QFont::Weight weight) {
     return font;
 }
 
+QColor withOpacity(QColor colour, float opacity) {
+    colour.setAlphaF(opacity);
+    return colour;
+}
+
 bool isDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() <
            palette.color(QPalette::WindowText).lightness();

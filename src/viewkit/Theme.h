@@ -20,6 +20,9 @@ constexpr QColor accent(bool dark) {
     return dark ? QColor(0x2a, 0x72, 0xdc) : QColor(0x0a, 0x62, 0xcf);
 }
 
+/// `colour` at `opacity`, 0 to 1.
+QColor withOpacity(QColor colour, float opacity);
+
 /// Whether `palette` belongs to a dark scheme.
 bool isDark(const QPalette& palette);
 
