@@ -2,10 +2,17 @@
 
 #include "viewkit/WindowTheme.h"
 
+#include <QGuiApplication>
 #include <QScreen>
 #include <QVBoxLayout>
 
 namespace velmora {
+namespace {
+
+/// Room for a title bar, whose height is known only once the sheet has one.
+constexpr int titleBarHeight = 36;
+
+} // namespace
 
 Sheet::Sheet(QWidget& window) : QDialog(&window) {
     setWindowFlags(
@@ -28,16 +35,22 @@ Sheet& Sheet::present(QWidget& presenter, std::unique_ptr<QWidget> content) {
     layout->addWidget(shown);
     sheet->adjustSize();
 
-    QRect frame = sheet->rect();
-    frame.moveCenter(window.geometry().center());
-    const QRect available = window.screen()->availableGeometry();
-    // On a screen that is too small the top left corner stays in sight.
-    frame.moveLeft(qMax(available.left(), qMin(frame.left(), available.right() - frame.width())));
-    frame.moveTop(qMax(available.top(), qMin(frame.top(), available.bottom() - frame.height())));
-    sheet->move(frame.topLeft());
+    sheet->move(window.geometry().center() - sheet->rect().center());
     sheet->open();
     shown->setFocus();
     return *sheet;
+}
+
+void Sheet::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    const QScreen* screen = QGuiApplication::screenAt(geometry().center());
+    if (!screen)
+        screen = parentWidget()->screen();
+    const QRect room = screen->availableGeometry().adjusted(0, 0, 0, -titleBarHeight);
+    // On a screen that is too small the top left corner stays in sight.
+    move(
+        qMax(room.left(), qMin(x(), room.right() + 1 - width())),
+        qMax(room.top(), qMin(y(), room.bottom() + 1 - height())));
 }
 
 void Sheet::dismiss(QWidget& content) {

@@ -18,6 +18,10 @@ public:
     /// Closes the sheet that shows `content`; nothing happens when none does.
     static void dismiss(QWidget& content);
 
+protected:
+    /// Content may grow: it stays on the screen.
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     explicit Sheet(QWidget& window);
 };

@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
@@ -101,7 +102,9 @@ private:
 };
 
 TEST_F(EditorTest, GrowsWhereTheFormWouldScroll) {
+    window_.move(100, 780);
     ShortcutEditorView& editor = open();
+    const QRect screen = window_.screen()->availableGeometry();
     const QScrollBar& scrollBar = *editor.findChild<QScrollArea*>()->verticalScrollBar();
     EXPECT_EQ(editor.size(), QSize(500, 450));
     for (const ActionType type :
@@ -113,6 +116,8 @@ TEST_F(EditorTest, GrowsWhereTheFormWouldScroll) {
                    sheet_->size() == editor.size();
         })) << int(type)
             << " at " << editor.height();
+        EXPECT_TRUE(screen.contains(sheet_->frameGeometry()))
+            << int(type) << " from " << sheet_->y();
     }
 }
 
