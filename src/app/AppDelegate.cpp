@@ -60,11 +60,17 @@ void AppDelegate::setupMainMenu() {
 }
 
 void AppDelegate::checkTermsAndStart() {
+    // Asked with the first window or menu: the bar does not need it, and asking the desktop costs
+    // time and memory.
+    WindowTheme::setSchemeSource([] {
+        Platform::current().appearance.observe([](bool prefersDark) {
+            WindowTheme::setColorScheme(prefersDark ? ColorScheme::dark : ColorScheme::light);
+        });
+    });
     if (hasAgreed()) {
         startServices();
         return;
     }
-    followDesktopAppearance();
     showTerms();
 }
 
@@ -75,21 +81,9 @@ void AppDelegate::showTerms() {
     });
 }
 
-void AppDelegate::followDesktopAppearance() {
-    // Not at start: the bar does not need it, and asking the desktop costs time and memory.
-    if (std::exchange(followsAppearance_, true))
-        return;
-    Platform::current().appearance.observe([](bool prefersDark) {
-        WindowTheme::setColorScheme(prefersDark ? ColorScheme::dark : ColorScheme::light);
-    });
-}
-
 void AppDelegate::startServices() {
     Accessibility& accessibility = Platform::current().accessibility;
-    accessibility.setPromptHandler([this] {
-        followDesktopAppearance();
-        showTrustNotice(Platform::current().windowActivation);
-    });
+    accessibility.setPromptHandler([] { showTrustNotice(Platform::current().windowActivation); });
     // Nothing waits for the answer.
     accessibility.isProcessTrustedWithPrompt();
     setupOverlay();
@@ -128,7 +122,6 @@ void AppDelegate::setupMouseButtonMonitoring() {
 }
 
 void AppDelegate::showSettings() {
-    followDesktopAppearance();
     SettingsWindow& settings = SettingsWindow::shared();
     settings.setMainMenu(mainMenu_);
     settings.show();

@@ -42,12 +42,9 @@ private:
     void startServices();
     /// The user started the program again: the settings, or, before agreement, the terms.
     void comeForward();
-    /// From the first window on.
-    void followDesktopAppearance();
     void setupMainMenu();
 
     QList<MenuModel> mainMenu_;
-    bool followsAppearance_ = false;
 };
 
 } // namespace velmora

@@ -1,9 +1,9 @@
 #include "viewkit/PopupMenu.h"
 
 #include "viewkit/Theme.h"
+#include "viewkit/WindowTheme.h"
 
 #include <QEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
@@ -36,7 +36,7 @@ PopupMenu::PopupMenu(QWidget* opener) : QMenu(opener ? opener->window() : nullpt
     // menu it would open it again.
     setAttribute(Qt::WA_NoMouseReplay);
     setFont(Theme::systemFont(13));
-    applyStyle();
+    connect(this, &QMenu::aboutToShow, this, &PopupMenu::applyStyle);
 }
 
 QAction* PopupMenu::addItem(
@@ -51,6 +51,7 @@ QAction* PopupMenu::addItem(
 }
 
 void PopupMenu::popUp(const QPoint& point) {
+    applyStyle();
     ensurePolished();
     const QList<QAction*> items = actions();
     popup(items.isEmpty() ? point : point - actionGeometry(items.first()).topLeft());
@@ -91,14 +92,16 @@ void PopupMenu::keyPressEvent(QKeyEvent* event) {
     QMenu::keyPressEvent(event);
 }
 
-void PopupMenu::changeEvent(QEvent* event) {
-    QMenu::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange)
+bool PopupMenu::event(QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange && isVisible())
         applyStyle();
+    return QMenu::event(event);
 }
 
 void PopupMenu::applyStyle() {
-    setStyleSheet(sheetFor(Theme::isDark(QGuiApplication::palette())));
+    const QString sheet = sheetFor(WindowTheme::colorScheme() == ColorScheme::dark);
+    if (sheet != styleSheet())
+        setStyleSheet(sheet);
 }
 
 } // namespace velmora

@@ -32,8 +32,8 @@ public:
     static bool filter(const QKeyEvent& event);
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void applyStyle();

@@ -1,7 +1,6 @@
 #include "viewkit/Theme.h"
 
 #include <QGuiApplication>
-#include <QPalette>
 
 namespace velmora::Theme {
 
@@ -15,11 +14,6 @@ QFont systemFont(int size, QFont::Weight weight) {
 QColor withOpacity(QColor colour, float opacity) {
     colour.setAlphaF(opacity);
     return colour;
-}
-
-bool isDark(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightness() <
-           palette.color(QPalette::WindowText).lightness();
 }
 
 } // namespace velmora::Theme

@@ -3,8 +3,6 @@
 #include <QColor>
 #include <QFont>
 
-class QPalette;
-
 /// Fonts, colours and distances that all views share.
 namespace velmora::Theme {
 
@@ -22,8 +20,5 @@ constexpr QColor accent(bool dark) {
 
 /// `colour` at `opacity`, 0 to 1.
 QColor withOpacity(QColor colour, float opacity);
-
-/// Whether `palette` belongs to a dark scheme.
-bool isDark(const QPalette& palette);
 
 } // namespace velmora::Theme

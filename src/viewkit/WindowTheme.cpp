@@ -7,6 +7,7 @@
 #include <QPalette>
 #include <QScreen>
 #include <QWidget>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -28,9 +29,10 @@ struct Colors {
     QColor accentText; ///< text in the accent colour, on window and base
     QColor scrollHandle;
     QColor disabledText;
-    QColor selected; ///< a chosen tab
-    QColor outline;  ///< around an area of text: secondary text at opacity 0.2, on its ground
-    QColor danger;   ///< text of what cannot be undone
+    QColor selected;   ///< a chosen tab
+    QColor outline;    ///< around an area of text: secondary text at opacity 0.2, on its ground
+    QColor danger;     ///< text of what cannot be undone
+    QColor dangerFill; ///< under white text
 };
 
 // Text on window and on accent keeps a contrast of at least 4.5 to 1 in both.
@@ -51,6 +53,7 @@ const Colors lightColors{
     .selected = QColor(0xdcdce2),
     .outline = QColor(0xdadadd),
     .danger = QColor(0xc4271b),
+    .dangerFill = QColor(0xc4271b),
 };
 const Colors darkColors{
     .window = QColor(0x1f1f22),
@@ -69,11 +72,12 @@ const Colors darkColors{
     .selected = QColor(0x56565d),
     .outline = QColor(0x46464a),
     .danger = QColor(0xff7a70),
+    .dangerFill = QColor(0xcf3529),
 };
 
 struct Scheme {
+    std::function<void()> ask; ///< until it was called
     ColorScheme current = ColorScheme::light;
-    bool isApplied = false; ///< to the application, which also menus outside the windows follow
     QList<QWidget*> followers;
 };
 
@@ -122,6 +126,8 @@ QLineEdit {
 QLineEdit:focus { border: 2px solid @accent; padding: 2px 6px; }
 QLineEdit[plain="true"] { background: transparent; border: none; padding: 0; }
 QPushButton[destructive="true"] { color: @danger; }
+QPushButton[destructive="true"]:default { background: @fill; color: white; border-color: @fill; }
+QPushButton[destructive="true"]:default:focus { border-color: @text; }
 QPlainTextEdit {
     background: @base; color: @text; border: 1px solid @outline; border-radius: 6px; padding: 3px;
     selection-background-color: @accent; selection-color: white;
@@ -184,7 +190,7 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
         {"@secondary"_L1, colors.secondaryText.name()}, {"@window"_L1, colors.window.name()},
         {"@scroll"_L1, colors.scrollHandle.name()},     {"@selected"_L1, colors.selected.name()},
         {"@disabled"_L1, colors.disabledText.name()},   {"@outline"_L1, colors.outline.name()},
-        {"@danger"_L1, colors.danger.name()},
+        {"@danger"_L1, colors.danger.name()},           {"@fill"_L1, colors.dangerFill.name()},
     };
     for (const auto& [name, value] : values)
         sheet.replace(name, value);
@@ -203,22 +209,31 @@ void applyToApplication() {
     font.setPointSizeF(fontSize * 72 / QGuiApplication::primaryScreen()->logicalDotsPerInchY());
     QApplication::setFont(font);
     QApplication::setPalette(palette(currentColors()));
-    scheme().isApplied = true;
 }
 
 } // namespace
+
+void setSchemeSource(std::function<void()> ask) {
+    scheme().ask = std::move(ask);
+}
 
 void setColorScheme(ColorScheme newScheme) {
     if (scheme().current == newScheme)
         return;
     scheme().current = newScheme;
-    if (scheme().isApplied)
-        applyToApplication();
+    applyToApplication(); // menus outside these windows follow it too
     for (QWidget* window : scheme().followers)
         window->setStyleSheet(styleSheet(currentColors()));
 }
 
+ColorScheme colorScheme() {
+    if (const auto ask = std::exchange(scheme().ask, nullptr))
+        ask();
+    return scheme().current;
+}
+
 void follow(QWidget& window) {
+    colorScheme();
     if (scheme().followers.isEmpty())
         applyToApplication();
     scheme().followers.append(&window);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 class QWidget;
 
 namespace velmora {
@@ -14,8 +16,15 @@ namespace WindowTheme {
 /// Size of ordinary text, in points.
 inline constexpr int fontSize = 13;
 
+/// `ask` is called once, before the scheme is needed for the first time; what it learns, then and
+/// later, it gives to setColorScheme().
+void setSchemeSource(std::function<void()> ask);
+
 /// Sets the scheme of all windows that follow the theme, now and later.
 void setColorScheme(ColorScheme scheme);
+
+/// The scheme in force.
+ColorScheme colorScheme();
 
 /// Gives `window` and its children the look of the current scheme, for as long as it lives. The
 /// application's palette and font are the theme's from the first such window on.

@@ -1,12 +1,13 @@
+#include "viewkit/PopupMenu.h"
 #include "viewkit/WindowTheme.h"
-
-#include "viewkit/Theme.h"
 
 #include <QApplication>
 #include <QFontInfo>
 #include <QLabel>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace velmora {
 namespace {
@@ -25,12 +26,27 @@ TEST(WindowTheme, TheFirstWindowHasTheTextOfTheOthers) {
     }
 }
 
-TEST(WindowTheme, MenusFollowTheSchemeAlsoWhenNoWindowIsThere) {
-    { WindowTheme::follow(*std::make_unique<QWidget>()); }
-    WindowTheme::setColorScheme(ColorScheme::dark);
-    EXPECT_TRUE(Theme::isDark(QApplication::palette()));
+TEST(WindowTheme, MenusAskForTheSchemeOnceAndFollowIt) {
+    int asked = 0;
+    WindowTheme::setSchemeSource([&] {
+        ++asked;
+        WindowTheme::setColorScheme(ColorScheme::dark);
+    });
+    PopupMenu menu;
+    menu.addItem(u"Item"_s, {}, [] {});
+    EXPECT_EQ(asked, 0);
+    menu.popUp({});
+    const QString dark = menu.styleSheet();
     WindowTheme::setColorScheme(ColorScheme::light);
-    EXPECT_FALSE(Theme::isDark(QApplication::palette()));
+    QCoreApplication::processEvents();
+    const QString light = menu.styleSheet();
+    EXPECT_NE(light, dark);
+    menu.close();
+    WindowTheme::setColorScheme(ColorScheme::dark);
+    menu.popUp({});
+    EXPECT_EQ(menu.styleSheet(), dark);
+    EXPECT_EQ(asked, 1);
+    WindowTheme::setColorScheme(ColorScheme::light);
 }
 
 } // namespace
