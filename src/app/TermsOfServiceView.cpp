@@ -101,11 +101,12 @@ TermsOfServiceView::TermsOfServiceView(UserDefaults& defaults, std::function<voi
     //: Agree Button
     QPushButton* agree = answerButton(localizedString("tos.agree"));
     agree->setDefault(true);
-    // Outside a QDialog a default button looks the part but does not hear Return.
+    // Outside a QDialog a default button looks the part but does not hear Return. Nobody who has
+    // gone to the other answer means this one.
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
-        connect(
-            new QShortcut(QKeySequence(key), this), &QShortcut::activated, agree,
-            &QPushButton::click);
+        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, [agree, quit] {
+            (quit->hasFocus() ? quit : agree)->click();
+        });
     connect(agree, &QPushButton::clicked, this, [&defaults, onAgree = std::move(onAgree)] {
         defaults.setBoolean(agreementKey, true);
         onAgree();

@@ -65,7 +65,6 @@ RecordEditor::RecordEditor(
         Qt::QueuedConnection);
 
     auto* cancel = new QPushButton(localizedString("button_cancel"));
-    cancel->setAutoDefault(false);
     connect(cancel, &QPushButton::clicked, this, onCancel_);
     save_ = new QPushButton(localizedString("button_save"));
     // Else losing the focus would make it an ordinary button.

@@ -11,6 +11,7 @@
 
 #include <QHBoxLayout>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -85,6 +86,16 @@ RecordListPane::addButton(const QString& symbol, const QString& title, int leadi
         bar_->insertSpacing(stretch, leadingPadding);
     bar_->insertWidget(bar_->count() - 1, button);
     return button;
+}
+
+void RecordListPane::keyPressEvent(QKeyEvent* event) {
+    // Outside a dialog Qt's buttons hear Space only.
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (button && isReturn && !event->isAutoRepeat())
+        button->click();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void RecordListPane::scheduleReload() {

@@ -40,6 +40,9 @@ public:
     /// Appends a button to the bar, `leadingPadding` points further from the one before.
     QPushButton* addButton(const QString& symbol, const QString& title, int leadingPadding = 0);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     /// An opening of the editor.
     void openEditor(qsizetype index);

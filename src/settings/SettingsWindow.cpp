@@ -18,6 +18,7 @@
 #include <QGuiApplication>
 #include <QPixmapCache>
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <malloc.h>
 
@@ -112,6 +113,9 @@ void SettingsWindow::makeWindow() {
     WindowTheme::follow(*window_);
     auto* menuBar = new MainMenuBar(mainMenu_);
     window_->addActions(menuBar->commands());
+    connect(
+        new QShortcut(QKeySequence(u"Ctrl+W"_s), window_.get()), &QShortcut::activated,
+        window_.get(), &QWidget::close);
     auto* view = new SettingsView(services_());
     auto* layout = new QVBoxLayout(window_.get());
     layout->setContentsMargins(0, 0, 0, 0);

@@ -3,6 +3,7 @@
 #include "viewkit/WindowTheme.h"
 
 #include <QGuiApplication>
+#include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -33,6 +34,13 @@ Sheet& Sheet::present(QWidget& presenter, std::unique_ptr<QWidget> content) {
     layout->setSizeConstraint(QLayout::SetFixedSize);
     QWidget* shown = content.release();
     layout->addWidget(shown);
+    // Made the default before it was in a dialog, a button is not yet known as such to this one.
+    for (QPushButton* button : shown->findChildren<QPushButton*>()) {
+        if (button->isDefault()) {
+            button->setDefault(false);
+            button->setDefault(true);
+        }
+    }
     sheet->adjustSize();
 
     sheet->move(window.geometry().center() - sheet->rect().center());

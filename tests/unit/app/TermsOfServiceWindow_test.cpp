@@ -3,8 +3,10 @@
 #include "foundation/UserDefaults.h"
 #include "platform/WindowActivation.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -34,6 +36,26 @@ TEST(TermsOfServiceWindow, TakesTheAnswerOnce) {
             button->click();
     }
     EXPECT_EQ(agreed, 1);
+}
+
+TEST(TermsOfServiceWindow, ReturnOnTheOtherAnswerDoesNotAgree) {
+    const QTemporaryDir root;
+    UserDefaults defaults(root.path() + u"/velmora.conf"_s);
+    FakeActivation activation;
+    TermsOfServiceWindow terms(defaults, activation);
+    int agreed = 0;
+    terms.show([&] { ++agreed; });
+    QApplication::setActiveWindow(activation.shown);
+    int refused = 0;
+    for (QPushButton* button : activation.shown->findChildren<QPushButton*>()) {
+        if (button->isDefault())
+            continue;
+        QObject::connect(button, &QPushButton::clicked, button, [&] { ++refused; });
+        button->setFocus();
+        QTest::keyClick(button, Qt::Key_Return);
+    }
+    EXPECT_EQ(refused, 1);
+    EXPECT_EQ(agreed, 0);
 }
 
 } // namespace

@@ -219,8 +219,21 @@ TEST_F(EditorTest, EscapeAndTheButtonCancelOnce) {
     QTest::keyClick(field(editor, u"label_title"_s), Qt::Key_Escape);
     EXPECT_EQ(cancelled_, 1);
     EXPECT_TRUE(sheet_->isVisible()) << "closing it is the presenter's part";
-    button(editor, u"button_cancel"_s)->click();
+    QPushButton* cancel = button(editor, u"button_cancel"_s);
+    cancel->click();
     EXPECT_EQ(cancelled_, 2);
+    field(editor, u"label_app"_s)->setText(u"App"_s);
+    EXPECT_TRUE(editor.saveButton().isDefault());
+    cancel->setFocus();
+    EXPECT_FALSE(editor.saveButton().isDefault());
+    QTest::keyClick(cancel, Qt::Key_Return);
+    EXPECT_EQ(cancelled_, 3);
+    EXPECT_TRUE(saved_.isEmpty());
+    editor.saveButton().setFocus();
+    EXPECT_TRUE(editor.saveButton().isDefault());
+    field(editor, u"label_title"_s)->setFocus();
+    QTest::keyClick(field(editor, u"label_title"_s), Qt::Key_Return);
+    EXPECT_EQ(saved_.size(), 1) << "elsewhere it saves";
 }
 
 TEST_F(EditorTest, ReturnIsAKeyLikeAnyOtherWhileAButtonsKeysAreRecorded) {

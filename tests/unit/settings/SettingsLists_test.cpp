@@ -203,7 +203,8 @@ TEST_F(SettingsListsTest, EditorsWorkOnTheStore) {
     }
     save(u"Y"_s);
     EXPECT_EQ(stored(), u"abcYe"_s);
-    button(u"add"_s)->click();
+    button(u"add"_s)->setFocus();
+    QTest::keyClick(button(u"add"_s), Qt::Key_Return);
     ASSERT_TRUE(editor());
     auto* form = editor()->findChild<ShortcutEditorView*>();
     for (QLineEdit* field : form->findChildren<QLineEdit*>())
