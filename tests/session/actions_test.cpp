@@ -2,7 +2,6 @@
 
 #include "session/Session.h"
 
-#include <QElapsedTimer>
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
@@ -117,33 +116,6 @@ TEST(Actions, KeysThatAKilledVelmoraLeftDownAreLetGoAtStart) {
     client.sync();
     session.launch();
     EXPECT_TRUE(waitFor([&] { return !isAnythingDown(client); }));
-}
-
-TEST(Actions, ShellCommandsNeverHoldTheBar) {
-    Session session(withButtons({
-        button(u"Endless"_s, ExecuteShellCommand{u"sleep 20"_s}),
-        button(u"Silent"_s, ExecuteShellCommand{u"exec >&- 2>&-; sleep 20"_s}),
-        button(u"Background"_s, ExecuteShellCommand{u"sleep 60 & echo hi"_s}),
-        button(u"Million"_s, ExecuteShellCommand{u"seq 1000000"_s}),
-    }));
-    session.launch();
-    EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
-    const auto places = session.buttons();
-    ASSERT_EQ(places.size(), 4u);
-    for (const QRect& place : places)
-        click(session, place);
-    QElapsedTimer timer;
-    timer.start();
-    EXPECT_TRUE(waitFor([&] { return session.log().contains(u"📝 Command output: hi"_s); }, 8000));
-    EXPECT_TRUE(waitFor([&] { return session.log().contains(u"1000000"_s); }, 60000));
-    const QStringList log = session.log();
-    const qsizetype first = log.indexOf(u"📝 Command output: 1"_s);
-    ASSERT_GE(first, 0);
-    ASSERT_GT(log.size(), first + 1000000);
-    EXPECT_EQ(log[first + 499999], u"500000"_s);
-    EXPECT_EQ(log[first + 999999], u"1000000"_s);
-    EXPECT_EQ(log[first + 1000000], u""_s);
-    EXPECT_TRUE(waitFor([&] { return session.log().count(u"✅ Executed shell command"_s) >= 2; }));
 }
 
 } // namespace

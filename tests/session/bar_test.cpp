@@ -2,8 +2,7 @@
 
 #include "session/Session.h"
 
-#include <QSettings>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
@@ -33,52 +32,6 @@ TEST(Bar, LiesOverTheMenuBarStrip) {
         EXPECT_EQ(session.bar()->geometry, given.bar);
         EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
     }
-}
-
-TEST(Bar, ComesUpWithDefaultsWhateverIsStored) {
-    const QByteArray button =
-        R"({"id":"E621E1F8-C36C-495A-93FC-0C247A3E6E5F","title":"T","icon":"star",)"
-        R"("action":{"openURL":{"url":"u"}},"alignment":"left"})";
-    const QByteArray cases[] = {
-        "",
-        "[" + button,
-        "{}",
-        "[" + button + ",{\"id\":1}]",
-        "\xff\xfe\x00garbage",
-        QByteArray(100000, '['),
-        "[1e400]",
-    };
-    for (const QByteArray& stored : cases) {
-        SCOPED_TRACE(stored.left(40).toStdString());
-        Session session;
-        {
-            QSettings settings(session.settingsFile(), QSettings::IniFormat);
-            settings.setValue(u"SavedShortcuts"_s, stored);
-        }
-        session.launch();
-        EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
-        const QSettings settings(session.settingsFile(), QSettings::IniFormat);
-        EXPECT_TRUE(settings.value(u"SavedShortcuts"_s).toByteArray().contains("Safari"));
-        EXPECT_EQ(settings.value(u"SavedShortcuts.unreadable"_s).toByteArray(), stored);
-    }
-}
-
-TEST(Bar, ShowsTitlesOfAnyShape) {
-    const QString titles[] = {
-        u"🙂👩‍👩‍👧‍👦"_s,
-        u"שלום עולם"_s,
-        u"two\nlines\r\n"_s,
-        QString(10000, u'W'),
-        u""_s,
-        u"<b>&amp;%1"_s};
-    QList<ShortcutButton> buttons;
-    for (const QString& title : titles)
-        buttons.append({title, u"no.such.symbol"_s, OpenUrl{title}});
-    buttons.prepend({u"First"_s, u"star"_s, OpenUrl{u"x"_s}});
-    Session session({.topInset = 32, .shortcuts = buttons});
-    session.launch();
-    EXPECT_TRUE(waitFor([&] { return !session.buttons().empty(); }));
-    EXPECT_EQ(session.program().state(), QProcess::Running);
 }
 
 TEST(Bar, EndsQuietlyWithTheServer) {

@@ -92,17 +92,6 @@ TEST(Instances, BeforeAgreementASecondLaunchBringsTheTermsForward) {
     }
 }
 
-TEST(Instances, OfTwoLaunchesAtTheSameMomentOneStays) {
-    for (int round = 0; round < 5; ++round) {
-        Session session;
-        Launch first(session);
-        Launch second(session);
-        EXPECT_TRUE(waitFor([&] { return first.isRunning() != second.isRunning(); }));
-        EXPECT_TRUE(waitFor([&] { return bars(session) == 1; }));
-        EXPECT_NE(first.isRunning(), second.isRunning());
-    }
-}
-
 TEST(Instances, ACrashedOneBlocksNobody) {
     Session session;
     for (int round = 0; round < 3; ++round) {

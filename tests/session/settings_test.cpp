@@ -114,34 +114,4 @@ TEST_F(SettingsTest, TheEditorKeepsTheKeyboardWhenTheWindowBehindIsClicked) {
     EXPECT_TRUE(session_.waitForSettings());
 }
 
-TEST_F(SettingsTest, ARowIsDraggedToAnotherPlace) {
-    const QPoint content = origin(openSettings());
-    // Rows are 38 points high where the fonts are the usual ones.
-    const QPoint first = content + QPoint(150, 140);
-    Driver& driver = session_.driver();
-    driver.move(first.x(), first.y());
-    driver.pressButton(1);
-    for (int y = 10; y <= 50; y += 10)
-        driver.move(first.x(), first.y() + y);
-    driver.releaseButton(1);
-    EXPECT_TRUE(waitFor([&] {
-        return storedText().indexOf(u"Finder"_s) < storedText().indexOf(u"Safari"_s);
-    })) << qPrintable(storedText());
-}
-
-TEST_F(SettingsTest, RestartLeavesANewInstance) {
-    openSettings();
-    const uint32_t before = session_.bar()->processId;
-    keys({"TAB", "TAB", "SPCE"}); // Edit and Delete are off
-    EXPECT_TRUE(session_.program().waitForFinished(10000));
-    EXPECT_TRUE(waitFor([&] {
-        const auto bar = session_.bar();
-        return bar && bar->processId != 0 && bar->processId != before;
-    }));
-    if (const auto bar = session_.bar(); bar && bar->processId != before) {
-        EXPECT_EQ(kill(pid_t(bar->processId), SIGTERM), 0);
-        EXPECT_TRUE(waitFor([&] { return !session_.bar(); }));
-    }
-}
-
 } // namespace

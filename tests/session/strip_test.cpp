@@ -114,18 +114,4 @@ TEST_F(Strip, CoastsAfterAFlickAndATouchStopsIt) {
     EXPECT_EQ(session.log().filter(u"🚀"_s).size(), 1);
 }
 
-TEST_F(Strip, ScrollsByWheelAndStillClicks) {
-    const QImage start = strip();
-    session.driver().move(300, barMiddle);
-    session.driver().wheel(-5);
-    EXPECT_TRUE(waitFor([&] { return strip() != start; }));
-    EXPECT_TRUE(waitUntilStill());
-    session.driver().wheel(50);
-    EXPECT_TRUE(waitUntilStill());
-    const QRect first = session.buttons().front();
-    session.driver().move(first.center().x(), barMiddle);
-    session.driver().click();
-    EXPECT_TRUE(session.waitForLog(u"📝 Command output: 1"_s));
-}
-
 } // namespace

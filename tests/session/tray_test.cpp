@@ -171,6 +171,11 @@ TEST_P(Tray, HasAMenuForPointerAndKeys) {
         session.driver().tapKey("ESC");
         EXPECT_TRUE(waitForNoMenu());
     }
+    ASSERT_TRUE(openMenu(1));
+    session.driver().tapChord("LCTL", "AD01"); // Ctrl+Q
+    EXPECT_TRUE(waitFor([this] { return session.program().state() == QProcess::NotRunning; }));
+    EXPECT_EQ(session.program().exitCode(), 0) << session.log().join(u'\n').toStdString();
+    EXPECT_TRUE(waitFor([this] { return !item(); }));
 }
 
 TEST_P(Tray, OpensTheSettingsBeforeAnotherApplication) {
@@ -182,22 +187,6 @@ TEST_P(Tray, OpensTheSettingsBeforeAnotherApplication) {
         for (const char* const key : {"DOWN", "DOWN", "RTRN"})
             session.driver().tapKey(key);
     });
-}
-
-TEST_P(Tray, HasAMenuWithKeyEquivalents) {
-    startTray();
-    // A tray that draws the menu of the right button itself leaves the key equivalents out.
-    const std::vector<uint8_t> buttons =
-        GetParam() == Kind::Embedding ? std::vector<uint8_t>{1, 3} : std::vector<uint8_t>{1};
-    for (const uint8_t button : buttons) {
-        session.launch();
-        ASSERT_TRUE(waitForItem());
-        ASSERT_TRUE(openMenu(button));
-        session.driver().tapChord("LCTL", "AD01"); // Ctrl+Q
-        EXPECT_TRUE(waitFor([this] { return session.program().state() == QProcess::NotRunning; }));
-        EXPECT_EQ(session.program().exitCode(), 0) << session.log().join(u'\n').toStdString();
-        EXPECT_TRUE(waitFor([this] { return !item(); }));
-    }
 }
 
 TEST(TrayWithoutABus, HasTheItemAndNoBusIsStarted) {

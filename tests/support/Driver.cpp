@@ -82,11 +82,6 @@ void Driver::click(uint8_t button) {
     releaseButton(button);
 }
 
-void Driver::wheel(int steps) {
-    for (int i = 0; i < std::abs(steps); ++i)
-        click(steps > 0 ? 4 : 5);
-}
-
 Driver::Held Driver::heldKey(const QByteArray& position, Keyboard keyboard) const {
     // XTEST types on one certain device when the event is that extension's.
     if (keyboard == Keyboard::Physical)

@@ -22,8 +22,6 @@ public:
     void pressButton(uint8_t button);
     void releaseButton(uint8_t button);
     void click(uint8_t button = 1);
-    /// Turns the wheel: positive is up (button 4), negative down (button 5).
-    void wheel(int steps);
 
     void pressKey(const QByteArray& position, Keyboard keyboard = Keyboard::Synthetic);
     void releaseKey(const QByteArray& position, Keyboard keyboard = Keyboard::Synthetic);

@@ -120,26 +120,4 @@ void Witness::clear() {
     events_.clear();
 }
 
-QString Witness::typed() {
-    xkb_context* context = xkb_context_new(XKB_CONTEXT_NO_FLAGS);
-    xkb_keymap* keymap = xkb_x11_keymap_new_from_device(
-        context, client_, xkb_x11_get_core_keyboard_device_id(client_),
-        XKB_KEYMAP_COMPILE_NO_FLAGS);
-    xkb_state* state = xkb_state_new(keymap);
-    QString text;
-    for (const Event& event : keys()) {
-        if (event.type != XCB_KEY_PRESS)
-            continue;
-        // The eight real modifiers come first in the map; the group is in bits 13 and 14.
-        xkb_state_update_mask(state, event.state & 0xff, 0, 0, 0, 0, (event.state >> 13) & 3);
-        char utf8[16] = {};
-        xkb_state_key_get_utf8(state, event.detail, utf8, sizeof utf8);
-        text += QString::fromUtf8(utf8);
-    }
-    xkb_state_unref(state);
-    xkb_keymap_unref(keymap);
-    xkb_context_unref(context);
-    return text;
-}
-
 } // namespace velmora::test

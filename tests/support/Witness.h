@@ -3,7 +3,6 @@
 #include "support/XClient.h"
 
 #include <QRect>
-#include <QString>
 
 namespace velmora::test {
 
@@ -36,9 +35,6 @@ public:
     bool waitForInput(size_t count);
     /// Forgets what came so far.
     void clear();
-
-    /// What the presses so far type on the keyboard's present layout.
-    QString typed();
 
 private:
     void record(const xcb_generic_event_t& event);

@@ -10,10 +10,7 @@
 #include "support/Witness.h"
 
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
-#include <QProcess>
-#include <QTimer>
 #include <csignal>
 #include <gmock/gmock.h>
 #include <set>
@@ -138,46 +135,6 @@ TEST_F(Keyboard, PressesThePositionWithExactlyTheFlagsOnEveryLayout) {
     setLayout(u"us"_s);
 }
 
-TEST_F(Keyboard, TypesWhatTheLayoutHasThere) {
-    for (const auto& [layout, text] :
-         {std::pair{u"us"_s, u"qQ"_s},
-          {u"fr"_s, u"aA"_s},
-          {u"dvorak"_s, u"'\""_s},
-          {u"ru"_s, u"йЙ"_s},
-          {u"jp"_s, u"qQ"_s}}) {
-        setLayout(layout);
-        service.tap(12, 0);
-        service.tap(12, kCGEventFlagMaskShift);
-        service.currentFlags();
-        EXPECT_EQ(witness.typed(), text);
-        witness.clear();
-    }
-    setLayout(u"us"_s);
-}
-
-TEST_F(Keyboard, FollowsAKeyboardWhosePositionsMove) {
-    const auto setKeycodes = [](const QString& keycodes) {
-        QProcess process;
-        process.start(u"setxkbmap"_s, {u"-keycodes"_s, keycodes});
-        ASSERT_TRUE(process.waitForFinished());
-    };
-    const auto pressed = [this] {
-        QEventLoop loop;
-        QTimer::singleShot(5, &loop, &QEventLoop::quit);
-        loop.exec();
-        service.tap(123, 0);
-        const auto events = seen();
-        return events.empty() ? 0 : events.front().keycode;
-    };
-    const uint8_t usual = driver.keycode("LEFT");
-    setKeycodes(u"xfree86"_s);
-    const uint8_t moved = Driver().keycode("LEFT");
-    EXPECT_NE(moved, usual);
-    EXPECT_TRUE(waitFor([&] { return pressed() == moved; }));
-    setKeycodes(u"evdev"_s);
-    EXPECT_TRUE(waitFor([&] { return pressed() == usual; }));
-}
-
 TEST_F(Keyboard, NamesEveryKeyOfThisKeyboardOnce) {
     const KeyPositions positions = KeyPositions::read(client);
     std::set<uint8_t> keycodes;
@@ -191,24 +148,6 @@ TEST_F(Keyboard, NamesEveryKeyOfThisKeyboardOnce) {
     }
     EXPECT_EQ(keycodes.size(), codes);
     EXPECT_GE(codes, 104); // a full ANSI keyboard
-}
-
-TEST_F(Keyboard, FindsTheModifierBitsOfAnUnusualMap) {
-    const auto xmodmap = [](const QStringList& changes) {
-        QProcess process;
-        process.start(u"xmodmap"_s, changes);
-        ASSERT_TRUE(process.waitForFinished());
-        ASSERT_EQ(process.exitCode(), 0);
-    };
-    // Super changes places with the empty Mod3.
-    xmodmap({u"-e"_s, u"clear mod4"_s, u"-e"_s, u"add mod3 = Super_L Super_R"_s});
-    Service other;
-    for (const bool keyDown : {true, false})
-        EXPECT_TRUE(other.post(8, keyDown, kCGEventFlagMaskCommand));
-    other.currentFlags();
-    constexpr uint16_t mod3 = 32;
-    EXPECT_THAT(seen(), ElementsAreArray(pressAndRelease({8, "AB03"}, mod3)));
-    xmodmap({u"-e"_s, u"clear mod3"_s, u"-e"_s, u"add mod4 = Super_L Super_R"_s});
 }
 
 TEST_F(Keyboard, LeavesLocksAndTheGroupAsTheyWere) {
@@ -358,24 +297,6 @@ TEST_F(Keyboard, TheKeysOfAKilledProcessAreLetGoAndNoWatcherStays) {
     EXPECT_THAT(seen(), ElementsAre(Seen{XCB_KEY_PRESS, c, super}, Seen{XCB_KEY_RELEASE, c, 0}));
     { const Service ending; }
     EXPECT_TRUE(waitFor([] { return watchers() == 1; }));
-}
-
-TEST_F(Keyboard, KeysLeftDownLongAgoAreLetGoOnRequest) {
-    driver.pressKey("AB03");
-    driver.pressKey("LALT");
-    const uint8_t left[] = {driver.keycode("LALT"), driver.keycode("AB03")};
-    const xcb_atom_t note = client.atom("_VELMORA_PRESSED_KEYS");
-    xcb_change_property(
-        client, XCB_PROP_MODE_REPLACE, client.root(), note, XCB_ATOM_CARDINAL, 8, 2, left);
-    client.sync();
-    service.events.releaseAbandonedKeys();
-    EXPECT_FALSE(isAnythingDown(client));
-    // Only once: what is down later is someone else's.
-    driver.pressKey("AB03");
-    service.events.releaseAbandonedKeys();
-    EXPECT_TRUE(isAnythingDown(client));
-    driver.releaseKey("AB03");
-    witness.clear();
 }
 
 } // namespace

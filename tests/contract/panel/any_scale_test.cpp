@@ -2,7 +2,6 @@
 
 #include "contract/panel/PanelProbe.h"
 #include "contract/panel/SessionTest.h"
-#include "platform/x11/X11Accessibility.h"
 #include "platform/x11/X11PanelWindows.h"
 #include "platform/x11/X11Screens.h"
 
@@ -33,15 +32,6 @@ protected:
     QByteArray machine;
     X11Screens screens{*connection, [this] { return machine; }};
 };
-
-TEST_F(AnyScale, FrameIsExactInPoints) {
-    const auto screen = screens.mainScreen();
-    ASSERT_TRUE(screen);
-    EXPECT_EQ(screen->frame.topLeft(), QPointF(0, 0));
-    EXPECT_DOUBLE_EQ(screen->frame.width(), displaySize.width() / ratio);
-    EXPECT_DOUBLE_EQ(screen->frame.height(), displaySize.height() / ratio);
-    EXPECT_EQ(screen->safeAreaInsets, QMarginsF());
-}
 
 TEST_F(AnyScale, OutputPropertyComesBeforeTheRootWindows) {
     setRootInsets({32, 0, 0, 0});
@@ -94,31 +84,6 @@ TEST_F(AnyScale, StripIsCoveredToThePixel) {
         const int below = pixels + static_cast<int>(std::ceil(ratio));
         EXPECT_FALSE(isGradient(pixel(client, {displaySize.width() / 2, below})));
     }
-}
-
-TEST_F(AnyScale, ScreenOfNoWidthShowsNothing) {
-    const auto mappedWindows = [this] {
-        const auto all = topWindows(client);
-        return std::count_if(all.begin(), all.end(), [](const auto& top) { return top.mapped; });
-    };
-    const auto before = mappedWindows();
-    X11PanelWindows windows(*connection);
-    const auto panel = windows.create({0, -24, 0, 24}, 0x8080);
-    panel->setIgnoresMouseEvents(false);
-    panel->orderFrontRegardless();
-    panel->setContentView(new GradientView);
-    panel->setAlphaValue(0);
-    panel->setAlphaValue(1);
-    QCoreApplication::processEvents();
-    client.sync();
-    EXPECT_EQ(mappedWindows(), before);
-}
-
-TEST_F(AnyScale, SessionOfThisServerIsTrusted) {
-    EXPECT_TRUE(X11Accessibility(*connection).isProcessTrusted());
-    qputenv("XDG_SESSION_TYPE", "wayland");
-    EXPECT_FALSE(X11Accessibility(*connection).isProcessTrusted());
-    qunsetenv("XDG_SESSION_TYPE");
 }
 
 } // namespace

@@ -9,53 +9,11 @@
 using namespace Qt::StringLiterals;
 using namespace velmora;
 using namespace velmora::test;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
 
 constexpr EventFlags option = kCGEventFlagMaskAlternate;
-
-TEST_F(TapsTest, TheReleaseOfASwallowedPressReachesTheFront) {
-    TapUnderTest buttons;
-    buttons.make(world.taps(), TapInterest::MouseButtons{{3}});
-    buttons.tap->setEnabled(true);
-    makeEnabled(optionM);
-    type(keyM, option);
-    world.click(3, buttons);
-    const auto hasArrived = [this](uint8_t type, uint8_t detail) {
-        return std::ranges::any_of(world.witness.events(), [&](const Witness::Event& event) {
-            return event.type == type && event.detail == detail;
-        });
-    };
-    EXPECT_TRUE(hasArrived(XCB_KEY_RELEASE, world.driver.keycode(keyM.name)));
-    EXPECT_TRUE(hasArrived(XCB_BUTTON_RELEASE, 8));
-    EXPECT_THAT(world.reachedFront(), IsEmpty());
-}
-
-TEST_F(TapsTest, NeitherALockNorALayoutChangesAnything) {
-    makeEnabled(optionM);
-    TapUnderTest buttons;
-    buttons.make(world.taps(), TapInterest::MouseButtons{{4}});
-    buttons.tap->setEnabled(true);
-    setLayout(u"us,fr"_s);
-    size_t expected = 0;
-    for (unsigned locks = 0; locks <= 0xff; ++locks) {
-        // Those that layouts lock: Caps Lock, Num Lock, Scroll Lock, the third level.
-        if (locks & ~0xb2U)
-            continue;
-        lockGroup(world.client, locks & XCB_MOD_MASK_LOCK ? 1 : 0);
-        lockModifiers(world.client, 0xff, false);
-        lockModifiers(world.client, static_cast<uint8_t>(locks), true);
-        world.type(keyM, option, tap);
-        world.click(4, buttons);
-        ++expected;
-        EXPECT_EQ(tap.presses(), expected) << locks;
-        EXPECT_EQ(buttons.presses(), expected) << locks;
-    }
-    lockGroup(world.client, 0);
-    setLayout(u"us"_s);
-}
 
 TEST_F(TapsTest, TheChordFollowsItsKeyAndItsModifier) {
     const auto pressed = [this](const char* modifier, const char* key) {
