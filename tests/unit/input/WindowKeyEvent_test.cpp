@@ -28,32 +28,21 @@ TEST(WindowKeyEventTest, PressesAreNamedAsThroughATap) {
         QString text;
     } cases[] = {
         {Qt::Key_N, Qt::MetaModifier | Qt::ShiftModifier, 57, u"⌘⇧N"_s},
-        {Qt::Key_A, Qt::AltModifier | Qt::ControlModifier, 38, u"⌥⌃A"_s},
-        {Qt::Key_1, {}, 10, u"1"_s},
         {Qt::Key_Exclam, Qt::ShiftModifier, 10, u"⇧1"_s},
         {Qt::Key_ParenRight, Qt::ShiftModifier, 19, u"⇧0"_s},
         {Qt::Key_5, Qt::KeypadModifier, 84, u"5"_s},
         {Qt::Key_7, {}, noScanCode, u"7"_s},
-        {Qt::Key_Minus, {}, 20, u"-"_s},
         {Qt::Key_Return, {}, 36, u"Return"_s},
-        {Qt::Key_Tab, {}, 23, u"Tab"_s},
         {Qt::Key_Backtab, Qt::ShiftModifier, 23, u"⇧Tab"_s},
         {Qt::Key_Space, Qt::ControlModifier, 65, u"⌃Space"_s},
         {Qt::Key_Backspace, {}, 22, u"Delete"_s},
-        {Qt::Key_Escape, {}, 9, u"Escape"_s},
         {Qt::Key_Left, {}, 113, u"←"_s},
-        {Qt::Key_Right, {}, 114, u"→"_s},
-        {Qt::Key_Down, {}, 116, u"↓"_s},
-        {Qt::Key_Up, {}, 111, u"↑"_s},
-        {Qt::Key_PageUp, {}, 112, u"PageUp"_s},
         {Qt::Key_PageDown, {}, 117, u"PageDown"_s},
-        {Qt::Key_Home, {}, 110, u"Home"_s},
         {Qt::Key_End, {}, 115, u"End"_s},
         {Qt::Key_F5, Qt::MetaModifier, 71, u"⌘F5"_s},
         {0xE9, {}, 11 + 100, u"É"_s},
         {0x1F600, {}, 200, u"😀"_s},
         {0, {}, noScanCode, {}},
-        {Qt::Key_unknown, {}, noScanCode, {}},
     };
     for (const auto& [key, modifiers, scanCode, text] : cases)
         EXPECT_EQ(pressed(key, modifiers, scanCode), text) << text.toStdString();
@@ -73,7 +62,6 @@ TEST(WindowKeyEventTest, ModifierKeysTellWhatIsHeldAfterwards) {
          kCGEventFlagMaskAlternate | kCGEventFlagMaskShift},
         {QEvent::KeyRelease, Qt::Key_Shift, Qt::AltModifier | Qt::ShiftModifier,
          kCGEventFlagMaskAlternate},
-        {QEvent::KeyPress, Qt::Key_Control, {}, kCGEventFlagMaskControl},
         {QEvent::KeyPress, Qt::Key_CapsLock, Qt::ControlModifier, kCGEventFlagMaskControl},
         {QEvent::KeyPress, Qt::Key_AltGr, {}, 0},
     };

@@ -1,9 +1,7 @@
 #include "model/ShortcutAction.h"
 
-#include "model/ShortcutButton.h"
 #include "support/KeyTexts.h"
 
-#include <QSet>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -23,27 +21,6 @@ TEST(ShortcutActionTest, DisplayNameFillsTheOnePlaceholder) {
     };
     for (const auto& [action, expected] : cases)
         EXPECT_EQ(displayName(action), expected);
-}
-
-TEST(ShortcutActionTest, AnActionIsItsValuesAndAButtonItsId) {
-    const ShortcutAction different[] = {
-        LaunchApp{u"a"_s, std::nullopt},
-        LaunchApp{u"a"_s, u""_s},
-        OpenUrl{u"a"_s},
-        ExecuteShellCommand{u"a"_s},
-        PressKeyCombo{{u"Command"_s, u"Shift"_s}, u"a"_s},
-        PressKeyCombo{{u"Shift"_s, u"Command"_s}, u"a"_s},
-    };
-    QSet<ShortcutAction> set;
-    for (const ShortcutAction& one : different)
-        set << one << ShortcutAction(one);
-    EXPECT_EQ(set.size(), std::ssize(different));
-
-    const ShortcutButton button(u"a"_s, u"globe"_s, OpenUrl{u"x"_s});
-    const ShortcutButton renamed(
-        u"b"_s, u"camera"_s, OpenUrl{u"y"_s}, ButtonAlignment::right, button.id());
-    const ShortcutButton twin(u"a"_s, u"globe"_s, OpenUrl{u"x"_s});
-    EXPECT_EQ((QSet{button, renamed, twin}), (QSet{twin, renamed}));
 }
 
 } // namespace

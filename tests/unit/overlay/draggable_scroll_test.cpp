@@ -123,12 +123,6 @@ TEST_F(DraggableScrollTest, CoastingStopsAtAnEnd) {
     }
 }
 
-TEST_F(DraggableScrollTest, TheTimerTicksByItself) {
-    strip.startDeceleration(-1.2);
-    EXPECT_TRUE(test::waitFor([this] { return !strip.isCoasting(); }));
-    EXPECT_GT(strip.offset(), 30);
-}
-
 TEST_F(DraggableScrollTest, APressStopsCoasting) {
     strip.startDeceleration(-10);
     send(Kind::leftMouseDown, {-1, 10});
@@ -190,22 +184,6 @@ TEST_F(DraggableScrollTest, ScrollsWithWheelAndTouchpad) {
     strip.startDeceleration(-10);
     wheel({}, {0, 120});
     EXPECT_FALSE(strip.isCoasting());
-}
-
-TEST_F(DraggableScrollTest, FollowsTheRealPointer) {
-    test::Mouse mouse(window);
-    mouse.press({150, 16});
-    for (int x = 140; x >= 100; x -= 10) {
-        mouse.now += 16;
-        mouse.drag({double(x), 16});
-    }
-    EXPECT_EQ(strip.offset(), 50);
-    mouse.now += 5;
-    mouse.drag({92, 16});
-    mouse.release({92, 16});
-    EXPECT_EQ(strip.offset(), 50);
-    EXPECT_EQ(strip.currentVelocity(), -8);
-    EXPECT_TRUE(strip.isCoasting());
 }
 
 TEST_F(DraggableScrollTest, HoverFollowsContentThatMovesUnderARestingPointer) {

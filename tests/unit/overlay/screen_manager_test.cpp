@@ -26,7 +26,6 @@ TEST(ScreenManagerTest, GeometryFollowsFromFrameAndTopInset) {
         {std::nullopt, 24, {0, 0, 0, 0}, {0, 0}},
         {screenOf(1920, 1080), 24, {0, 0, 0, 0}, {1920, 0}},
         {screenOf(1512, 982, 32), 32, {529.2, 950, 453.59999999999997, 32}, {529.2, 529.2}},
-        {screenOf(1440, 900, 32), 32, {504, 868, 432, 32}, {504, 504}},
         {screenOf(1000, 500, 1e-9), 1e-9, {350, 500 - 1e-9, 300, 1e-9}, {350, 350}},
         {screenOf(1000, 500, -1), 24, {0, 0, 0, 0}, {1000, 0}},
         {Screen{{-1440, 300, 1440, 900}, {1, 32, 3, 4}}, 32, {504, 868, 432, 32}, {504, 504}},
@@ -59,20 +58,6 @@ public:
 
     double insetTop = 0;
 };
-
-TEST(ScreenManagerTest, CompositeQueriesHonourSubstitutes) {
-    const test::FakeScreens none;
-    SubstitutedManager manager(none);
-    EXPECT_EQ(manager.getScreenFrame(), QRectF(0, 0, 1000, 500));
-    EXPECT_EQ(manager.getNotchSafeZones(), (NotchSafeZones{100, 700}));
-    // The notch and its zones read the screen; height and presence read the insets.
-    EXPECT_FALSE(manager.hasNotch());
-    EXPECT_EQ(manager.getMenuBarHeight(), 24.0);
-    EXPECT_EQ(manager.ScreenManager::getNotchBounds(), QRectF(350, 490, 300, 10));
-    manager.insetTop = 40;
-    EXPECT_TRUE(manager.hasNotch());
-    EXPECT_EQ(manager.getMenuBarHeight(), 40.0);
-}
 
 } // namespace
 } // namespace velmora

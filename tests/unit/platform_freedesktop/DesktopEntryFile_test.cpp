@@ -19,7 +19,6 @@ TEST(DesktopEntryFile, NeedsTypeAndName) {
         const char* text;
         bool isApplication;
     } cases[] = {
-        {"[Desktop Entry]\nType=Application\nName=A\n", true},
         {"# comment\n\n[Desktop Entry]\r\n Type = Application \r\nName\t= A\r\n", true},
         {"[Desktop Entry]\nType=Application\nName=A", true},
         {"[Desktop Entry]\nType=Link\nName=A\n", false},
@@ -27,7 +26,6 @@ TEST(DesktopEntryFile, NeedsTypeAndName) {
         {"[Desktop Entry]\nType=Application\n", false},
         {"[Desktop Entry]\nType=Application\nName= \\s\n", false},
         {"[Other]\nType=Application\nName=A\n", false},
-        {"Type=Application\nName=A\n", false},
         {"[Desktop Entry]\nType=Application\n[Desktop Action new]\nName=A\n", false},
         {"\x7f"
          "ELF[=]\n[\n]==\n",
@@ -49,16 +47,13 @@ TEST(DesktopEntryFile, NameFollowsTheLanguage) {
         QString name;
     } cases[] = {
         {"C", u"plain"_s},
-        {"POSIX", u"plain"_s},
         {"ja_JP.UTF-8", u"メモ"_s},
         {"de_DE.UTF-8", u"deutsch"_s},
         {"de_AT", u"austrian"_s},
         {"de_CH@x", u"swiss x"_s},
         {"sr_RS.UTF-8@latin", u"sr RS"_s}, // the country comes before the modifier
         {"sr_ME@latin", u"sr latin"_s},
-        {"sr", u"sr"_s},
         {"pt_BR", u"plain"_s}, // an empty name is none
-        {"fr_FR", u"plain"_s},
         {"ko_KR", u"a b\\c\td\\"_s},
     };
     for (const auto& c : cases)
@@ -79,14 +74,11 @@ TEST(DesktopEntryFile, ShownInTheNamedDesktops) {
         bool shown;
     } cases[] = {
         {"", {}, true},
-        {"OnlyShowIn=KDE;", {}, false},
         {"OnlyShowIn=KDE;XFCE;", {u"XFCE"_s}, true},
         {"OnlyShowIn=KDE", {u"XFCE"_s}, false},
         {"OnlyShowIn=", {u"XFCE"_s}, false},
-        {"NotShowIn=KDE;", {}, true},
         {"NotShowIn=KDE;", {u"KDE"_s}, false},
         {"OnlyShowIn=GNOME;", {u"ubuntu"_s, u"GNOME"_s}, true},
-        {"NotShowIn=GNOME;", {u"ubuntu"_s, u"GNOME"_s}, false},
         {"OnlyShowIn=ubuntu;\nNotShowIn=GNOME;", {u"ubuntu"_s, u"GNOME"_s}, true},
     };
     for (const auto& c : cases) {

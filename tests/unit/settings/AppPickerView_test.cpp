@@ -64,16 +64,6 @@ protected:
     QPointer<Sheet> sheet;
 };
 
-TEST_F(AppPickerViewTest, ShowsTheListWhenTheScanEnds) {
-    open(30);
-    EXPECT_FALSE(list().isVisible());
-    gate.release();
-    EXPECT_TRUE(waitFor([this] { return list().isVisible(); }));
-    EXPECT_EQ(picker->model().rowCount(), 21);
-    EXPECT_TRUE(edit().hasFocus());
-    EXPECT_TRUE(sheet->isModal());
-}
-
 TEST_F(AppPickerViewTest, ClosedWhileScanning) {
     open(30);
     ASSERT_TRUE(waitFor([this] { return isScanning.load(); }));
@@ -198,21 +188,6 @@ TEST_F(AppPickerViewTest, AssistiveProgramsPickBySelecting) {
     act(20); // also the row that Return would pick
     EXPECT_TRUE(isClosed());
     EXPECT_EQ(picked, QStringList{u"org.app20"_s});
-}
-
-TEST_F(AppPickerViewTest, GoesWithItsWindow) {
-    QWidget outer;
-    outer.show();
-    gate.release();
-    auto view = std::make_unique<AppPickerView>(
-        QString(), [](const AppInfo&) {}, AppScanner({}));
-    const QPointer<AppPickerView> shown = view.get();
-    {
-        QWidget inner;
-        inner.show();
-        Sheet::present(inner, std::move(view));
-    }
-    EXPECT_TRUE(shown.isNull());
 }
 
 } // namespace

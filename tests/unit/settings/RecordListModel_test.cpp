@@ -61,18 +61,9 @@ TEST(RecordListModel, FollowsAnyEditAndKeepsRowsOutsideIt) {
 }
 
 TEST(RecordListModel, TitlesTakeOneLine) {
-    const struct {
-        QString text;
-        QString line;
-    } cases[] = {
-        {u"plain"_s, u"plain"_s},
-        {u"two\nlines\r\n\tand"_s, u"two lines   and"_s},
-        {u"a\u2028b\u2029c\u0085d"_s, u"a b c d"_s},
-        {u"<b>&amp;</b>"_s, u"<b>&amp;</b>"_s},
-        {u"🗑️ שלום"_s, u"🗑️ שלום"_s},
-    };
-    for (const auto& [text, line] : cases)
-        EXPECT_EQ(singleLine(text), line);
+    EXPECT_EQ(singleLine(u"<b>🗑️ שלום</b>"_s), u"<b>🗑️ שלום</b>"_s);
+    EXPECT_EQ(singleLine(u"two\nlines\r\n\tand"_s), u"two lines   and"_s);
+    EXPECT_EQ(singleLine(u"a\u2028b\u2029c\u0085d"_s), u"a b c d"_s);
     EXPECT_LE(singleLine(QString(1'000'000, u'x')).size(), 1000);
 }
 

@@ -1,8 +1,6 @@
-// Both tabs over real stores: selection, the commands by button, key, menu and drag, and restart.
+// Both tabs over real stores: selection, the commands by button, key, menu and drag.
 
-#include "foundation/ActionMessages.h"
 #include "foundation/Bundle.h"
-#include "foundation/Log.h"
 #include "foundation/UserDefaults.h"
 #include "input/MouseButtonManager.h"
 #include "model/ShortcutManager.h"
@@ -42,12 +40,7 @@ protected:
 
     void open() {
         view_.emplace(
-            store_, taps_,
-            [this](const std::function<void()>& completion) {
-                ++launches_;
-                completion();
-            },
-            Bundle::infoDictionary());
+            store_, taps_, [](const std::function<void()>&) {}, Bundle::infoDictionary());
         view_->resize(600, 500);
         view_->show();
         QApplication::setActiveWindow(&*view_);
@@ -110,7 +103,6 @@ protected:
     UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
     ShortcutManager store_{defaults_};
     test::FakeEventTaps taps_;
-    int launches_ = 0;
     std::optional<VelmoraSettingsView> view_;
 };
 
@@ -282,17 +274,6 @@ TEST_F(SettingsListsTest, KeysOfOneTurnActOnTheRowsAsTheyAre) {
     EXPECT_EQ(shown(), u"bced"_s);
 }
 
-TEST_F(SettingsListsTest, RestartLaunchesAndThenTerminates) {
-    open();
-    int terminations = 0;
-    ActionMessages::shared().setHandler(u"terminate:"_s, [&] { ++terminations; });
-    button(u"restart"_s)->click();
-    EXPECT_EQ(launches_, 1);
-    EXPECT_EQ(terminations, 0) << "in a later turn";
-    EXPECT_TRUE(waitFor([&] { return terminations == 1; }));
-    ActionMessages::shared().setHandler(u"terminate:"_s, [] {});
-}
-
 TEST_F(SettingsListsTest, MouseBindingsCannotBeMovedAndAddingReplaces) {
     test::FakeAccessibility accessibility;
     MouseButtonManager manager(defaults_, taps_, accessibility, [](const ShortcutAction&) {});
@@ -311,34 +292,13 @@ TEST_F(SettingsListsTest, MouseBindingsCannotBeMovedAndAddingReplaces) {
     EXPECT_TRUE(waitFor([&] { return rows.model()->rowCount() == 1; }));
 }
 
-TEST(VersionLine, SaysSoEachTimeItShowsAnUnknownVersion) {
+TEST(VersionLine, IsKnownByBothTexts) {
     const QString shortVersion(Bundle::shortVersionKey);
-    const QString build(Bundle::versionKey);
-    const struct {
-        std::optional<QVariantMap> dictionary;
-        bool isKnown;
-        QString description;
-    } cases[] = {
-        {Bundle::infoDictionary(), true, {}},
-        {std::nullopt, false, u"nil"_s},
-        {QVariantMap{{shortVersion, u"1.0"_s}}, false, u"[CFBundleShortVersionString: 1.0]"_s},
-        {QVariantMap{{shortVersion, u"1.0"_s}, {build, 7}}, false,
-         u"[CFBundleShortVersionString: 1.0, CFBundleVersion: 7]"_s},
-    };
-    for (const auto& [dictionary, isKnown, description] : cases) {
-        VersionLine line(dictionary);
-        EXPECT_EQ(line.text(), isKnown ? u"version_format"_s : u"unknown_version"_s);
-        testing::internal::CaptureStdout();
-        line.show();
-        line.hide();
-        line.show();
-        const QString once = u"⚠️ InfoDictionary is nil or missing keys.\nBundle Path: %1\n"
-                             u"InfoDictionary: %2\n"_s.arg(Bundle::bundlePath(), description);
-        Log::flush();
-        EXPECT_EQ(
-            QString::fromStdString(testing::internal::GetCapturedStdout()),
-            isKnown ? QString() : once.repeated(2));
-    }
+    EXPECT_TRUE(versionText(Bundle::infoDictionary()));
+    EXPECT_FALSE(versionText(std::nullopt));
+    EXPECT_FALSE(versionText(QVariantMap{{shortVersion, u"1.0"_s}}));
+    EXPECT_FALSE(
+        versionText(QVariantMap{{shortVersion, u"1.0"_s}, {QString(Bundle::versionKey), 7}}));
 }
 
 } // namespace

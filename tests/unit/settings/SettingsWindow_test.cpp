@@ -2,7 +2,6 @@
 
 #include "foundation/ActionMessages.h"
 #include "foundation/Bundle.h"
-#include "foundation/Log.h"
 #include "foundation/UserDefaults.h"
 #include "input/MouseButtonManager.h"
 #include "model/ShortcutManager.h"
@@ -68,23 +67,15 @@ TEST_F(SettingsWindowTest, IsMadeOnceAndDroppedWhenItCloses) {
     const QPointer<QWidget> first = window_.window();
     ASSERT_TRUE(first);
     EXPECT_EQ(first->windowTitle(), u"Velmora 設定"_s);
-    EXPECT_GE(tabs().width(), 600);
-    EXPECT_GE(tabs().height(), 500);
     tabs().setCurrentIndex(1);
     window_.show();
     EXPECT_EQ(window_.window(), first);
     EXPECT_EQ(tabs().currentIndex(), 1);
     EXPECT_EQ(activation_.activated.size(), 2);
 
-    testing::internal::CaptureStdout();
     first->close();
     EXPECT_FALSE(window_.window());
-    Log::flush();
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
-    testing::internal::CaptureStdout();
     EXPECT_TRUE(waitFor([&] { return !first; }));
-    Log::flush();
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "🗑️ SettingsWindow released\n");
 
     window_.show();
     EXPECT_EQ(tabs().currentIndex(), 0);

@@ -1,10 +1,6 @@
 #include "viewkit/ToolTip.h"
 
-#include <QHelpEvent>
-#include <QTextBlock>
 #include <QTextDocument>
-#include <QToolTip>
-#include <QWidget>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -43,23 +39,6 @@ TEST(ToolTip, NeverCutsACharacterInTwo) {
     for (const QString& line : shown(text).split(u'\n')) {
         EXPECT_FALSE(line.front().isLowSurrogate());
         EXPECT_FALSE(line.back().isHighSurrogate());
-    }
-}
-
-TEST(ToolTip, BringsItsColourWhereNoStyleSheetHasOne) {
-    QWidget plain;
-    QWidget styled;
-    styled.setStyleSheet(u"QToolTip { color: red; }"_s);
-    for (QWidget* view : {&plain, &styled}) {
-        view->ensurePolished();
-        const QHelpEvent request(QEvent::ToolTip, {}, {});
-        ToolTip::show(request, view, u"text"_s);
-        QTextDocument document;
-        document.setHtml(QToolTip::text());
-        EXPECT_EQ(document.toPlainText(), u"text"_s);
-        const QTextCharFormat format = document.begin().begin().fragment().charFormat();
-        EXPECT_EQ(format.hasProperty(QTextFormat::ForegroundBrush), view == &plain);
-        QToolTip::hideText();
     }
 }
 
