@@ -1,13 +1,12 @@
-// Clicks on the bar's buttons: what each kind of action does, and what the log says about it.
+// Clicks on the bar's buttons: what each kind of action does.
 
 #include "session/Session.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
 using namespace velmora::test;
-using testing::ElementsAre;
 
 namespace {
 
@@ -90,19 +89,6 @@ TEST(Actions, FourKindsRunByClickAndNeverTakeTheFocus) {
 
     EXPECT_EQ(activeWindow(session.client()), active);
     EXPECT_EQ(inputFocus(session.client()), focus);
-    EXPECT_THAT(
-        session.log(),
-        ElementsAre(
-            u"🚀 Executing action: Launch Marker"_s, u"✅ Launched Marker via bundle ID"_s,
-            u"🚀 Executing action: Open https://velmora.invalid/page?a=b"_s,
-            u"✅ Opened URL: https://velmora.invalid/page?a=b"_s,
-            u"🚀 Executing action: Run print -u2 err; print out; exit 3"_s,
-            // The text ends with its own line break.
-            u"📝 Command output: err"_s, u"out"_s, u""_s, u"✅ Executed shell command"_s,
-            u"🚀 Executing action: Press Command+Shift+n"_s, u"⌨️ Pressing: Command+Shift+n"_s,
-            u"📍 Key code: 0x2d"_s, u"  + Command"_s, u"  + Shift"_s,
-            u"📤 Posting key down event..."_s, u"📤 Posting key up event..."_s,
-            u"✅ Key combo sent successfully"_s));
 }
 
 TEST(Actions, KeysThatAKilledVelmoraLeftDownAreLetGoAtStart) {

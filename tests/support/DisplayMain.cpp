@@ -1,16 +1,10 @@
 // main() of contract tests: a display with a window manager, and the application on it.
 
-#include "support/DisplayMain.h"
+#include "support/TestDisplay.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
-
-static velmora::test::TestDisplay* sharedDisplay = nullptr;
-
-velmora::test::TestDisplay& velmora::test::display() {
-    return *sharedDisplay;
-}
 
 int main(int argc, char** argv) {
     testing::InitGoogleMock(&argc, argv);
@@ -21,7 +15,6 @@ int main(int argc, char** argv) {
     // Without an address, a bus daemon would be started that outlives the test.
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     velmora::test::TestDisplay display;
-    sharedDisplay = &display;
     display.startWindowManager(QStringLiteral("openbox"));
     qputenv("QT_QPA_PLATFORM", "xcb");
     QApplication application(argc, argv);

@@ -2,7 +2,6 @@
 
 #include "platform/EventTap.h"
 
-#include <QList>
 #include <gtest/gtest.h>
 #include <utility>
 #include <vector>
@@ -33,8 +32,6 @@ public:
     std::vector<Tap*> taps;
     /// False lets create() fail.
     bool allowsTaps = true;
-    /// What went past all taps to the application in front, in order.
-    QList<TapEvent> passedOn;
 
     /// The test's key events carry the position itself.
     KeyCode keyCode(std::uint32_t nativeScanCode) const override {
@@ -65,20 +62,16 @@ public:
         handler(reason, TapEvent{.type = reason});
     }
 
-    /// The user does something: true when a tap swallowed it. The newest enabled tap that wants it
-    /// decides; without one, or when the handler returns it, it is passed on.
+    /// The user does something: true when the newest enabled tap for such events swallowed it. Taps
+    /// get more than they are interested in, as they may in a session.
     bool send(const TapEvent& event) {
         for (auto tap = taps.rbegin(); tap != taps.rend(); ++tap) {
-            if (!(*tap)->enabled || !wants(**tap, event))
+            if (!(*tap)->enabled || !((*tap)->eventsOfInterest & eventMaskBit(event.type)))
                 continue;
             // A copy: the handler may destroy its tap.
             const Handler handler = (*tap)->handler;
-            const std::optional<TapEvent> returned = handler(event.type, event);
-            if (returned)
-                passedOn.append(*returned);
-            return !returned;
+            return !handler(event.type, event);
         }
-        passedOn.append(event);
         return false;
     }
 
@@ -94,19 +87,6 @@ public:
     }
     bool sendButton(std::int64_t buttonNumber) {
         return send({.type = EventType::otherMouseDown, .buttonNumber = buttonNumber});
-    }
-
-private:
-    static bool wants(const Tap& tap, const TapEvent& event) {
-        if (!(tap.eventsOfInterest & eventMaskBit(event.type)))
-            return false;
-        if (const auto* chord = std::get_if<TapInterest::Chord>(&tap.interest))
-            return event.type == EventType::keyDown && event.keyCode == chord->keyCode &&
-                   (event.flags & chord->requiredFlags) == chord->requiredFlags;
-        if (const auto* buttons = std::get_if<TapInterest::MouseButtons>(&tap.interest))
-            return event.type == EventType::otherMouseDown && event.buttonNumber >= 2 &&
-                   buttons->buttonNumbers.contains(event.buttonNumber);
-        return event.type == EventType::keyDown || event.type == EventType::flagsChanged;
     }
 };
 

@@ -13,8 +13,6 @@ class FakeWorkspace : public Workspace {
 public:
     /// Locations by identifier.
     QHash<QString, QStringList> installed;
-    /// What installedApplications() gives.
-    QList<InstalledApplication> listed;
     /// What completes the launch of a location with an error, by location.
     QHash<QString, QString> launchErrors;
 
@@ -33,7 +31,7 @@ public:
         return installed.value(identifier);
     }
 
-    QList<InstalledApplication> installedApplications() const override { return listed; }
+    QList<InstalledApplication> installedApplications() const override { return {}; }
 
     void openApplication(
         const QString& location, const OpenConfiguration&, OpenCompletion completion) override {

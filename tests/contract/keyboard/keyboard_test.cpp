@@ -24,13 +24,6 @@ using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 
-namespace velmora::test {
-static void PrintTo(const KeyboardState& state, std::ostream* out) {
-    *out << "base " << int(state.base) << " latched " << int(state.latched) << " locked "
-         << int(state.locked) << " group " << int(state.group);
-}
-} // namespace velmora::test
-
 namespace {
 
 constexpr auto physical = Driver::Keyboard::Physical;

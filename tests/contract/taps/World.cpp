@@ -52,22 +52,6 @@ std::vector<std::int64_t> TapUnderTest::pressed() const {
     return pressed;
 }
 
-void replaceWindowManager(const QString& program) {
-    const XClient client;
-    const auto owner = [&client] {
-        return client.property(client.root(), "_NET_SUPPORTING_WM_CHECK");
-    };
-    const auto before = owner();
-    const QString replace = QStringLiteral("--replace");
-    // xfwm4 reads its settings over a bus, and ends without them. The bus ends with it.
-    if (program == QStringLiteral("xfwm4"))
-        display().start(
-            QStringLiteral("dbus-run-session"), {QStringLiteral("--"), program, replace});
-    else
-        display().start(program, {replace});
-    ASSERT_TRUE(waitFor([&] { return !owner().empty() && owner() != before; }));
-}
-
 bool OtherProgram::takeChord(uint8_t keycode, uint32_t also) {
     const uint32_t required = XCB_MOD_MASK_1 | also;
     std::vector<uint32_t> states;
@@ -167,24 +151,6 @@ bool World::isAnyButtonDown() const {
     return std::any_of(
         buttons, buttons + xcb_input_xi_query_pointer_buttons_length(reply.get()),
         [](uint32_t bits) { return bits != 0; });
-}
-
-void World::replugKeyboard() {
-    const uint8_t keyboard = inputDevice(client, XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD);
-    const uint8_t master = inputDevice(client, XCB_INPUT_DEVICE_TYPE_MASTER_KEYBOARD);
-    // One change as the protocol lays it out, with its device's new master or none.
-    struct Change {
-        xcb_input_hierarchy_change_t header;
-        uint16_t device;
-        uint16_t master;
-    };
-    for (const Change& change :
-         {Change{{XCB_INPUT_HIERARCHY_CHANGE_TYPE_DETACH_SLAVE, 2}, keyboard, 0},
-          Change{{XCB_INPUT_HIERARCHY_CHANGE_TYPE_ATTACH_SLAVE, 2}, keyboard, master}}) {
-        const Reply<xcb_generic_error_t> error(xcb_request_check(
-            client, xcb_input_xi_change_hierarchy_checked(client, 1, &change.header)));
-        EXPECT_FALSE(error);
-    }
 }
 
 std::vector<std::int64_t> World::reachedFront() {

@@ -3,8 +3,8 @@
 #include "platform/EventTap.h"
 #include "platform/x11/X11Session.h"
 #include "support/Desktop.h"
-#include "support/DisplayMain.h"
 #include "support/Driver.h"
+#include "support/TestDisplay.h"
 #include "support/Witness.h"
 
 #include <QWidget>
@@ -39,9 +39,6 @@ struct TapUnderTest {
     /// The key codes or button numbers of the presses so far.
     std::vector<std::int64_t> pressed() const;
 };
-
-/// Starts `program` in place of the display's window manager and waits until it has taken over.
-void replaceWindowManager(const QString& program);
 
 /// Another program that takes what it is told to; letting go of it is dying.
 class OtherProgram {
@@ -86,9 +83,6 @@ public:
 
     /// Of all buttons, those that the core protocol does not tell about included.
     bool isAnyButtonDown() const;
-
-    /// Takes the physical keyboard out of the session and puts it back.
-    void replugKeyboard();
 
     XClient client;
     Witness witness;

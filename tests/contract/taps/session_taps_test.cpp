@@ -48,20 +48,6 @@ TEST_F(TapsTest, TheChordFollowsItsKeyAndItsModifier) {
     EXPECT_TRUE(waitFor([&] { return pressed("LALT", "LEFT"); }));
 }
 
-TEST_F(TapsTest, AKeyboardPluggedInLaterWorksToo) {
-    makeEnabled(optionM);
-    world.replugKeyboard();
-    constexpr auto physical = Driver::Keyboard::Physical;
-    EXPECT_TRUE(waitFor([&] {
-        world.driver.pressKey("LALT", physical);
-        world.driver.pressKey(keyM.name, physical);
-        waitFor([this] { return tap.presses() > 0; }, 100);
-        world.driver.releaseKey(keyM.name, physical);
-        world.driver.releaseKey("LALT", physical);
-        return tap.presses() > 0;
-    }));
-}
-
 TEST_F(TapsTest, AHeldChordRepeatsAndThePlainKeyIsFreeAgain) {
     EXPECT_EQ(QProcess::execute(u"xset"_s, {u"r"_s, u"rate"_s, u"100"_s, u"50"_s}), 0);
     makeEnabled(optionM);
@@ -83,6 +69,8 @@ TEST_F(TapsTest, AHandlerThatIsSlowFreezesNobody) {
     world.driver.click(1);
     EXPECT_EQ(world.witness.keys().size(), 2U);
     EXPECT_TRUE(waitFor([this] { return tap.presses() == 1; }));
+    // The window manager looks at the click first, and holds up its release meanwhile.
+    EXPECT_TRUE(waitFor([this] { return !isAnythingDown(world.client); }));
 }
 
 TEST_F(TapsTest, ATapWorksBesideAnotherProgramsLongerChord) {
@@ -177,24 +165,18 @@ TEST_F(TapsTest, KeysHeldWhileACaptureBeginsOrEndsAreNotStuck) {
 }
 
 TEST_F(TapsTest, CaptureComesBeforeTheWindowManagersKeys) {
-    for (const char* windowManager : {"xfwm4", "openbox"}) {
-        replaceWindowManager(QString::fromLatin1(windowManager));
-        QWidget& view = world.focusedView();
-        makeEnabled(TapInterest::EveryKey{&view});
-        ASSERT_TRUE(waitFor([this] { return !world.isKeyboardFree(); }));
-        for (const auto& [key, flags] :
-             {std::pair(keyTab, option),
-              {keyEscape, option},
-              {keyE, kCGEventFlagMaskCommand},
-              {keyTab, EventFlags(0)}}) {
-            tap.events.clear();
-            world.type(key, flags, tap);
-            EXPECT_EQ(tap.presses(), 1U) << windowManager << key.name;
-        }
-        EXPECT_TRUE(view.hasFocus());
-        tap.tap.reset();
-        EXPECT_TRUE(waitFor([this] { return world.isKeyboardFree(); }, 100));
+    makeCapture();
+    ASSERT_TRUE(waitFor([this] { return !world.isKeyboardFree(); }));
+    for (const auto& [key, flags] :
+         {std::pair(keyTab, option),
+          {keyEscape, option},
+          {keyE, kCGEventFlagMaskCommand},
+          {keyTab, EventFlags(0)}}) {
+        tap.events.clear();
+        type(key, flags);
+        EXPECT_EQ(tap.presses(), 1U) << key.name;
     }
+    EXPECT_TRUE(world.focusedView().hasFocus());
 }
 
 } // namespace

@@ -274,5 +274,15 @@ TEST_F(UserDefaultsTest, ADamagedValueIsNotAbsent) {
     EXPECT_EQ(defaults.data(u"bare"_s), "[1,2]"_ba);
 }
 
+TEST_F(UserDefaultsTest, ARelativeConfigurationFolderIsIgnored) {
+    const int status = statusOfChild([this] {
+        qputenv("XDG_CONFIG_HOME", "relative");
+        qputenv("HOME", QFile::encodeName(root_.path()));
+        UserDefaults::standard().setBoolean(u"flag"_s, true);
+        return QFileInfo::exists(path(u".config/velmora/velmora.conf"_s)) ? 0 : 1;
+    });
+    EXPECT_EQ(status, 0);
+}
+
 } // namespace
 } // namespace velmora

@@ -149,31 +149,6 @@ TEST_F(GioWorkspaceTest, SaysWhyAnApplicationDoesNotStart) {
             << qPrintable(location + u": "_s + open(location).value_or(u"started"_s));
 }
 
-TEST_F(GioWorkspaceTest, OpensUrlsWithTheDefaultHandler) {
-    folder.add(u"handler"_s, {u"Exec=%1 %u"_s.arg(folder.program())});
-    const struct {
-        QString type;
-        QUrl url;
-    } cases[] = {
-        {u"x-scheme-handler/https"_s, QUrl(u"https://example.org/ä?q=a%20b"_s)},
-        {u"x-scheme-handler/mailto"_s, QUrl(u"mailto:someone@example.org"_s)},
-        {u"inode/directory"_s, QUrl::fromLocalFile(folder.file(QString()))},
-    };
-    for (const auto& [type, url] : cases) {
-        folder.setDefault(type, u"handler"_s);
-        ASSERT_TRUE(waitFor([&] {
-            workspace.openUrl(url);
-            return waitFor([&] { return QFile::exists(folder.report()); }, 500);
-        })) << qPrintable(type);
-        // Local files come as paths.
-        const QString argument =
-            url.isLocalFile() ? url.toLocalFile() : QString::fromLatin1(url.toEncoded());
-        EXPECT_EQ(folder.nextReport().value(0), u"arg "_s + argument);
-    }
-    EXPECT_FALSE(workspace.openUrl(QUrl(u"example.org"_s)));
-    EXPECT_TRUE(workspace.openUrl(QUrl(u"unknown-scheme:nothing"_s)));
-}
-
 namespace {
 
 /// An application that is on the bus already.

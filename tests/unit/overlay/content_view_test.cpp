@@ -96,6 +96,7 @@ TEST_F(ContentViewTest, NotchLayoutLeavesTheMiddleToTheNotch) {
     EXPECT_EQ(inBar(layout->leftStrip()), QRect(0, 4, 650, 24));
     EXPECT_EQ(inBar(layout->rightStrip()), QRect(862, 4, 638, 24));
     EXPECT_EQ(inBar(*view->findChild<MenuButton*>()).left(), 0);
+    EXPECT_FALSE(cachedMenuIcon().isNull()) << "the icon ships with the program";
     EXPECT_EQ(inBar(*button(0)).left(), 46 + 6);
     EXPECT_EQ(inBar(*button(1)).left(), inBar(*button(0)).right() + 1 + 6);
     EXPECT_EQ(inBar(*buttons(right)[0]).right() + 1, 1512 - 12);
@@ -207,6 +208,16 @@ TEST_F(ContentViewTest, APressThatBecameADragFiresNothing) {
     mouse.press(at);
     mouse.release(at + QPointF(3, 4));
     EXPECT_THAT(executed, ElementsAre("Button 1")) << "5 points are still a click";
+}
+
+TEST_F(ContentViewTest, WithoutStripsAClickMayWanderInsideTheButton) {
+    add(u"A rather long title"_s);
+    show(false);
+    test::Mouse mouse(*view);
+    const QPointF at = centre(*button(0));
+    mouse.press(at - QPointF(30, 0));
+    mouse.release(at + QPointF(30, 0));
+    EXPECT_EQ(executed.size(), 1u);
 }
 
 TEST_F(ContentViewTest, TheMenuSendsItsMessages) {

@@ -62,6 +62,7 @@ TEST_F(AppScannerTest, FindsApplicationsInOrdinaryFolders) {
     bundle(u"Applications/Alpha.app/Contents/Helpers/Inner.app"_s, "no", "org.no1");
     bundle(u"Applications/.hidden.app"_s, "no", "org.no3");
     bundle(u"Applications/.hidden/Inner.app"_s, "no", "org.no4");
+    bundle(u"Applications/Tool.plugin"_s, "no", "org.no5");
     bundle(u"Applications/Tool.plugin/Contents/Inner.app"_s, "no", "org.no6");
     bundle(u"Applications/NoName.app"_s, "", "org.no8");
     bundle(u"Applications/NoIdentifier.app"_s, "no", "");

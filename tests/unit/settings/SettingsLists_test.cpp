@@ -127,27 +127,6 @@ TEST_F(SettingsListsTest, SelectionFollowsTheRecordById) {
     EXPECT_EQ(stored(), u"abde"_s);
 }
 
-TEST_F(SettingsListsTest, KeysSelectStartingFromTheRing) {
-    open();
-    const struct {
-        int ring; // the row that was deleted last
-        Qt::Key key;
-        QString selected;
-    } cases[] = {
-        {0, Qt::Key_Down, u"b"_s},
-        {1, Qt::Key_Up, u"d"_s},
-        {2, Qt::Key_End, u"d"_s},
-        {0, Qt::Key_Home, u"d"_s},
-    };
-    for (const auto& [ring, key, selected] : cases) {
-        clickRow(ring);
-        QTest::keyClick(&list(), Qt::Key_Delete);
-        ASSERT_EQ(selectedRow(), QString());
-        QTest::keyClick(&list(), key);
-        EXPECT_EQ(selectedRow(), selected) << key;
-    }
-}
-
 TEST_F(SettingsListsTest, DeleteThatFindsNothingKeepsTheSelection) {
     open();
     clickRow(1);
