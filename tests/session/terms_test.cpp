@@ -53,7 +53,7 @@ TEST_F(Terms, ReturnAgreesAndTheBarComesUpInTheSameProcess) {
     EXPECT_TRUE(waitFor([this] { return session.bar().has_value(); }));
     EXPECT_TRUE(agreed());
     EXPECT_EQ(session.program().state(), QProcess::Running);
-    EXPECT_TRUE(waitFor([&] { return window() != terms; }));
+    EXPECT_TRUE(waitFor([&] { return session.client().property(terms, "_NET_WM_STATE").empty(); }));
 }
 
 } // namespace
