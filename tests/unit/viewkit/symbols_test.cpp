@@ -22,6 +22,23 @@ double coverage(const QImage& image) {
     return double(drawn) / (image.width() * image.height());
 }
 
+TEST(SymbolTable, ReadsLayersAndSkipsWhatIsNotARow) {
+    const SymbolTable table = parseSymbolTable(
+        "# comment\twith tab\n\nbroken\nplain\tgear\n"
+        "mixed\tapp mirror-x clear-rect@6,5.5,10,10.5 clear-ellipse@1,2,3 gift-fill@-1,4,8\n");
+    using Kind = SymbolLayer::Kind;
+    ASSERT_EQ(table.size(), 2);
+    EXPECT_EQ(table[u"plain"_s], QList({SymbolLayer{Kind::drawing, u"gear"_s, {0, 0, 16, 16}}}));
+    EXPECT_EQ(
+        table[u"mixed"_s], QList({
+                               SymbolLayer{Kind::drawing, u"app"_s, {0, 0, 16, 16}},
+                               SymbolLayer{Kind::mirrorHorizontally, {}, {0, 0, 16, 16}},
+                               SymbolLayer{Kind::clearRectangle, {}, {6, 5.5, 10, 10.5}},
+                               SymbolLayer{Kind::clearEllipse, {}, {1, 2, 3, 3}},
+                               SymbolLayer{Kind::drawing, u"gift-fill"_s, {-1, 4, 8, 8}},
+                           }));
+}
+
 TEST(Symbols, EveryNameOfTheTableDrawsSomethingOfItsOwn) {
     ASSERT_TRUE(Symbols::contains(u"safari"_s));
     QFile file(u":/symbols/symbols.tsv"_s);
