@@ -226,7 +226,7 @@
     </message>
     <message id="picker_app_no_match">
         <source></source>
-        <translation>Keine passende Anwendung.</translation>
+        <translation>Kein passendes Programm.</translation>
     </message>
     <message id="picker_app_search">
         <source></source>

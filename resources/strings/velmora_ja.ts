@@ -226,7 +226,7 @@
     </message>
     <message id="picker_app_no_match">
         <source></source>
-        <translation>一致するアプリケーションはありません。</translation>
+        <translation>一致するアプリはありません。</translation>
     </message>
     <message id="picker_app_search">
         <source></source>

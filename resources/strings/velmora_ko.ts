@@ -226,7 +226,7 @@
     </message>
     <message id="picker_app_no_match">
         <source></source>
-        <translation>일치하는 응용 프로그램이 없습니다.</translation>
+        <translation>일치하는 앱이 없습니다.</translation>
     </message>
     <message id="picker_app_search">
         <source></source>
