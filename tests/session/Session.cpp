@@ -188,7 +188,9 @@ void Session::expectSettingsInFront(const std::function<void()>& ask) {
         driver_->tapKey("DELE");
         const size_t left = isOpen ? 2 : 3;
         EXPECT_TRUE(waitFor([&] { return buttons().size() == left; }));
-        EXPECT_TRUE(witness.keys().empty());
+        // A menu closes on the press of Return: the release may go to what was in front.
+        for (const Witness::Event& event : witness.keys())
+            EXPECT_NE(event.type, XCB_KEY_PRESS) << int(event.detail);
     }
 }
 

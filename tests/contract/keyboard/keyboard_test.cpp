@@ -10,8 +10,10 @@
 #include "support/Witness.h"
 
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QProcess>
+#include <QTimer>
 #include <csignal>
 #include <gmock/gmock.h>
 #include <set>
@@ -127,6 +129,29 @@ TEST_F(Keyboard, PressesThePositionWithExactlyTheFlagsOnEveryLayout) {
         }
     }
     setLayout(u"us"_s);
+}
+
+TEST_F(Keyboard, FollowsAKeyboardWhosePositionsMove) {
+    const auto setKeycodes = [](const QString& keycodes) {
+        QProcess process;
+        process.start(u"setxkbmap"_s, {u"-keycodes"_s, keycodes});
+        ASSERT_TRUE(process.waitForFinished());
+    };
+    const auto pressed = [this] {
+        QEventLoop loop;
+        QTimer::singleShot(5, &loop, &QEventLoop::quit);
+        loop.exec();
+        service.tap(123, 0);
+        const auto events = seen();
+        return events.empty() ? 0 : events.front().keycode;
+    };
+    const uint8_t usual = driver.keycode("LEFT");
+    setKeycodes(u"xfree86"_s);
+    const uint8_t moved = Driver().keycode("LEFT");
+    EXPECT_NE(moved, usual);
+    EXPECT_TRUE(waitFor([&] { return pressed() == moved; }));
+    setKeycodes(u"evdev"_s);
+    EXPECT_TRUE(waitFor([&] { return pressed() == usual; }));
 }
 
 TEST_F(Keyboard, NamesEveryKeyOfThisKeyboardOnce) {
