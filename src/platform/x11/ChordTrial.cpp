@@ -38,6 +38,7 @@ ChordTrial::Question ChordTrial::ask(xcb_keycode_t keycode, uint8_t mask) {
             *connection_, connection_->root(), keycode, XCB_INPUT_DEVICE_ALL_MASTER, 1,
             XCB_INPUT_GRAB_TYPE_KEYCODE, &modifiers);
     }
+    question.letGo = xcb_get_input_focus(*connection_);
     xcb_flush(*connection_);
     return question;
 }
@@ -51,6 +52,10 @@ bool ChordTrial::isTaken(const Question& question) {
         taken = reply && reply->num_modifiers > 0;
     }
     const XcbOwned<xcb_generic_error_t> error(xcb_request_check(*connection_, question.coreGrab));
+    // The server may turn to other clients between two requests. A key pressed while the trial
+    // still holds it would be lost to the trial.
+    const XcbOwned<xcb_get_input_focus_reply_t> letGo(
+        xcb_get_input_focus_reply(*connection_, question.letGo, nullptr));
     return taken || error;
 }
 

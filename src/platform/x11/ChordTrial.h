@@ -17,12 +17,14 @@ public:
     struct Question {
         xcb_void_cookie_t coreGrab;
         unsigned inputGrab;
+        xcb_get_input_focus_cookie_t letGo; ///< answered when nothing is grabbed any more
     };
 
     /// Asks about a key with modifiers; does not wait, so that other answers come with it.
     Question ask(xcb_keycode_t keycode, uint8_t mask);
 
-    /// Waits for the answer: whether the combination is taken.
+    /// Waits for the answer: whether the combination is taken. Of what was tried nothing is held
+    /// then.
     bool isTaken(const Question& question);
 
 private:
