@@ -23,13 +23,20 @@ public:
     }
 };
 
-TEST(TermsOfServiceWindow, TakesTheAnswerOnce) {
+/// The window while it asks.
+struct TermsOfServiceWindowTest : testing::Test {
+    TermsOfServiceWindowTest() {
+        terms.show([this] { ++agreed; });
+    }
+
     const QTemporaryDir root;
-    UserDefaults defaults(root.path() + u"/velmora.conf"_s);
+    UserDefaults defaults{root.path() + u"/velmora.conf"_s};
     FakeActivation activation;
-    TermsOfServiceWindow terms(defaults, activation);
+    TermsOfServiceWindow terms{defaults, activation};
     int agreed = 0;
-    terms.show([&] { ++agreed; });
+};
+
+TEST_F(TermsOfServiceWindowTest, TakesTheAnswerOnce) {
     for (QPushButton* button : activation.shown->findChildren<QPushButton*>()) {
         // The second click of a double click comes before the window has gone.
         for (int click = 0; click < 2 && button->isDefault(); ++click)
@@ -38,13 +45,7 @@ TEST(TermsOfServiceWindow, TakesTheAnswerOnce) {
     EXPECT_EQ(agreed, 1);
 }
 
-TEST(TermsOfServiceWindow, ReturnOnTheOtherAnswerDoesNotAgree) {
-    const QTemporaryDir root;
-    UserDefaults defaults(root.path() + u"/velmora.conf"_s);
-    FakeActivation activation;
-    TermsOfServiceWindow terms(defaults, activation);
-    int agreed = 0;
-    terms.show([&] { ++agreed; });
+TEST_F(TermsOfServiceWindowTest, ReturnOnTheOtherAnswerDoesNotAgree) {
     QApplication::setActiveWindow(activation.shown);
     int refused = 0;
     for (QPushButton* button : activation.shown->findChildren<QPushButton*>()) {
