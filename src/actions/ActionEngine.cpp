@@ -97,9 +97,9 @@ void ActionEngine::executeShellCommand(const QString& command) {
             return;
         }
         if (outcome.output && !outcome.output->isEmpty())
-            Log::write(u"📝 Command output: "_s + *outcome.output);
+            Log::write(u"📝 Command output: "_s, *outcome.output);
         if (outcome.truncated)
-            Log::write(u"⚠️ Command output beyond 64 MiB was dropped"_s);
+            Log::write(u"⚠️ The rest of the command's output was dropped"_s);
         Log::write(u"✅ Executed shell command"_s);
     });
 }

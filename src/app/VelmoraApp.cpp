@@ -21,6 +21,9 @@ int VelmoraApp::main() {
     QApplication::setQuitOnLastWindowClosed(false);
     const TerminationSignals terminationSignals;
     appendHelperPath();
+    // Good for this start alone: what is started from here must not use them up once more.
+    for (const char* variable : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
+        qunsetenv(variable);
     installLocalizedStrings();
     installAccessibleViews();
     appDelegate = std::make_unique<AppDelegate>();

@@ -1,7 +1,5 @@
 #include "foundation/Log.h"
 
-#include "foundation/Journal.h"
-
 #include <QDateTime>
 #include <cerrno>
 #include <condition_variable>
@@ -9,7 +7,6 @@
 #include <cstdlib>
 #include <deque>
 #include <mutex>
-#include <optional>
 #include <thread>
 #include <unistd.h>
 
@@ -18,15 +15,21 @@ using namespace std::chrono_literals;
 namespace velmora::Log {
 namespace {
 
-/// UTF-16 units that may wait for a reader; lines beyond are dropped. Several of the longest.
+/// Bytes that may wait for a reader; lines beyond are dropped. Several of the longest.
 constexpr qsizetype queueLimit = 256 * 1024 * 1024;
+
+/// Bytes up to which a line goes out in one piece, so that no other writer comes between.
+constexpr qsizetype pieceSize = 64 * 1024;
 
 constexpr auto longestFlush = 1s;
 
 struct Line {
     int descriptor;
-    QString text;
+    QByteArray text;
+    QByteArray more;
     QDateTime time;
+
+    qsizetype size() const { return text.size() + more.size(); }
 };
 
 /// Writes everything, whatever its size. A reader that went away is not our failure: give up.
@@ -44,26 +47,18 @@ void writeAll(int descriptor, const QByteArray& bytes) {
     }
 }
 
-/// The journal as far as it is wanted, found out by the first line.
-const std::optional<Journal>& journal() {
-    static const std::optional<Journal> instance =
-        wantsJournal(STDERR_FILENO, qgetenv("JOURNAL_STREAM"))
-            ? std::optional<Journal>(std::in_place)
-            : std::nullopt;
-    return instance;
-}
-
 void writeNow(const Line& line) {
-    const QByteArray text = line.text.toUtf8() + '\n';
-    if (line.descriptor != STDERR_FILENO) {
-        writeAll(line.descriptor, text);
+    QByteArray head;
+    if (line.descriptor == STDERR_FILENO)
+        head = line.time.toString(Qt::ISODateWithMs).toUtf8() + " velmora[" +
+               QByteArray::number(::getpid()) + "] ";
+    head += line.text;
+    if (line.size() <= pieceSize) {
+        writeAll(line.descriptor, head + line.more + '\n');
         return;
     }
-    const QByteArray stamp = line.time.toString(Qt::ISODateWithMs).toUtf8() + " velmora[" +
-                             QByteArray::number(::getpid()) + "] ";
-    writeAll(STDERR_FILENO, stamp + text);
-    if (journal())
-        journal()->write(text.chopped(1));
+    for (const QByteArray& piece : {head, line.more, QByteArray("\n")})
+        writeAll(line.descriptor, piece);
 }
 
 /// The lines that wait, and the thread that writes them.
@@ -77,9 +72,9 @@ public:
 
     void add(Line line) {
         const std::scoped_lock lock(mutex_);
-        if (waiting_ + line.text.size() > queueLimit)
+        if (waiting_ + line.size() > queueLimit)
             return;
-        waiting_ += line.text.size();
+        waiting_ += line.size();
         lines_.push_back(std::move(line));
         changed_.notify_all();
     }
@@ -104,11 +99,11 @@ private:
         std::unique_lock lock(mutex_);
         for (;;) {
             changed_.wait(lock, [this] { return !lines_.empty(); });
-            const Line line = lines_.front();
+            const Line& line = lines_.front();
             lock.unlock();
             writeNow(line);
             lock.lock();
-            waiting_ -= line.text.size();
+            waiting_ -= line.size();
             lines_.pop_front(); // only now: an empty queue means that all is written
             changed_.notify_all();
         }
@@ -128,15 +123,15 @@ Sink& currentSink() {
 
 } // namespace
 
-void write(const QString& line) {
+void write(const QString& line, const QByteArray& more) {
     {
         const std::scoped_lock lock(sinkMutex);
         if (const Sink& sink = currentSink()) {
-            sink(line);
+            sink(line + QString::fromUtf8(more));
             return;
         }
     }
-    Writer::shared().add({STDERR_FILENO, line, QDateTime::currentDateTime()});
+    Writer::shared().add({STDERR_FILENO, line.toUtf8(), more, QDateTime::currentDateTime()});
 }
 
 void setSink(Sink sink) {
@@ -145,7 +140,7 @@ void setSink(Sink sink) {
 }
 
 void writeDiagnostic(const QString& line) {
-    Writer::shared().add({STDOUT_FILENO, line, {}});
+    Writer::shared().add({STDOUT_FILENO, line.toUtf8(), {}, {}});
 }
 
 void flush() {

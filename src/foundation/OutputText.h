@@ -1,35 +1,34 @@
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
-#include <QString>
 #include <QStringDecoder>
 #include <optional>
 
 namespace velmora {
 
-/// Bytes that arrive piece by piece, judged as UTF-8 as a whole and kept as text up to a limit.
+/// Bytes that arrive piece by piece, judged as UTF-8 as a whole and kept as far as there is room.
 class OutputText {
 public:
-    /// Keeps the text of at most the first `limit` bytes.
-    explicit OutputText(qsizetype limit) : limit_(limit) {}
+    /// Takes the next piece, which may begin and end inside a character, and keeps at most its
+    /// first `room` bytes. What does not fit ends the text kept, whatever room there is later.
+    void append(QByteArrayView bytes, qsizetype room);
 
-    /// Takes the next piece; it may begin and end inside a character.
-    void append(QByteArrayView bytes);
+    /// Bytes kept so far; none any more once it is clear that they are not UTF-8.
+    qsizetype size() const { return text_.size(); }
 
-    /// More bytes than the limit arrived.
+    /// More bytes arrived than were kept.
     bool truncated() const { return truncated_; }
 
-    /// Ends the input: the text kept, cut at a character boundary, or nothing when the bytes, those
-    /// beyond the limit included, are not UTF-8.
-    std::optional<QString> take();
+    /// Ends the input: the text kept, UTF-8 that ends with a whole character, or nothing when the
+    /// bytes, those not kept included, are not UTF-8.
+    std::optional<QByteArray> take();
 
 private:
-    qsizetype limit_;
-    qsizetype size_ = 0;
     bool truncated_ = false;
-    QString text_;
-    /// Holds back an unfinished character between pieces, and so at the limit, too.
-    QStringDecoder decoder_{QStringDecoder::Utf8, QStringConverter::Flag::ConvertInitialBom};
+    QByteArray text_;
+    /// Only for the verdict: what it decodes is dropped.
+    QStringDecoder decoder_{QStringDecoder::Utf8};
 };
 
 } // namespace velmora

@@ -101,16 +101,11 @@ Failure launch(Entry entry, GList* urls) {
             return *failure;
         entry = std::get<Entry>(std::move(changed));
     }
-    const GioPointer<GAppLaunchContext> context(g_app_launch_context_new());
-    // Whoever started us has used these up; they must not count for what we start.
-    for (const char* variable : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
-        g_app_launch_context_unsetenv(context.get(), variable);
-
     // Without G_SPAWN_DO_NOT_REAP_CHILD the application becomes init's child: nothing to wait for.
     // In a session of its own, Ctrl+C in the terminal that we were started from does not reach it.
     GioError error;
     const bool started = g_desktop_app_info_launch_uris_as_manager(
-        entry.get(), urls, context.get(), G_SPAWN_SEARCH_PATH, [](gpointer) { ::setsid(); },
+        entry.get(), urls, nullptr, G_SPAWN_SEARCH_PATH, [](gpointer) { ::setsid(); },
         nullptr, nullptr, nullptr, error.out());
     if (!started)
         return error.message();

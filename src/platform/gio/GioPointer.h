@@ -13,7 +13,6 @@ namespace velmora {
 struct GioDelete {
     void operator()(GDesktopAppInfo* object) const { g_object_unref(object); }
     void operator()(GAppInfo* object) const { g_object_unref(object); }
-    void operator()(GAppLaunchContext* object) const { g_object_unref(object); }
     void operator()(GAsyncResult* object) const { g_object_unref(object); }
     void operator()(GDBusConnection* object) const { g_object_unref(object); }
     void operator()(GFile* object) const { g_object_unref(object); }

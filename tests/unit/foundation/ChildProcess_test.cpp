@@ -1,5 +1,6 @@
 #include "foundation/ChildProcess.h"
 
+#include "foundation/FileDescriptor.h"
 #include "support/TestDisplay.h"
 
 #include <QDir>
@@ -9,11 +10,13 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <memory>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using velmora::FileDescriptor;
 using velmora::ChildProcess::Outcome;
 using velmora::test::waitFor;
 
@@ -37,7 +40,7 @@ public:
             throw std::runtime_error("the run did not complete");
         return **outcome_;
     }
-    QString output() const { return outcome().output.value_or(u"(not UTF-8)"_s); }
+    QString output() const { return QString::fromUtf8(outcome().output.value_or("(not UTF-8)")); }
 
 private:
     std::shared_ptr<std::optional<Outcome>> outcome_ = std::make_shared<std::optional<Outcome>>();
@@ -82,6 +85,9 @@ TEST(ChildProcess, GathersBothStreamsAsText) {
         EXPECT_EQ(run.output(), output) << qPrintable(command);
         EXPECT_TRUE(run.outcome().startFailure.isEmpty());
     }
+    const Child flood(u"head -c 70000000 /dev/zero"_s);
+    EXPECT_EQ(flood.outcome().output->size(), velmora::ChildProcess::outputLimit);
+    EXPECT_TRUE(flood.outcome().truncated);
 }
 
 TEST(ChildProcess, SaysWhyAProgramDoesNotStart) {
@@ -162,16 +168,38 @@ TEST(ChildProcess, ManyRunsLeaveNothingBehind) {
         return std::exchange(descriptorsBefore, now) == now;
     }));
     const qsizetype threadsBefore = countIn(threads);
-    for (int round = 0; round < 10; ++round) {
-        std::vector<Child> children;
-        for (int index = 0; index < 50; ++index)
-            children.emplace_back(index % 10 ? u"echo x"_s : u"/nonexistent"_s);
-        for (const Child& child : children)
-            child.outcome();
-    }
+    std::vector<Child> children;
+    for (int index = 0; index < 300; ++index)
+        children.emplace_back(index % 10 ? u"echo x"_s : u"/nonexistent"_s);
+    for (const Child& child : children)
+        child.outcome();
     EXPECT_TRUE(waitFor([&] { return countIn(descriptors) <= descriptorsBefore; }))
         << countIn(descriptors) << " descriptors, " << descriptorsBefore << " before";
     EXPECT_EQ(countIn(threads), threadsBefore);
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD) << "a child or zombie is left";
+}
+
+TEST(ChildProcess, RunsWaitForRoomInTheirOrder) {
+    rlimit before{};
+    ::getrlimit(RLIMIT_NOFILE, &before);
+    const auto setLimit = [&](int descriptors) {
+        const rlimit changed{static_cast<rlim_t>(descriptors), before.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &changed);
+    };
+    const FileDescriptor lowestFree(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+    setLimit(lowestFree.get() + 14);
+    std::vector<Child> children;
+    for (int index = 0; index < 100; ++index)
+        children.emplace_back(u"echo $$"_s);
+    int last = 0;
+    for (const Child& child : children) {
+        ASSERT_EQ(child.outcome().startFailure, QString());
+        const int process = child.output().toInt();
+        EXPECT_GT(process, last) << "started out of turn";
+        last = process;
+    }
+    setLimit(lowestFree.get()); // none is free, and there is nothing to wait for
+    EXPECT_EQ(Child(u"true"_s).outcome().startFailure, u"Too many open files"_s);
+    ::setrlimit(RLIMIT_NOFILE, &before);
 }
