@@ -54,9 +54,6 @@ int main(int argc, char** argv) {
         return EXIT_SUCCESS; // the one that runs comes forward
     QApplication::setApplicationName(u"velmora"_s);
     QApplication::setDesktopFileName(u"velmora"_s);
-    // Each movement with its own time: LocalMouseMonitor thins them out, and a flick's speed lies
-    // in the last two.
-    QApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     // As Qt does: from here on the thread below and Qt see the same.
     std::setlocale(LC_ALL, "");
     // Qt reads the fonts' configuration when it draws the first text; beside the start of the rest

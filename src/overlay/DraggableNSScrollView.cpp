@@ -76,7 +76,7 @@ void DraggableNSScrollView::handleMouseEvent(const LocalMouseEvent& event) {
         break;
     case Kind::leftMouseUp:
         if (isDraggingMode_)
-            startDeceleration(point.x() - lastDragPoint_.x());
+            startDeceleration(event.movement.x());
         isDraggingMode_ = false;
         break;
     }

@@ -1,11 +1,9 @@
 #include "viewkit/LocalMouseMonitor.h"
 
-#include "viewkit/DragThrottle.h"
+#include "viewkit/VelocityTracker.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>
-#include <QPointer>
-#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -15,9 +13,6 @@ namespace velmora {
 class LocalMouseMonitor::Filter : public QObject {
 public:
     explicit Filter(Handler handler) : handler_(std::move(handler)) {
-        timer_.setSingleShot(true);
-        timer_.setTimerType(Qt::PreciseTimer);
-        timer_.callOnTimeout([this] { deliverPending(); });
         qApp->installEventFilter(this);
     }
 
@@ -31,44 +26,30 @@ public:
     }
 
 private:
-    using Kind = LocalMouseEvent::Kind;
-
-    void handle(QWindow& window, const QMouseEvent& event) {
-        if (event.type() == QEvent::MouseMove) {
-            if (event.buttons() & Qt::LeftButton)
-                move(window, event);
-        } else if (event.button() == Qt::LeftButton) {
-            throttle_.reset();
-            timer_.stop();
-            const bool down = event.type() == QEvent::MouseButtonPress;
-            window_ = QWidget::find(window.winId());
-            handler_({down ? Kind::leftMouseDown : Kind::leftMouseUp, window_, event.position()});
-        }
-    }
-
-    void move(QWindow& window, const QMouseEvent& event) {
-        window_ = QWidget::find(window.winId());
-        const auto position = throttle_.move(event.position(), event.timestamp());
-        if (const auto remaining = throttle_.remaining(event.timestamp())) {
-            dueTime_ = event.timestamp() + *remaining;
-            timer_.start(static_cast<int>(*remaining));
+    void handle(const QWindow& window, const QMouseEvent& event) {
+        using Kind = LocalMouseEvent::Kind;
+        const bool isMove = event.type() == QEvent::MouseMove;
+        if (isMove ? !(event.buttons() & Qt::LeftButton) : event.button() != Qt::LeftButton)
+            return;
+        LocalMouseEvent seen{
+            .kind = Kind::leftMouseDragged,
+            .window = QWidget::find(window.winId()),
+            .locationInWindow = event.position()};
+        if (event.type() == QEvent::MouseButtonPress) {
+            seen.kind = Kind::leftMouseDown;
+            tracker_.press(event.position(), event.timestamp());
         } else {
-            timer_.stop();
+            tracker_.move(event.position(), event.timestamp());
         }
-        if (position)
-            handler_({Kind::leftMouseDragged, window_, *position});
-    }
-
-    void deliverPending() {
-        if (const auto position = throttle_.takePending(dueTime_))
-            handler_({Kind::leftMouseDragged, window_, *position});
+        if (event.type() == QEvent::MouseButtonRelease) {
+            seen.kind = Kind::leftMouseUp;
+            seen.movement = tracker_.movement(event.timestamp());
+        }
+        handler_(seen);
     }
 
     Handler handler_;
-    DragThrottle throttle_;
-    QTimer timer_;
-    QPointer<QWidget> window_;
-    quint64 dueTime_ = 0;
+    VelocityTracker tracker_;
 };
 
 LocalMouseMonitor::LocalMouseMonitor(Handler handler)

@@ -14,11 +14,13 @@ struct LocalMouseEvent {
     Kind kind;
     QWidget* window;          ///< the top-level widget that the event is for; null when unknown
     QPointF locationInWindow; ///< points, origin at the window's top left
+    /// Of a release: the points that the pointer moves in 16 ms at its speed of that moment, on any
+    /// mouse; none when it rested.
+    QPointF movement = {};
 };
 
 /// Watches the left mouse button in all windows of the application, before any view, and passes
-/// every event on. Drags are reported at most once per 16 ms; motion still pending at the release
-/// is not reported. Ends with the object. Main thread only.
+/// every event on. Ends with the object. Main thread only.
 class LocalMouseMonitor {
 public:
     /// The handler must not destroy the monitor.

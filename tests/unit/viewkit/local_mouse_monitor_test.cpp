@@ -1,7 +1,6 @@
 #include "viewkit/LocalMouseMonitor.h"
 
 #include "support/Mouse.h"
-#include "support/TestDisplay.h"
 
 #include <gmock/gmock.h>
 #include <optional>
@@ -16,6 +15,7 @@ using testing::ElementsAre;
 struct Seen {
     Kind kind;
     double x;
+    double movement;
     bool operator==(const Seen&) const = default;
 };
 
@@ -39,32 +39,32 @@ protected:
     std::optional<LocalMouseMonitor> monitor{
         LocalMouseMonitor([this](const LocalMouseEvent& event) {
             EXPECT_EQ(event.window, &window);
-            seen.push_back({event.kind, event.locationInWindow.x()});
+            seen.push_back({event.kind, event.locationInWindow.x(), event.movement.x()});
         })};
 };
 
-TEST_F(LocalMouseMonitorTest, ThinsOutDragsForItselfAloneAndLeavesTheLastToTheRelease) {
+TEST_F(LocalMouseMonitorTest, HandsOnEachDragAndWithTheReleaseTheMovement) {
+    for (const quint64 rest : {7, 40}) {
+        seen.clear();
+        window.events = 0;
+        mouse.press({10, 5});
+        for (const double x : {14, 18, 22}) {
+            mouse.now += 8;
+            mouse.drag({x, 5});
+        }
+        mouse.now += rest;
+        mouse.release({22, 5});
+        EXPECT_THAT(
+            seen, ElementsAre(
+                      Seen{Kind::leftMouseDown, 10, 0}, Seen{Kind::leftMouseDragged, 14, 0},
+                      Seen{Kind::leftMouseDragged, 18, 0}, Seen{Kind::leftMouseDragged, 22, 0},
+                      Seen{Kind::leftMouseUp, 22, rest == 7 ? 8.0 : 0.0}));
+        EXPECT_EQ(window.events, 5) << "views see every event";
+    }
     mouse.press({10, 5});
-    for (int x = 11; x <= 16; ++x, mouse.now += 8)
-        mouse.drag({double(x), 5});
-    mouse.release({17, 5});
-    mouse.now += 100;
-    QCoreApplication::processEvents();
-    EXPECT_THAT(
-        seen, ElementsAre(
-                  Seen{Kind::leftMouseDown, 10}, Seen{Kind::leftMouseDragged, 11},
-                  Seen{Kind::leftMouseDragged, 13}, Seen{Kind::leftMouseDragged, 15},
-                  Seen{Kind::leftMouseUp, 17}));
-    EXPECT_EQ(window.events, 8) << "views see every event";
-}
-
-TEST_F(LocalMouseMonitorTest, DeliversPendingMotionOnceThePointerRests) {
-    mouse.press({10, 5});
-    mouse.drag({20, 5});
-    mouse.now += 8;
-    mouse.drag({28, 5});
-    ASSERT_TRUE(test::waitFor([this] { return seen.size() == 3; }));
-    EXPECT_EQ(seen.back(), (Seen{Kind::leftMouseDragged, 28}));
+    mouse.now += 16;
+    mouse.release({40, 5});
+    EXPECT_EQ(seen.back().movement, 30) << "the release moved, too";
 }
 
 TEST_F(LocalMouseMonitorTest, IgnoresPlainMotionAndEndsWithTheToken) {
