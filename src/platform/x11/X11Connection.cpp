@@ -22,6 +22,13 @@ namespace {
     std::_Exit(EXIT_FAILURE);
 }
 
+/// A request that the server refused, and nobody asked how it went: a fault of ours.
+void logError(const xcb_generic_error_t& error) {
+    Log::write(u"⚠️ X error %1, request %2.%3, resource 0x%4"_s.arg(
+        QString::number(error.error_code), QString::number(error.major_code),
+        QString::number(error.minor_code), QString::number(error.resource_id, 16)));
+}
+
 QtMessageHandler previousHandler = nullptr;
 int watchedDescriptor = -1;
 
@@ -130,6 +137,10 @@ void X11Connection::deliverEvents() {
         return;
     delivering_ = true;
     while (const XcbOwned<xcb_generic_event_t> event{xcb_poll_for_event(connection_)}) {
+        if (event->response_type == 0) {
+            logError(reinterpret_cast<const xcb_generic_error_t&>(*event));
+            continue;
+        }
         for (auto listener = listeners_.begin(); listener != listeners_.end(); ++listener) {
             // A copy: the listener may end its own subscription while it runs.
             if (const Listener current = *listener)

@@ -33,7 +33,8 @@ public:
     /// The atom called `name`, asked for once.
     xcb_atom_t atom(const QByteArray& name);
 
-    /// Called for each event, and each error of an unchecked request, on the main thread.
+    /// Called for each event, on the main thread. Errors of unchecked requests go to the log: where
+    /// one is to be expected (a window of another client may have gone), use a checked request.
     using Listener = std::function<void(const xcb_generic_event_t& event)>;
 
     /// Keeps a listener registered; destroying it ends that.
