@@ -3,8 +3,9 @@
 # Applies warnings, sanitizers and the Qt definitions to TARGET.
 function(velmora_compile_options target)
     target_compile_options(
-        ${target} PRIVATE -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor
-                          -Woverloaded-virtual -Wcast-qual -Wimplicit-fallthrough)
+        ${target} PRIVATE -Wall -Wextra -Wpedantic $<$<BOOL:${VELMORA_WARNINGS_AS_ERRORS}>:-Werror>
+                          -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
+                          -Wimplicit-fallthrough)
     target_compile_definitions(
         ${target} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
                           QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400)
