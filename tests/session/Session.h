@@ -1,12 +1,12 @@
 #pragma once
 
 #include "model/ShortcutButton.h"
+#include "session/Program.h"
 #include "support/Desktop.h"
 #include "support/Driver.h"
 #include "support/TestDisplay.h"
 #include "support/Witness.h"
 
-#include <QProcessEnvironment>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <functional>
@@ -15,7 +15,9 @@
 
 namespace velmora::test {
 
-/// A desktop session with a home of its own, in which the real program runs.
+/// A desktop session with a home of its own, in which the real program runs. When it is over, the
+/// test fails if the program did not end as it should, or if its log holds a sanitizer's report or
+/// an error of the X server.
 class Session {
 public:
     struct Options {
@@ -31,20 +33,25 @@ public:
     ~Session();
 
     enum class Launch { UntilTheBarIsThere, WithoutWaiting };
-    /// Starts the program. Without `agreed` there is no bar to wait for.
+    /// Starts the program, after the end of the one launched before. Without `agreed` there is no
+    /// bar to wait for.
     void launch(Launch launch = Launch::UntilTheBarIsThere);
-    QProcess& program() { return *program_; }
+    /// The program launched last.
+    Program& program() { return *program_; }
+    /// Starts the program once more beside it.
+    std::unique_ptr<Program> launchAnother() const;
+    /// Looks at the end of an instance that the program started in its place.
+    static void expectEndOfSuccessor(qint64 processId);
 
-    /// The program's file and what it is started with, to start it again.
-    static QString programFile();
+    /// What programs of this session are started with.
     QProcessEnvironment environment() const;
 
     /// The home folder, and the file of the stored settings in it.
     QString home() const { return home_.path(); }
     QString settingsFile() const;
 
-    /// The log so far: standard error, without the time stamps.
-    QStringList log();
+    /// The log of all launches so far: standard error, without the time stamps.
+    QStringList log() const;
     /// Waits for a log line that equals `line`.
     bool waitForLog(const QString& line, int milliseconds = 10000);
 
@@ -61,6 +68,10 @@ public:
     bool isBarShown() { return !buttons().empty(); }
 
     void pressHotKey();
+
+    /// Returns when the program has handled everything that reached it before, so that what has not
+    /// happened by then does not happen any more. Needs the bar.
+    void settle();
 
     /// Waits until the settings window is the active one and has the keyboard focus.
     bool waitForSettings();
@@ -80,13 +91,14 @@ public:
     static QByteArray readFile(const QString& path);
 
 private:
+    QString logFile() const { return home() + QStringLiteral("/log"); }
+
     Options options_;
     QTemporaryDir home_;
     std::unique_ptr<TestDisplay> display_;
     std::unique_ptr<XClient> client_;
     std::unique_ptr<Driver> driver_;
-    std::unique_ptr<QProcess> program_;
-    QByteArray standardError_;
+    std::unique_ptr<Program> program_;
 };
 
 } // namespace velmora::test

@@ -13,36 +13,18 @@ using namespace velmora::test;
 
 namespace {
 
-/// One more launch in a session, ended with the object.
-class Launch {
-public:
-    explicit Launch(const Session& session) {
-        process_.setProcessEnvironment(session.environment());
-        process_.start(Session::programFile(), QStringList{});
-    }
-    ~Launch() {
-        process_.terminate();
-        process_.waitForFinished();
-    }
-
-    qint64 processId() const { return process_.processId(); }
-    bool isRunning() const { return process_.state() != QProcess::NotRunning; }
-    /// Waits until it has ended by itself with status 0.
-    bool hasYielded() {
-        return process_.waitForFinished(10000) && process_.exitStatus() == QProcess::NormalExit &&
-               process_.exitCode() == 0;
-    }
-
-private:
-    QProcess process_;
-};
-
 size_t bars(Session& session) {
     size_t count = 0;
     for (const TopWindow& window : topWindows(session.client()))
         count += window.overrideRedirect && window.mapped && window.processId != 0 &&
                  window.geometry.width() == session.client().screen().width_in_pixels;
     return count;
+}
+
+/// Waits until a launch has ended by itself, and looks at its end.
+void expectToYield(Program& launch) {
+    EXPECT_TRUE(launch.waitForFinished(10000));
+    launch.end();
 }
 
 /// The process that shows the one bar.
@@ -65,7 +47,7 @@ TEST(Instances, BeforeAgreementASecondLaunchBringsTheTermsForward) {
             witness.emplace();
             return waitFor([&] { return inputFocus(session.client()) == witness->window(); }, 1000);
         }));
-        EXPECT_TRUE(Launch(session).hasYielded());
+        expectToYield(*session.launchAnother());
         EXPECT_TRUE(waitFor([&] { return active() == terms; })) << round;
     }
 }
@@ -75,7 +57,6 @@ TEST(Instances, ACrashedOneBlocksNobody) {
     for (int round = 0; round < 3; ++round) {
         session.launch();
         session.program().kill();
-        session.program().waitForFinished();
     }
     session.launch();
     EXPECT_EQ(bars(session), 1U);
@@ -83,10 +64,10 @@ TEST(Instances, ACrashedOneBlocksNobody) {
 
 TEST(Instances, ALaunchTakesOverFromOneThatEnds) {
     Session session;
-    auto current = std::make_unique<Launch>(session);
+    auto current = session.launchAnother();
     for (int round = 0; round < 10; ++round) {
         ASSERT_TRUE(waitFor([&] { return barOf(session) == current->processId(); })) << round;
-        auto next = std::make_unique<Launch>(session);
+        auto next = session.launchAnother();
         current.reset(); // asked to end while the next one starts
         current = std::move(next);
     }
@@ -111,6 +92,7 @@ TEST(Instances, OneFollowsTheOtherWhenRestartedWithTheHotKeyGoingOn) {
     session.launch();
     auto before = barOf(session);
     ASSERT_TRUE(before);
+    std::vector<qint64> successors;
     const auto waitPressing = [&](const auto& condition) {
         return waitFor([&] {
             session.pressHotKey();
@@ -121,13 +103,15 @@ TEST(Instances, OneFollowsTheOtherWhenRestartedWithTheHotKeyGoingOn) {
         SCOPED_TRACE(round);
         // A second launch opens the settings. There the last button goes, and with no other chosen
         // it is two steps from the list to the restart button.
-        Launch second(session);
+        const auto second = session.launchAnother();
         ASSERT_TRUE(waitPressing(
-            [&] { return !second.isRunning() && focusedProcess(session.client()) == *before; }));
+            [&] { return !second->isRunning() && focusedProcess(session.client()) == *before; }));
         for (const char* const key : {"END", "DELE", "TAB", "TAB", "SPCE"})
             session.driver().tapKey(key);
         ASSERT_TRUE(waitPressing([&] { return barOf(session).value_or(*before) != *before; }));
         before = barOf(session);
+        ASSERT_TRUE(before);
+        successors.push_back(*before);
     }
     EXPECT_EQ(bars(session), 1U);
     // The key works, sooner or later: the last start may not be over.
@@ -139,9 +123,10 @@ TEST(Instances, OneFollowsTheOtherWhenRestartedWithTheHotKeyGoingOn) {
     EXPECT_FALSE(isAnythingDown(session.client()));
     const QSettings stored(session.settingsFile(), QSettings::IniFormat);
     EXPECT_EQ(stored.value(u"SavedShortcuts"_s).toByteArray(), encodedList(shortcuts.first(2)));
-    ASSERT_TRUE(before);
     ::kill(static_cast<pid_t>(*before), SIGTERM);
-    EXPECT_TRUE(waitFor([&] { return bars(session) == 0; }));
+    for (const qint64 successor : successors)
+        Session::expectEndOfSuccessor(successor);
+    EXPECT_EQ(bars(session), 0U);
 }
 
 TEST(Instances, ASecondLaunchBringsTheSettingsBeforeAnotherApplication) {
@@ -149,7 +134,7 @@ TEST(Instances, ASecondLaunchBringsTheSettingsBeforeAnotherApplication) {
         SCOPED_TRACE(windowManager.toStdString());
         Session session({.windowManager = windowManager});
         session.launch();
-        session.expectSettingsInFront([&] { EXPECT_TRUE(Launch(session).hasYielded()); });
+        session.expectSettingsInFront([&] { expectToYield(*session.launchAnother()); });
     }
 }
 

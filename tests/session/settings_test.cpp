@@ -83,7 +83,6 @@ TEST_F(SettingsTest, AnAddedButtonIsOnTheBarAtOnceAndOutlivesACrash) {
     EXPECT_TRUE(storedText().contains(u"{\"openURL\":{\"url\":\"xx\"}}"_s));
 
     session_.program().kill();
-    session_.program().waitForFinished();
     ASSERT_TRUE(waitFor([&] { return !session_.bar(); }));
     session_.launch();
     ASSERT_TRUE(waitForButtons(5));

@@ -41,8 +41,7 @@ TEST_F(Terms, OnlyTheTwoAnswersLeave) {
     session.driver().tapChord("LALT", "FK04");
     // A later key is answered after the earlier ones: the window is still there to answer it.
     session.driver().tapChord("LCTL", "AD01"); // Ctrl+Q
-    EXPECT_TRUE(waitFor([this] { return session.program().state() == QProcess::NotRunning; }));
-    EXPECT_EQ(session.program().exitCode(), 0);
+    EXPECT_TRUE(waitFor([this] { return !session.program().isRunning(); }));
     EXPECT_FALSE(agreed());
     EXPECT_FALSE(session.bar());
 }
@@ -52,7 +51,7 @@ TEST_F(Terms, ReturnAgreesAndTheBarComesUpInTheSameProcess) {
     session.driver().tapKey("RTRN");
     EXPECT_TRUE(waitFor([this] { return session.bar().has_value(); }));
     EXPECT_TRUE(agreed());
-    EXPECT_EQ(session.program().state(), QProcess::Running);
+    EXPECT_TRUE(session.program().isRunning());
     EXPECT_TRUE(waitFor([&] { return session.client().property(terms, "_NET_WM_STATE").empty(); }));
 }
 

@@ -1,6 +1,7 @@
 // main() of contract tests: a display with a window manager, and the application on it.
 
 #include "support/TestDisplay.h"
+#include "support/XErrors.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -17,6 +18,7 @@ int main(int argc, char** argv) {
     velmora::test::TestDisplay display;
     display.startWindowManager(QStringLiteral("openbox"));
     qputenv("QT_QPA_PLATFORM", "xcb");
+    velmora::test::failOnXErrors();
     QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -3,6 +3,7 @@
 #include "support/Desktop.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <xcb/xinput.h>
 #include <xcb/xtest.h>
 #define explicit explicitModifiers // a member's name in this header
@@ -19,7 +20,7 @@ QHash<QByteArray, uint8_t> readKeycodes(const XClient& client) {
         client, xcb_xkb_get_names(client, XCB_XKB_ID_USE_CORE_KBD, XCB_XKB_NAME_DETAIL_KEY_NAMES),
         nullptr));
     if (!reply)
-        qFatal("the keyboard has no names");
+        throw std::runtime_error("the keyboard has no names");
     xcb_xkb_get_names_value_list_t list;
     xcb_xkb_get_names_value_list_unpack(
         xcb_xkb_get_names_value_list(reply.get()), reply->nTypes, reply->indicators,
@@ -116,7 +117,7 @@ void Driver::tapChord(const QByteArray& modifier, const QByteArray& position) {
 uint8_t Driver::keycode(const QByteArray& position) const {
     const uint8_t keycode = keycodes_.value(position);
     if (keycode == 0)
-        qFatal("no key is called %s", position.constData());
+        throw std::runtime_error("no key is called " + position.toStdString());
     return keycode;
 }
 

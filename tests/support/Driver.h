@@ -29,7 +29,7 @@ public:
     /// Taps a key while a modifier key is held.
     void tapChord(const QByteArray& modifier, const QByteArray& position);
 
-    /// The keycode of a position; aborts the test program when there is none.
+    /// The keycode of a position; throws when there is none.
     uint8_t keycode(const QByteArray& position) const;
 
 private:

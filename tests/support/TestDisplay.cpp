@@ -1,6 +1,7 @@
 #include "support/TestDisplay.h"
 
 #include <poll.h>
+#include <stdexcept>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -25,7 +26,7 @@ TestDisplay::TestDisplay(int width, int height) {
     // Xvfb picks a free number and writes it to the pipe once it accepts clients.
     int pipe[2];
     if (::pipe(pipe) != 0)
-        qFatal("pipe failed");
+        throw std::runtime_error("pipe failed");
     auto xvfb = std::make_unique<QProcess>();
     xvfb->setProcessChannelMode(QProcess::SeparateChannels);
     xvfb->setStandardErrorFile(QProcess::nullDevice());
@@ -40,7 +41,7 @@ TestDisplay::TestDisplay(int width, int height) {
         number += byte;
     ::close(pipe[0]);
     if (number.isEmpty())
-        qFatal("Xvfb did not start");
+        throw std::runtime_error("Xvfb did not start");
     qputenv("DISPLAY", ':' + number);
     processes_.push_back(std::move(xvfb));
 }
@@ -64,7 +65,7 @@ QProcess& TestDisplay::start(
     process->setProcessEnvironment(environment);
     process->start(program, arguments);
     if (!process->waitForStarted())
-        qFatal("%s did not start", qPrintable(program));
+        throw std::runtime_error(program.toStdString() + " did not start");
     processes_.push_back(std::move(process));
     return *processes_.back();
 }
@@ -76,7 +77,7 @@ QProcess& TestDisplay::startWindowManager(const QString& program) {
         return run(u"xprop"_s, {u"-root"_s, u"_NET_SUPPORTING_WM_CHECK"_s}).contains("window id");
     });
     if (!running)
-        qFatal("%s did not take over", qPrintable(program));
+        throw std::runtime_error(program.toStdString() + " did not take over");
     return process;
 }
 
@@ -88,7 +89,7 @@ QProcessEnvironment TestDisplay::makeXfceEnvironment() {
     QProcess& bus =
         start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s}, environment);
     if (!waitFor([&] { return bus.waitForReadyRead(10) || bus.canReadLine(); }))
-        qFatal("no session bus");
+        throw std::runtime_error("no session bus");
     environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromUtf8(bus.readLine().trimmed()));
     run(u"xfconf-query"_s,
         {u"-c"_s, u"xfwm4"_s, u"-p"_s, u"/general/prevent_focus_stealing"_s, u"-n"_s, u"-t"_s,

@@ -12,7 +12,7 @@ namespace velmora::test {
 /// A virtual X display of its own on a free number, ended with the object. Sets DISPLAY.
 class TestDisplay {
 public:
-    /// Size in pixels. Aborts the test program when Xvfb does not start.
+    /// Size in pixels. Throws when Xvfb does not start.
     explicit TestDisplay(int width = 1512, int height = 982);
     ~TestDisplay();
 
@@ -39,7 +39,7 @@ private:
     std::vector<std::unique_ptr<QProcess>> processes_;
 };
 
-/// Polls `condition` every few milliseconds, running this thread's event loop, until it holds or
+/// Runs this thread's event loop until `condition` holds, looked at every few milliseconds, or
 /// `milliseconds` have passed.
 template<typename Condition>
 bool waitFor(Condition condition, int milliseconds = 10000);
@@ -49,16 +49,24 @@ bool waitFor(Condition condition, int milliseconds = 10000);
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QThread>
+#include <QTimer>
 
 template<typename Condition>
 bool velmora::test::waitFor(Condition condition, int milliseconds) {
+    constexpr int interval = 3;
     const QDeadlineTimer deadline(milliseconds);
+    // The loop blocks between two looks, as a program's does: whoever has to act before it sleeps
+    // (events that a reply had put into a queue wake nobody) gets to it.
+    QTimer wakeUp;
+    if (QCoreApplication::instance())
+        wakeUp.start(interval);
     while (!condition()) {
         if (deadline.hasExpired())
             return false;
         if (QCoreApplication::instance())
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        QThread::msleep(2);
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        else
+            QThread::msleep(interval);
     }
     return true;
 }

@@ -4,6 +4,7 @@
 #include "support/TestDisplay.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <xkbcommon/xkbcommon-x11.h>
 
 namespace velmora::test {
@@ -50,7 +51,7 @@ Witness::Witness(const QRect& geometry) : window_(xcb_generate_id(client_)) {
         return waitFor(takeFocus, 500);
     });
     if (!focused)
-        qFatal("the witness window does not get the focus");
+        throw std::runtime_error("the witness window does not get the focus");
     clear();
 }
 

@@ -17,7 +17,7 @@ public:
         uint16_t state; ///< modifiers and buttons just before it; the mode of a focus event
     };
 
-    /// Maps the window and takes the focus; aborts the test program when it cannot. Pixels.
+    /// Maps the window and takes the focus; throws when it cannot. Pixels.
     explicit Witness(const QRect& geometry = QRect(100, 200, 400, 300));
     ~Witness();
 

@@ -1,12 +1,12 @@
 #include "support/XClient.h"
 
-#include <QtGlobal>
+#include <stdexcept>
 
 namespace velmora::test {
 
 XClient::XClient() : connection_(xcb_connect(nullptr, nullptr)) {
     if (xcb_connection_has_error(connection_))
-        qFatal("cannot reach the display");
+        throw std::runtime_error("cannot reach the display");
     screen_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data;
 }
 

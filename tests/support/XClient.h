@@ -18,7 +18,7 @@ using Reply = std::unique_ptr<T, Freed>;
 /// A connection of its own to the display in the environment, as another program would have it.
 class XClient {
 public:
-    /// Aborts the test program when the display cannot be reached.
+    /// Throws when the display cannot be reached.
     XClient();
     ~XClient() { xcb_disconnect(connection_); }
     XClient(const XClient&) = delete;

@@ -1,9 +1,8 @@
-// The program's display and application, and the sessions that its tests run in.
-
 #include "contract/panel/SessionTest.h"
 
+#include "support/XErrors.h"
+
 #include <QApplication>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -13,10 +12,7 @@ namespace velmora::test {
 TestDisplay* display = nullptr;
 
 std::vector<const char*> sessions() {
-    std::vector<const char*> names{"none", "openbox", "xfwm4"};
-    if (!QStandardPaths::findExecutable(u"picom"_s).isEmpty())
-        names.push_back("openbox+picom");
-    return names;
+    return {"none", "openbox", "xfwm4", "openbox+picom"};
 }
 
 SessionTest::SessionTest() {
@@ -60,6 +56,7 @@ int main(int argc, char** argv) {
     velmora::test::TestDisplay display(
         velmora::test::displaySize.width(), velmora::test::displaySize.height());
     velmora::test::display = &display;
+    velmora::test::failOnXErrors();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
