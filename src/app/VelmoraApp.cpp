@@ -5,15 +5,23 @@
 #include "app/TerminationSignals.h"
 #include "foundation/HelperPath.h"
 #include "foundation/LocalizedString.h"
+#include "foundation/Log.h"
 #include "platform/KeyboardEvents.h"
 #include "platform/Platform.h"
 #include "platform/SingleInstance.h"
 #include "viewkit/AccessibleViews.h"
 
 #include <QApplication>
+#include <QThreadPool>
 #include <QTimer>
+#include <cstdlib>
 
 namespace velmora {
+
+namespace {
+constexpr int poolThreads = 8;             // they wait for disks rather than for processors
+constexpr int longestWaitForThreads = 200; // milliseconds
+} // namespace
 
 std::unique_ptr<AppDelegate> VelmoraApp::appDelegate;
 
@@ -26,6 +34,7 @@ int VelmoraApp::main() {
         qunsetenv(variable);
     installLocalizedStrings();
     installAccessibleViews();
+    QThreadPool::globalInstance()->setMaxThreadCount(poolThreads);
     appDelegate = std::make_unique<AppDelegate>();
     QTimer::singleShot(0, appDelegate.get(), &AppDelegate::applicationDidFinishLaunching);
     new AfterFirstPaint(QCoreApplication::instance(), [] {
@@ -35,6 +44,11 @@ int VelmoraApp::main() {
     // A launch from here on must not count on this instance.
     Platform::current().singleInstance.makeRoom();
     appDelegate.reset();
+    // A scan or the reading of an icon may hang on a disk that does not answer.
+    if (!QThreadPool::globalInstance()->waitForDone(longestWaitForThreads)) {
+        Log::flush();
+        std::_Exit(status);
+    }
     return status;
 }
 

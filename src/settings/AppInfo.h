@@ -21,8 +21,8 @@ struct AppInfo {
           path(std::move(location)),
           iconName(std::move(icon)) {}
 
-    /// The application's icon, null when it has none that is fit to be shown. Main thread only; may
-    /// read the disk.
+    /// The application's icon as the theme has it, null when the theme has none; a picture in a
+    /// file of its own is AppIcons' to read. Main thread only; opens no picture.
     QIcon getIcon() const;
 
     bool operator==(const AppInfo& other) const { return bundleId == other.bundleId; }

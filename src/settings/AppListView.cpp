@@ -17,7 +17,7 @@ namespace {
 
 constexpr int rowSpacing = 2;
 constexpr int verticalPadding = 4;
-/// How long loading icons may hold the main thread before it lets events in.
+/// How long looking up icons may hold the main thread before it lets events in.
 constexpr int sliceMilliseconds = 5;
 
 } // namespace
@@ -101,6 +101,7 @@ AppListView::AppListView(AppListModel& model) : model_(model), buttonLook_(this)
     connect(
         selectionModel(), &QItemSelectionModel::selectionChanged, this, &AppListView::pickSelected,
         Qt::QueuedConnection);
+    connect(&icons_, &AppIcons::loaded, viewport(), qOverload<>(&QWidget::update));
     iconTimer_.setSingleShot(true);
     iconTimer_.setInterval(0ms);
     connect(&iconTimer_, &QTimer::timeout, this, &AppListView::loadSomeIcons);
@@ -171,7 +172,6 @@ void AppListView::loadSomeIcons() {
             return;
         }
         icons_.load(*app, ratio);
-        update(index);
     }
 }
 

@@ -12,7 +12,7 @@ class AppListModel;
 struct AppInfo;
 
 /// The scrolling list of the application chooser. Only visible rows are drawn, and only their icons
-/// are loaded, after the rows were first shown and in slices short enough to go unnoticed.
+/// are looked up, after the rows were first shown and in slices short enough to go unnoticed.
 class AppListView : public QListView {
     Q_OBJECT
 public:

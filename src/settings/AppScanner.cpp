@@ -1,5 +1,6 @@
 #include "settings/AppScanner.h"
 
+#include "foundation/WholeFile.h"
 #include "platform/Platform.h"
 #include "settings/PropertyList.h"
 
@@ -17,7 +18,7 @@ namespace velmora {
 namespace {
 
 /// Bytes of an information dictionary; real ones stay far below.
-constexpr qint64 sizeLimit = 4 * 1024 * 1024;
+constexpr qint64 sizeLimit = 1024 * 1024;
 
 const QSet<QString> popularBundleIds = {
     u"com.apple.Safari"_s,        u"com.apple.finder"_s,
@@ -40,19 +41,17 @@ fs::path informationDictionary(const fs::path& bundle) {
 }
 
 std::optional<AppInfo> getAppInfo(const fs::path& bundle) {
-    const fs::path path = informationDictionary(bundle);
-    std::error_code ignored;
-    if (!fs::is_regular_file(path, ignored))
+    const auto bytes =
+        wholeFile(QByteArray::fromStdString(informationDictionary(bundle).native()), sizeLimit);
+    if (!bytes)
         return {};
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > sizeLimit)
+    const QString identifierKey = u"CFBundleIdentifier"_s;
+    const QString nameKey = u"CFBundleName"_s;
+    const auto information = propertyListStrings(*bytes, {identifierKey, nameKey});
+    const QString identifier = information.value(identifierKey);
+    if (identifier.isEmpty() || !information.contains(nameKey))
         return {};
-    const auto information = propertyListStrings(file.read(sizeLimit));
-    const QString identifier = information.value(u"CFBundleIdentifier"_s);
-    const auto name = information.constFind(u"CFBundleName"_s);
-    if (identifier.isEmpty() || name == information.cend())
-        return {};
-    return AppInfo(*name, identifier, QFile::decodeName(bundle.c_str()));
+    return AppInfo(information.value(nameKey), identifier, QFile::decodeName(bundle.c_str()));
 }
 
 /// A folder whose content is nobody's business but its own.

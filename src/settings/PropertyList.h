@@ -3,11 +3,13 @@
 #include <QByteArray>
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 namespace velmora {
 
-/// The string values of the top-level dictionary of a property list, XML or binary; values of other
-/// types are left out. Empty when `data` is neither.
-QHash<QString, QString> propertyListStrings(const QByteArray& data);
+/// The string values that the top-level dictionary of a property list, XML or binary, has under
+/// `keys`; of several under one key the first. Values of other types, or longer than any name is,
+/// are left out. Empty when `data` is neither form, or XML with an error before the last of `keys`.
+QHash<QString, QString> propertyListStrings(const QByteArray& data, const QStringList& keys);
 
 } // namespace velmora

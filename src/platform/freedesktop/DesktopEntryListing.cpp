@@ -1,12 +1,12 @@
 #include "platform/freedesktop/DesktopEntryListing.h"
 
+#include "foundation/WholeFile.h"
 #include "platform/freedesktop/DesktopEntryFile.h"
 
 #include <QFile>
 #include <QHash>
 #include <QSet>
 #include <QStandardPaths>
-#include <fcntl.h>
 #include <filesystem>
 #include <set>
 #include <sys/stat.h>
@@ -31,20 +31,6 @@ QByteArrayList localesOfSession() {
     if (locale.isEmpty() || locale == "C" || locale == "POSIX")
         return {}; // LANGUAGE counts only beside a locale
     return qgetenv("LANGUAGE").split(':') << locale;
-}
-
-/// The bytes of the regular file at `path`; nothing when it is unreadable or too large.
-std::optional<QByteArray> contents(const fs::path& path) {
-    // A pipe by that name must not hold us: no blocking, and no reading of what is no file.
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    QFile file;
-    if (descriptor < 0 ||
-        !file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle))
-        return {};
-    struct stat status {};
-    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > sizeLimit)
-        return {};
-    return file.read(status.st_size);
 }
 
 bool isProgram(const QByteArray& path) {
@@ -96,7 +82,7 @@ private:
         if (seen_.contains(identifier))
             return;
         seen_.insert(identifier);
-        const auto text = contents(path);
+        const auto text = wholeFile(QByteArray::fromStdString(path.native()), sizeLimit);
         if (!text)
             return;
         auto entry = DesktopEntryFile::parse(std::string_view(*text), listing_.languages);

@@ -2,6 +2,8 @@
 
 #include "settings/PropertyList.h"
 
+#include <QElapsedTimer>
+#include <QtEndian>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -35,26 +37,27 @@ QByteArray binaryList() {
     return data;
 }
 
-TEST(PropertyList, ReadsTopLevelStrings) {
+const QStringList wanted{u"CFBundleIdentifier"_s, u"CFBundleName"_s};
+
+TEST(PropertyList, ReadsTheWantedTopLevelStrings) {
     const Strings expected{{u"CFBundleName"_s, u"Ä"_s}, {u"CFBundleIdentifier"_s, u"org.x"_s}};
     const QByteArray xml = R"(<?xml version="1.0" encoding="UTF-8"?>
-<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">
+<!DOCTYPE plist SYSTEM "PropertyList-1.0.dtd">
 <plist version="1.0"><dict>
-  <key>CFBundleName</key><string>Ä</string>
   <key>Types</key><array><dict><key>CFBundleName</key><string>inner</string></dict></array>
+  <key>CFBundleName</key><string>Ä</string>
+  <key>CFBundleName</key><string>again</string><key>other</key><string>text</string>
   <key>n</key><true/>
   <key>CFBundleIdentifier</key><string>org.x</string>
 </dict></plist>)";
-    EXPECT_EQ(propertyListStrings(xml), expected);
-    EXPECT_EQ(propertyListStrings(binaryList()), expected);
-}
-
-TEST(PropertyList, DamagedXmlGivesNothing) {
+    EXPECT_EQ(propertyListStrings(xml, wanted), expected);
+    EXPECT_EQ(propertyListStrings(binaryList(), wanted), expected);
+    EXPECT_EQ(propertyListStrings(binaryList(), {u"n"_s}), Strings()) << "no string";
     for (const char* text :
          {"", "x", "<plist/>", "<plist><array/></plist>", "<other><dict/></other>",
-          "<plist><dict><key>a</key><string>b</string>",
+          "<plist><dict><key>CFBundleName</key><string>b</string>",
           "<plist><dict><key><b/></key></dict></plist>"})
-        EXPECT_EQ(propertyListStrings(text), Strings()) << text;
+        EXPECT_EQ(propertyListStrings(text, wanted), Strings()) << text;
 }
 
 // Run with the sanitizers: whatever a byte says, nothing outside the data is read.
@@ -64,11 +67,36 @@ TEST(PropertyList, DamagedBinaryIsHarmless) {
         for (const int value : {0x00, 0x01, 0x5f, 0x6f, 0x7f, 0xdf, 0xff}) {
             QByteArray damaged = whole;
             damaged[i] = char(value);
-            propertyListStrings(damaged);
+            propertyListStrings(damaged, wanted);
         }
-        propertyListStrings(whole.left(i));
+        EXPECT_EQ(propertyListStrings(whole.left(i), wanted), Strings());
     }
-    EXPECT_EQ(propertyListStrings("bplist00"), Strings());
+}
+
+// A million references to one long text, as key and as value, in XML as many attributes.
+TEST(PropertyList, TakesNoLongerThanItIsLong) {
+    constexpr int count = 240'000;
+    const auto number = [](quint32 value) {
+        value = qToBigEndian(value);
+        return QByteArray(reinterpret_cast<const char*>(&value), sizeof value);
+    };
+    const QByteArray objects = "bplist00\x6f\x12" + number(100'000) + QByteArray(200'000, 'a');
+    const QByteArray dictionary = "\xdf\x12" + number(count / 2);
+    const QByteArray table = number(8) + number(quint32(objects.size()));
+    const QByteArray references(qsizetype(count) * 4, '\0'); // all to object 0
+    const QByteArray binary =
+        objects + dictionary + references + table + QByteArray(6, '\0') + "\x04\x04" +
+        QByteArray(4, '\0') + number(2) + QByteArray(4, '\0') + number(1) + QByteArray(4, '\0') +
+        number(quint32(objects.size() + dictionary.size() + references.size()));
+    QByteArray xml = "<plist";
+    for (int i = 0; xml.size() < 1'000'000; ++i)
+        xml += " a" + QByteArray::number(i) + "=''";
+    for (const QByteArray& list : {binary, xml + "><dict/></plist>"}) {
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_EQ(propertyListStrings(list, wanted), Strings());
+        EXPECT_LT(timer.elapsed(), 5000) << list.left(8).constData();
+    }
 }
 
 } // namespace
