@@ -18,7 +18,8 @@
 #include "viewkit/PopupMenu.h"
 #include "viewkit/WindowTheme.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QPalette>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
@@ -63,8 +64,11 @@ void AppDelegate::checkTermsAndStart() {
     // Asked with the first window or menu: the bar does not need it, and asking the desktop costs
     // time and memory.
     WindowTheme::setSchemeSource([] {
-        Platform::current().appearance.observe([](bool prefersDark) {
-            WindowTheme::setColorScheme(prefersDark ? ColorScheme::dark : ColorScheme::light);
+        // While it is the desktop's: the first window brings its own.
+        const bool isDark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
+        Platform::current().appearance.observe([isDark](std::optional<bool> prefersDark) {
+            WindowTheme::setColorScheme(
+                prefersDark.value_or(isDark) ? ColorScheme::dark : ColorScheme::light);
         });
     });
     if (hasAgreed()) {

@@ -4,6 +4,7 @@
 #include "app/VelmoraApp.h"
 #include "foundation/HomeFolder.h"
 #include "foundation/Log.h"
+#include "platform/EitherAppearance.h"
 #include "platform/EitherTrayHost.h"
 #include "platform/Platform.h"
 #include "platform/SingleInstance.h"
@@ -62,7 +63,8 @@ int main(int argc, char** argv) {
     // Before the application object, whose end waits for the threads that use it.
     LateWorkspace workspace;
     QApplication application(argc, argv);
-    LateAppearance appearance;
+    LateAppearance lateAppearance;
+    EitherAppearance appearance(lateAppearance, session->appearance());
     StatusNotifierTrayHost statusNotifierTrayHost;
     EitherTrayHost trayHost(statusNotifierTrayHost, session->trayHost());
     const Platform platform{

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 namespace velmora {
 
@@ -9,9 +10,12 @@ class Appearance {
 public:
     virtual ~Appearance() = default;
 
-    /// Calls `handler(prefersDark)` now, as far as it is known, and again whenever it changes. On
+    /// Whether dark windows are preferred; nothing without a preference.
+    using Handler = std::function<void(std::optional<bool> prefersDark)>;
+
+    /// Calls `handler` now, as far as the preference is known, and again whenever it changes. On
     /// the main thread; at most one handler.
-    virtual void observe(std::function<void(bool prefersDark)> handler) = 0;
+    virtual void observe(Handler handler) = 0;
 };
 
 } // namespace velmora

@@ -45,7 +45,7 @@ void loadGio() {
     services();
 }
 
-void LateAppearance::observe(std::function<void(bool prefersDark)> handler) {
+void LateAppearance::observe(Handler handler) {
     if (services())
         services()->appearance.observe(std::move(handler));
 }

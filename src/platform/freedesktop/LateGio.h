@@ -13,7 +13,7 @@ void loadGio();
 
 class LateAppearance : public Appearance {
 public:
-    void observe(std::function<void(bool prefersDark)> handler) override;
+    void observe(Handler handler) override;
 };
 
 class LateWorkspace : public Workspace {

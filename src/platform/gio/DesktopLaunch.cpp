@@ -105,8 +105,8 @@ Failure launch(Entry entry, GList* urls) {
     // In a session of its own, Ctrl+C in the terminal that we were started from does not reach it.
     GioError error;
     const bool started = g_desktop_app_info_launch_uris_as_manager(
-        entry.get(), urls, nullptr, G_SPAWN_SEARCH_PATH, [](gpointer) { ::setsid(); },
-        nullptr, nullptr, nullptr, error.out());
+        entry.get(), urls, nullptr, G_SPAWN_SEARCH_PATH, [](gpointer) { ::setsid(); }, nullptr,
+        nullptr, nullptr, error.out());
     if (!started)
         return error.message();
     return std::nullopt;

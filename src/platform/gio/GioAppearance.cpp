@@ -14,6 +14,7 @@ constexpr auto portalInterface = "org.freedesktop.portal.Settings";
 constexpr auto portalNamespace = "org.freedesktop.appearance";
 constexpr auto portalKey = "color-scheme";
 constexpr unsigned portalPrefersDark = 1;
+constexpr unsigned portalPrefersLight = 2;
 
 constexpr auto gnomeSchema = "org.gnome.desktop.interface";
 constexpr auto gnomeKey = "color-scheme";
@@ -32,7 +33,7 @@ std::optional<unsigned> unwrapped(GVariant* value) {
 
 /// What the answers come from. Handlers run on the main thread, from GLib's main context.
 struct Sources {
-    std::function<void(bool)> handler;
+    Appearance::Handler handler;
     GSettings* gnome = nullptr;
     bool portalAnswered = false;
 
@@ -40,13 +41,17 @@ struct Sources {
         if (portalAnswered)
             return;
         char* value = g_settings_get_string(gnome, gnomeKey);
-        handler(g_strcmp0(value, "prefer-dark") == 0);
+        tell(g_strcmp0(value, "prefer-dark") == 0, g_strcmp0(value, "prefer-light") == 0);
         g_free(value);
     }
 
     void portalSays(unsigned preference) {
         portalAnswered = true;
-        handler(preference == portalPrefersDark);
+        tell(preference == portalPrefersDark, preference == portalPrefersLight);
+    }
+
+    void tell(bool prefersDark, bool prefersLight) const {
+        handler(prefersDark || prefersLight ? std::optional(prefersDark) : std::nullopt);
     }
 
     void openGnome() {
@@ -115,7 +120,7 @@ struct Sources {
 
 } // namespace
 
-void GioAppearance::observe(std::function<void(bool prefersDark)> handler) {
+void GioAppearance::observe(Handler handler) {
     // Never destroyed, like the service itself: they may speak at any time.
     auto* const sources = new Sources{.handler = std::move(handler)};
     sources->openGnome();

@@ -1,6 +1,7 @@
 #include "platform/x11/X11Session.h"
 
 #include "platform/x11/X11Accessibility.h"
+#include "platform/x11/X11Appearance.h"
 #include "platform/x11/X11EventTaps.h"
 #include "platform/x11/X11Keyboard.h"
 #include "platform/x11/X11KeyboardEvents.h"
@@ -16,6 +17,7 @@ namespace velmora {
 struct X11Session::Services {
     explicit Services(X11Connection& connection)
         : accessibility(connection),
+          appearance(connection),
           keyboard(connection),
           eventTaps(connection, keyboard),
           keyboardEvents(connection, keyboard),
@@ -27,6 +29,7 @@ struct X11Session::Services {
     }
 
     X11Accessibility accessibility;
+    X11Appearance appearance;
     X11Keyboard keyboard;
     X11EventTaps eventTaps;
     X11KeyboardEvents keyboardEvents;
@@ -57,6 +60,10 @@ X11Session::Services& X11Session::services() {
 
 Accessibility& X11Session::accessibility() {
     return services().accessibility;
+}
+
+Appearance& X11Session::appearance() {
+    return services().appearance;
 }
 
 EventTaps& X11Session::eventTaps() {

@@ -5,6 +5,7 @@
 namespace velmora {
 
 class Accessibility;
+class Appearance;
 class EventTaps;
 class KeyboardEvents;
 class PanelWindows;
@@ -23,6 +24,7 @@ public:
     ~X11Session();
 
     Accessibility& accessibility();
+    Appearance& appearance();
     EventTaps& eventTaps();
     KeyboardEvents& keyboardEvents();
     PanelWindows& panelWindows();
