@@ -1,11 +1,14 @@
 #include "platform/gio/GioWorkspace.h"
 
+#include "platform/EitherAppearance.h"
 #include "platform/freedesktop/ApplicationRoles.h"
+#include "platform/gio/GioAppearance.h"
 
 #include "ApplicationsFolder.h"
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
+#include <QDBusVariant>
 #include <QUrl>
 #include <QVariantMap>
 #include <sys/wait.h>
@@ -162,6 +165,51 @@ public Q_SLOTS:
     void Activate(const QVariantMap&) { ++activations; }
 };
 
+/// A desktop portal that knows the colour scheme.
+class Portal : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+public:
+    explicit Portal(QObject* parent) : QDBusAbstractAdaptor(parent) {}
+    uint scheme = 1;
+public Q_SLOTS:
+    QDBusVariant Read(const QString&, const QString&) {
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(scheme)));
+    }
+Q_SIGNALS:
+    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+};
+
+/// A session bus of its own, with `object` on it.
+class Bus {
+public:
+    Bus(const QString& name, const QString& path, QObject& object) {
+        process_.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
+        EXPECT_TRUE(process_.waitForReadyRead());
+        const QByteArray address = process_.readLine().trimmed();
+        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+        QDBusConnection connection =
+            QDBusConnection::connectToBus(QString::fromLatin1(address), name);
+        EXPECT_TRUE(connection.registerObject(path, &object));
+        EXPECT_TRUE(connection.registerService(name));
+        name_ = name;
+    }
+    /// The bus goes away; the address stays.
+    void end() {
+        QDBusConnection::disconnectFromBus(name_);
+        process_.terminate();
+        process_.waitForFinished();
+    }
+    ~Bus() {
+        end();
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+    }
+
+private:
+    QString name_;
+    QProcess process_;
+};
+
 } // namespace
 
 TEST_F(GioWorkspaceTest, ActivatesOverTheBus) {
@@ -172,32 +220,51 @@ TEST_F(GioWorkspaceTest, ActivatesOverTheBus) {
     EXPECT_EQ(open(present), std::nullopt) << "without a bus the command is run";
     folder.nextReport();
 
-    QProcess bus;
-    bus.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-    ASSERT_TRUE(bus.waitForReadyRead());
-    const QByteArray before = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-    const QByteArray address = bus.readLine().trimmed();
-    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-    {
-        QDBusConnection connection =
-            QDBusConnection::connectToBus(QString::fromLatin1(address), u"application"_s);
-        QObject object;
-        auto* application = new Application(&object);
-        ASSERT_TRUE(connection.registerObject(u"/org/example/Present"_s, &object));
-        ASSERT_TRUE(connection.registerService(u"org.example.Present"_s));
-        EXPECT_EQ(open(present), std::nullopt);
-        EXPECT_EQ(application->activations, 1);
-        EXPECT_TRUE(open(absent).value_or(QString()).contains(u"org.example.Absent"_s));
-        EXPECT_FALSE(QFile::exists(folder.report())) << "the command was run as well";
-    }
-    QDBusConnection::disconnectFromBus(u"application"_s);
+    QObject object;
+    auto* application = new Application(&object);
+    Bus bus(u"org.example.Present"_s, u"/org/example/Present"_s, object);
+    EXPECT_EQ(open(present), std::nullopt);
+    EXPECT_EQ(application->activations, 1);
+    EXPECT_TRUE(open(absent).value_or(QString()).contains(u"org.example.Absent"_s));
+    EXPECT_FALSE(QFile::exists(folder.report())) << "the command was run as well";
 
     // The bus going away does not take us with it.
-    bus.terminate();
-    bus.waitForFinished();
+    bus.end();
     EXPECT_EQ(open(present), std::nullopt);
     folder.nextReport();
-    qputenv("DBUS_SESSION_BUS_ADDRESS", before);
+}
+
+TEST(EitherAppearance, ThePortalsPreferenceComesFirst) {
+    QObject object;
+    auto* portal = new Portal(&object);
+    const Bus bus(
+        u"org.freedesktop.portal.Desktop"_s, u"/org/freedesktop/portal/desktop"_s, object);
+    struct : Appearance {
+        void observe(Handler handler) override { tell = std::move(handler); }
+        Handler tell;
+    } theme;
+    auto& gio = *new GioAppearance; // never destroyed, nor what observes it
+    auto& either = *new EitherAppearance(gio, theme);
+    static std::optional<bool> told;
+    either.observe([](std::optional<bool> prefersDark) { told = prefersDark; });
+    theme.tell({});
+    const auto becomes = [](std::optional<bool> expected) {
+        return waitFor([&] { return told == expected; });
+    };
+    EXPECT_TRUE(becomes(true));
+    const struct {
+        uint scheme;
+        std::optional<bool> theme, expected;
+    } cases[] = {
+        {2, true, false}, {0, true, true}, {0, {}, {}},
+        {1, {}, true},    {7, true, true}, {2, {}, false},
+    };
+    for (const auto& [scheme, themePrefers, expected] : cases) {
+        theme.tell(themePrefers);
+        Q_EMIT portal->SettingChanged(
+            u"org.freedesktop.appearance"_s, u"color-scheme"_s, QDBusVariant(scheme));
+        EXPECT_TRUE(becomes(expected)) << scheme;
+    }
 }
 
 TEST(ApplicationRoles, KnowsWholeIdentifiersInAnyCase) {
