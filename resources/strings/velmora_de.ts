@@ -228,6 +228,10 @@
         <source></source>
         <translation>Kein passendes Programm.</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>Keine Programme gefunden.</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Programme durchsuchen</translation>

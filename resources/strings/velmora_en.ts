@@ -228,6 +228,10 @@
         <source></source>
         <translation>No application matches.</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>No applications found.</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Search applications</translation>

@@ -228,6 +228,10 @@
         <source></source>
         <translation>Ninguna aplicación coincide.</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>No se encontró ninguna aplicación.</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Buscar aplicaciones</translation>

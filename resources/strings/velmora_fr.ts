@@ -228,6 +228,10 @@
         <source></source>
         <translation>Aucune application ne correspond.</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>Aucune application trouvée.</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Rechercher une application</translation>

@@ -228,6 +228,10 @@
         <source></source>
         <translation>一致するアプリはありません。</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>アプリが見つかりません。</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>アプリを検索</translation>

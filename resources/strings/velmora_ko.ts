@@ -228,6 +228,10 @@
         <source></source>
         <translation>일치하는 앱이 없습니다.</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>앱을 찾을 수 없습니다.</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>앱 검색</translation>

@@ -228,6 +228,10 @@
         <source></source>
         <translation>没有匹配的应用程序。</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>找不到应用程序。</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>搜索应用程序</translation>
