@@ -36,7 +36,7 @@ bool hasAgreed() {
 /// Whether the settings and what opens from them have what they take; says so when they have not.
 bool hasRoomForWindows() {
     constexpr int descriptors = 8;
-    constexpr std::size_t memory = 128 * 1024 * 1024;
+    constexpr std::size_t memory = 256 * 1024 * 1024;
     if (hasSystemRoom(descriptors, memory))
         return true;
     Log::write(

@@ -3,6 +3,7 @@
 #include "foundation/Log.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <exception>
 #include <unistd.h>
 
@@ -15,33 +16,35 @@ QtMessageHandler qtHandler = nullptr;
 
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     if (type == QtFatalMsg)
-        endWithReason(message.simplified());
+        endWithReason(message.simplified().toUtf8().constData());
     qtHandler(type, context, message);
 }
 
 [[noreturn]] void handleTermination() {
-    QString reason = u"it cannot go on"_s;
     try {
         if (const auto exception = std::current_exception())
             std::rethrow_exception(exception);
     } catch (const std::exception& exception) {
-        reason = QString::fromLocal8Bit(exception.what());
+        endWithReason(exception.what());
     } catch (...) {
     }
-    endWithReason(reason);
+    endWithReason("it cannot go on");
+}
+
+/// Takes no memory.
+void writeDirectly(const char* text) {
+    [[maybe_unused]] const auto written = ::write(STDERR_FILENO, text, std::strlen(text));
 }
 
 } // namespace
 
-void endWithReason(const QString& reason) {
-    const QString line = u"Velmora ends: "_s + reason;
+void endWithReason(const char* reason) {
     try {
-        Log::write(line);
+        Log::write(u"Velmora ends: "_s + QString::fromUtf8(reason));
         Log::flush();
-    } catch (...) { // no thread for the log
-        const QByteArray text = line.toUtf8() + '\n';
-        [[maybe_unused]] const auto written =
-            ::write(STDERR_FILENO, text.constData(), static_cast<size_t>(text.size()));
+    } catch (...) { // neither memory for the line nor a thread for the log
+        for (const char* const text : {"Velmora ends: ", reason, "\n"})
+            writeDirectly(text);
     }
     std::_Exit(EXIT_FAILURE);
 }

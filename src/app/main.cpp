@@ -75,10 +75,10 @@ int main(int argc, char** argv) {
     tidyInheritance();
     installLastWords();
     if (!hasSystemRoom(startDescriptors, startMemory))
-        endWithReason(u"too few files may be open, or too little memory is left."_s);
+        endWithReason("too few files may be open, or too little memory is left.");
     const auto session = X11Session::create();
     if (!session)
-        endWithReason(u"it needs an X11 display, and none answers."_s);
+        endWithReason("it needs an X11 display, and none answers.");
     if (!session->singleInstance().claim())
         return EXIT_SUCCESS; // the one that runs comes forward
     QApplication::setApplicationName(u"velmora"_s);
