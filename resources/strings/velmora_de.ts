@@ -340,6 +340,10 @@ Wenn Sie zustimmen, startet Velmora sofort und fragt nicht wieder. Wenn nicht, b
 
 Meist lässt sie sich auf dem Anmeldebildschirm auswählen.</translation>
     </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>Dem X-Server fehlt: %1. Die Leiste und ihre Knöpfe funktionieren; für Option+M (Alt+M), belegte Maustasten und gesendete Tastenkombinationen ist das nötig.</translation>
+    </message>
     <message id="trust_title">
         <source></source>
         <translation>Velmora kann in dieser Sitzung keine Tasten erkennen</translation>

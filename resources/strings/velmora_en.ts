@@ -340,6 +340,10 @@ If you agree, Velmora starts now and does not ask again. If you do not, quit her
 
 You can usually choose one on the login screen.</translation>
     </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>The X server lacks: %1. The bar and its buttons work; Option+M (Alt+M), bound mouse buttons and typed key combinations need it.</translation>
+    </message>
     <message id="trust_title">
         <source></source>
         <translation>Velmora cannot see your keys in this session</translation>

@@ -340,6 +340,10 @@ Si acepta, Velmora se inicia de inmediato y no volverá a preguntar. Si no, salg
 
 Normalmente puede elegirla en la pantalla de inicio de sesión.</translation>
     </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>Al servidor X le falta: %1. La barra y sus botones funcionan, pero Option+M (Alt+M), los botones del ratón configurados y el envío de combinaciones de teclas lo necesitan.</translation>
+    </message>
     <message id="trust_title">
         <source></source>
         <translation>Velmora no puede detectar las teclas en esta sesión</translation>

@@ -340,6 +340,10 @@ Si vous acceptez, Velmora démarre aussitôt et ne posera plus la question. Sino
 
 Vous pouvez généralement la choisir sur l’écran de connexion.</translation>
     </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>Il manque au serveur X : %1. La barre et ses boutons fonctionnent ; Option+M (Alt+M), les boutons de souris configurés et l’envoi de combinaisons de touches en ont besoin.</translation>
+    </message>
     <message id="trust_title">
         <source></source>
         <translation>Velmora ne peut pas détecter les touches dans cette session</translation>

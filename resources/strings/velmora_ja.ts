@@ -340,6 +340,10 @@ VelmoraはMITライセンスのフリーソフトウェアです。現状のま�
 
 通常はログイン画面でX11セッションを選べます。</translation>
     </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>Xサーバーに次の機能がありません：%1。バーとそのボタンは使えますが、Option+M（Alt+M）、割り当てたマウスボタン、キー入力の送信にはこれが必要です。</translation>
+    </message>
     <message id="trust_title">
         <source></source>
         <translation>このセッションではVelmoraがキー操作を検知できません</translation>

@@ -340,6 +340,10 @@ Velmora는 MIT 라이선스를 따르는 자유 소프트웨어입니다. 어떠
 
 보통 로그인 화면에서 X11 세션을 선택할 수 있습니다.</translation>
     </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>X 서버에 다음 기능이 없습니다: %1. 바와 버튼은 사용할 수 있지만 Option+M(Alt+M), 지정한 마우스 버튼, 키 조합 입력에는 이 기능이 필요합니다.</translation>
+    </message>
     <message id="trust_title">
         <source></source>
         <translation>이 세션에서는 Velmora가 키 입력을 감지할 수 없습니다</translation>

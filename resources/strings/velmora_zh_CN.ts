@@ -340,6 +340,10 @@ Velmora 是基于 MIT 许可证的自由软件，按原样提供，不附带任�
 
 通常可以在登录界面选择 X11 会话。</translation>
     </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>X 服务器缺少：%1。快捷栏及其按钮可以使用；Option+M（Alt+M）、已绑定的鼠标按键以及发送组合键需要它。</translation>
+    </message>
     <message id="trust_title">
         <source></source>
         <translation>Velmora 在此会话中无法检测按键</translation>

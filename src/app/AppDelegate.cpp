@@ -102,7 +102,9 @@ void AppDelegate::showTerms() {
 
 void AppDelegate::startServices() {
     Accessibility& accessibility = Platform::current().accessibility;
-    accessibility.setPromptHandler([] { showTrustNotice(Platform::current().windowActivation); });
+    accessibility.setPromptHandler([&accessibility] {
+        showTrustNotice(Platform::current().windowActivation, accessibility.missingExtensions());
+    });
     // Nothing waits for the answer.
     accessibility.isProcessTrustedWithPrompt();
     setupOverlay();

@@ -48,6 +48,7 @@ TEST(Catalogues, SayTheSameInEveryLanguage) {
         {u"action_desc_launch"_s, {u"%1"_s}},      {u"action_desc_open"_s, {u"%1"_s}},
         {u"action_desc_execute"_s, {u"%1"_s}},     {u"action_desc_key"_s, {u"%1"_s}},
         {u"mouse_click_btn_format"_s, {u"%1"_s}},  {u"picker_app_show_all"_s, {u"%1"_s}},
+        {u"trust_message_extensions"_s, {u"%1"_s}},
         {u"version_format"_s, {u"%1"_s, u"%2"_s}}, // the short version first
     };
     for (const QString& language :
