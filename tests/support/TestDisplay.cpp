@@ -71,8 +71,9 @@ QProcess& TestDisplay::start(
 }
 
 QProcess& TestDisplay::startWindowManager(const QString& program) {
-    QProcess& process =
-        program == u"xfwm4" ? start(program, {}, makeXfceEnvironment()) : start(program);
+    QProcess& process = program == u"xfwm4" ? start(program, {}, makeXfceEnvironment())
+                        : program == u"i3"  ? start(program, {u"-c"_s, u"/dev/null"_s})
+                                            : start(program);
     const bool running = waitFor([this] {
         return run(u"xprop"_s, {u"-root"_s, u"_NET_SUPPORTING_WM_CHECK"_s}).contains("window id");
     });

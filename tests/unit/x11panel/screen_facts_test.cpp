@@ -1,7 +1,6 @@
 #include "platform/x11/NotchedLaptops.h"
 #include "platform/x11/SafeAreaInsets.h"
 #include "platform/x11/X11Accessibility.h"
-#include "platform/x11/X11PanelWindows.h"
 
 #include <gtest/gtest.h>
 
@@ -47,37 +46,6 @@ TEST(NotchedLaptopsTest, NeedsTheMachineAndAModeWithTheNotchRows) {
     };
     for (const auto& [compatible, mode, height] : cases)
         EXPECT_EQ(knownCutoutHeight(compatible, mode), height) << compatible.constData();
-}
-
-TEST(PanelFrameTest, EndsWhereTheScreenDoesAndItsPointsCoverThat) {
-    const struct {
-        QSize screen; // pixels
-        QPoint origin;
-        double ratio;
-        double height; // points
-        QRect pixels;
-        QRect points;
-    } cases[] = {
-        {{1512, 982}, {}, 1, 24, {0, 0, 1512, 24}, {0, 0, 1512, 24}},
-        {{1512, 982}, {1920, 0}, 1, 24, {1920, 0, 1512, 24}, {1920, 0, 1512, 24}},
-        {{1920, 1080}, {}, 100 / 96.0, 24, {0, 0, 1920, 25}, {0, 0, 1844, 24}},
-        {{1366, 768}, {}, 1.25, 24, {0, 0, 1366, 30}, {0, 0, 1093, 24}},
-        {{1367, 769}, {}, 1.5, 32 / 1.5, {0, 0, 1367, 32}, {0, 0, 912, 22}},
-        {{1366, 768}, {}, 1.5, 24, {0, 0, 1366, 36}, {0, 0, 911, 24}},
-        {{2560, 1440}, {}, 1.75, 24, {0, 0, 2560, 42}, {0, 0, 1463, 24}},
-        {{1920, 1080}, {}, 2.25, 24, {0, 0, 1920, 54}, {0, 0, 854, 24}},
-        // Not one point more for what the division leaves.
-        {{1920, 1080}, {}, 1.2, 36 / 1.2, {0, 0, 1920, 36}, {0, 0, 1600, 30}},
-        {{0, 0}, {}, 1, 24, {}, {}},
-    };
-    for (const auto& given : cases) {
-        const double height = given.screen.height() / given.ratio;
-        const PanelFrame frame = panelFrame(
-            {0, height - given.height, given.screen.width() / given.ratio, given.height}, height,
-            given.origin, given.ratio);
-        EXPECT_EQ(frame.pixels, given.pixels) << given.ratio;
-        EXPECT_EQ(frame.points, given.points) << given.ratio;
-    }
 }
 
 TEST(AccessibilityTest, WaylandIsToldBySurestSignFirst) {
