@@ -48,9 +48,9 @@ TEST(Bar, ComesUpOverXWhateverQtIsToldAndPassesThatOn) {
         {.shortcuts = {{ShortcutButton(
              u"Environment"_s, {}, ExecuteShellCommand{u"echo $QT_QPA_PLATFORM $WAYLAND_DISPLAY"_s},
              ButtonAlignment::left)}},
-         .environment = {
-             u"QT_QPA_PLATFORM=offscreen"_s, u"WAYLAND_DISPLAY=none"_s,
-             u"XDG_SESSION_TYPE=x11"_s}});
+         .environment =
+             {u"QT_QPA_PLATFORM=offscreen"_s, u"WAYLAND_DISPLAY=none"_s, u"XDG_SESSION_TYPE=x11"_s},
+         .arguments = {u"-platform"_s, u"minimal"_s}});
     session.launch();
     ASSERT_TRUE(waitFor([&] { return session.buttons().size() == 1; }));
     session.driver().move(session.buttons()[0].center().x(), 12);
@@ -61,21 +61,23 @@ TEST(Bar, ComesUpOverXWhateverQtIsToldAndPassesThatOn) {
 TEST(Bar, EndsWithALineWhereItCannotStart) {
     const struct {
         QStringList environment;
-        QByteArray before; // in a shell
+        QString before; // in a shell
         QString line;
     } cases[] = {
         {{u"DISPLAY"_s}, {}, u"Velmora ends: it needs an X11 display"_s},
-        {{}, "ulimit -n 9", u"Velmora ends: too few files"_s},
-        {{}, "ulimit -n 14", u"Velmora ends: too few files"_s},
+        {{}, u"ulimit -n 9"_s, u"Velmora ends: too few files"_s},
+        {{}, u"ulimit -n 14"_s, u"Velmora ends: too few files"_s},
     };
     for (const auto& given : cases) {
-        SCOPED_TRACE(given.before.constData());
-        const Session session({.environment = given.environment});
-        Program program(
-            u"/bin/sh"_s, session.environment(), session.logFile(),
-            {u"-c"_s, QString::fromUtf8(given.before) + u"\nexec "_s + Session::programFile()});
-        program.expectStatus(EXIT_FAILURE);
-        EXPECT_TRUE(program.waitForFinished(10000));
+        SCOPED_TRACE(given.line.toStdString());
+        const QString command = given.before + u"\nexec "_s + Session::buildTreeProgram();
+        Session session(
+            {.environment = given.environment,
+             .program = u"/bin/sh"_s,
+             .arguments = {u"-c"_s, command}});
+        session.launch(Session::Launch::WithoutWaiting);
+        session.program().expectStatus(EXIT_FAILURE);
+        EXPECT_TRUE(waitFor([&] { return !session.program().isRunning(); }));
         EXPECT_EQ(session.log().filter(given.line).size(), 1)
             << session.log().join(u'\n').toStdString();
     }
