@@ -83,6 +83,10 @@
         <source></source>
         <translation>Bearbeiten</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>Keine gewöhnliche Datei</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Aktion</translation>
@@ -264,6 +268,10 @@
         <source></source>
         <translation>Neu starten</translation>
     </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>Änderungen werden nicht gespeichert, gelten aber bis zum Ende von Velmora: %1</translation>
+    </message>
     <message id="settings_tab_mouse">
         <source></source>
         <translation>Maustasten</translation>
@@ -323,6 +331,10 @@ Keine Gewährleistung
 Velmora ist freie Software unter der MIT-Lizenz. Es wird so bereitgestellt, wie es ist, ohne jede Gewährleistung; Sie benutzen es auf eigenes Risiko.
 
 Wenn Sie zustimmen, startet Velmora sofort und fragt nicht wieder. Wenn nicht, beenden Sie es hier; dann wird nichts gespeichert.</translation>
+    </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>Ihre Antwort kann nicht gespeichert werden; beim nächsten Start werden Sie wieder gefragt: %1</translation>
     </message>
     <message id="tos.quit">
         <source></source>

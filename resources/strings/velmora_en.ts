@@ -83,6 +83,10 @@
         <source></source>
         <translation>Edit</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>Not a regular file</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Action</translation>
@@ -264,6 +268,10 @@
         <source></source>
         <translation>Restart</translation>
     </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>Changes are not stored, but hold until Velmora ends: %1</translation>
+    </message>
     <message id="settings_tab_mouse">
         <source></source>
         <translation>Mouse Buttons</translation>
@@ -323,6 +331,10 @@ No warranty
 Velmora is free software under the MIT licence. It comes as it is, without warranty of any kind; you use it at your own risk.
 
 If you agree, Velmora starts now and does not ask again. If you do not, quit here and nothing is stored.</translation>
+    </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>Your answer cannot be stored, and you will be asked again next time: %1</translation>
     </message>
     <message id="tos.quit">
         <source></source>

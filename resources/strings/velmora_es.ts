@@ -83,6 +83,10 @@
         <source></source>
         <translation>Editar</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>No es un archivo normal</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Acción</translation>
@@ -264,6 +268,10 @@
         <source></source>
         <translation>Reiniciar</translation>
     </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>Los cambios no se guardan, pero valen hasta que Velmora se cierre: %1</translation>
+    </message>
     <message id="settings_tab_mouse">
         <source></source>
         <translation>Botones del ratón</translation>
@@ -323,6 +331,10 @@ Sin garantía
 Velmora es software libre con licencia MIT. Se ofrece tal cual, sin garantía de ningún tipo; usted lo usa por su cuenta y riesgo.
 
 Si acepta, Velmora se inicia de inmediato y no volverá a preguntar. Si no, salga aquí y no se guardará nada.</translation>
+    </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>Su respuesta no se puede guardar; se le preguntará de nuevo la próxima vez: %1</translation>
     </message>
     <message id="tos.quit">
         <source></source>

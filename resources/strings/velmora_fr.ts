@@ -83,6 +83,10 @@
         <source></source>
         <translation>Modifier</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>Ce n’est pas un fichier ordinaire</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Action</translation>
@@ -264,6 +268,10 @@
         <source></source>
         <translation>Redémarrer</translation>
     </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>Les modifications ne sont pas enregistrées, mais restent valables jusqu’à la fermeture de Velmora : %1</translation>
+    </message>
     <message id="settings_tab_mouse">
         <source></source>
         <translation>Boutons de souris</translation>
@@ -323,6 +331,10 @@ Aucune garantie
 Velmora est un logiciel libre sous licence MIT. Il est fourni tel quel, sans garantie d’aucune sorte ; vous l’utilisez à vos propres risques.
 
 Si vous acceptez, Velmora démarre aussitôt et ne posera plus la question. Sinon, quittez ici : rien ne sera enregistré.</translation>
+    </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>Votre réponse ne peut pas être enregistrée ; la question reviendra au prochain démarrage : %1</translation>
     </message>
     <message id="tos.quit">
         <source></source>

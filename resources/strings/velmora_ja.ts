@@ -83,6 +83,10 @@
         <source></source>
         <translation>編集</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>通常のファイルではありません</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>動作</translation>
@@ -264,6 +268,10 @@
         <source></source>
         <translation>再起動</translation>
     </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>変更は保存されていませんが、Velmora を終了するまで有効です: %1</translation>
+    </message>
     <message id="settings_tab_mouse">
         <source></source>
         <translation>マウスボタン</translation>
@@ -323,6 +331,10 @@ Velmoraが代わりに行うこと
 VelmoraはMITライセンスのフリーソフトウェアです。現状のまま提供され、いかなる保証もありません。ご自身の責任でお使いください。
 
 同意するとVelmoraがすぐに起動し、次回からこの画面は表示されません。同意しない場合は、ここで終了してください。何も保存されません。</translation>
+    </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>回答を保存できないため、次回の起動時に再び確認します: %1</translation>
     </message>
     <message id="tos.quit">
         <source></source>

@@ -83,6 +83,10 @@
         <source></source>
         <translation>편집</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>일반 파일이 아닙니다</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>동작</translation>
@@ -264,6 +268,10 @@
         <source></source>
         <translation>다시 시작</translation>
     </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>변경 사항이 저장되지 않았지만 Velmora를 종료할 때까지 유지됩니다: %1</translation>
+    </message>
     <message id="settings_tab_mouse">
         <source></source>
         <translation>마우스 버튼</translation>
@@ -323,6 +331,10 @@ Velmora가 대신 하는 일
 Velmora는 MIT 라이선스를 따르는 자유 소프트웨어입니다. 어떠한 보증도 없이 있는 그대로 제공되며, 사용에 따른 책임은 사용자에게 있습니다.
 
 동의하면 Velmora가 바로 시작되며 다시 묻지 않습니다. 동의하지 않으면 여기에서 종료하십시오. 아무것도 저장되지 않습니다.</translation>
+    </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>답변을 저장할 수 없어 다음 시작 때 다시 묻습니다: %1</translation>
     </message>
     <message id="tos.quit">
         <source></source>

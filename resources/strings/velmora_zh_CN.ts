@@ -83,6 +83,10 @@
         <source></source>
         <translation>编辑</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>不是普通文件</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>操作</translation>
@@ -264,6 +268,10 @@
         <source></source>
         <translation>重新启动</translation>
     </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>更改尚未保存，但在 Velmora 退出前有效：%1</translation>
+    </message>
     <message id="settings_tab_mouse">
         <source></source>
         <translation>鼠标按键</translation>
@@ -323,6 +331,10 @@ Velmora 代您执行的操作
 Velmora 是基于 MIT 许可证的自由软件，按原样提供，不附带任何形式的担保；使用风险由您自行承担。
 
 如果您同意，Velmora 将立即启动，且不再询问。如果不同意，请在此退出，不会保存任何内容。</translation>
+    </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>无法保存您的选择，下次启动时会再次询问：%1</translation>
     </message>
     <message id="tos.quit">
         <source></source>

@@ -1,6 +1,7 @@
 #include "settings/SettingsWindow.h"
 
 #include "foundation/Bundle.h"
+#include "foundation/LocalizedString.h"
 #include "foundation/Log.h"
 #include "foundation/UserDefaults.h"
 #include "input/MouseButtonManager.h"
@@ -11,6 +12,7 @@
 #include "platform/WindowActivation.h"
 #include "settings/AboutView.h"
 #include "settings/MainMenuBar.h"
+#include "settings/StorageNotice.h"
 #include "settings/WindowFrame.h"
 #include "viewkit/Sheet.h"
 #include "viewkit/WindowTheme.h"
@@ -137,6 +139,7 @@ void SettingsWindow::makeWindow() {
     layout->setSpacing(0);
     layout->setMenuBar(menuBar);
     layout->addWidget(view);
+    layout->addWidget(new StorageNotice(defaults_, localizedString("settings_not_stored_format")));
     restoreFrame(*view, services.barHeight);
     view->currentWidget()->setFocus();
 }
