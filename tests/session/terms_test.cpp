@@ -22,12 +22,6 @@ struct Terms : testing::Test {
         EXPECT_FALSE(session.bar());
     }
 
-    bool agreed() {
-        return QSettings(session.settingsFile(), QSettings::IniFormat)
-            .value(u"hasAgreedToToS_v1"_s, false)
-            .toBool();
-    }
-
     Session session{{.agreed = false}};
     xcb_window_t terms = 0;
 };
@@ -49,7 +43,8 @@ TEST_F(Terms, ReturnAgreesAndTheBarComesUpInTheSameProcess) {
     launch();
     session.driver().tapKey("RTRN");
     EXPECT_TRUE(waitFor([this] { return session.bar().has_value(); }));
-    EXPECT_TRUE(agreed());
+    const QSettings stored(session.settingsFile(), QSettings::IniFormat);
+    EXPECT_TRUE(stored.value(u"hasAgreedToToS_v1"_s).toBool());
     EXPECT_TRUE(session.program().isRunning());
     EXPECT_TRUE(waitFor([&] { return session.client().property(terms, "_NET_WM_STATE").empty(); }));
 }

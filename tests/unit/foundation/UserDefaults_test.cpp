@@ -5,8 +5,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QFile>
-#include <QFileInfo>
 #include <QHash>
 #include <QProcess>
 #include <QSettings>

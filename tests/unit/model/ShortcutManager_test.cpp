@@ -47,18 +47,16 @@ TEST_F(ShortcutManagerTest, FirstStartMakesTheFourDefaults) {
         EXPECT_EQ(manager.shortcuts().count(button), 1) << "an id of its own";
         json.replace(button.id().toString(QUuid::WithoutBraces).toUpper().toUtf8(), "");
     }
-    const auto launch = [](const QByteArray& name, const QByteArray& icon, const QByteArray& id) {
-        return R"({"id":"","title":")" + name + R"(","icon":")" + icon +
-               R"(","action":{"launchApp":{"name":")" + name + R"(","bundleId":"com.apple.)" + id +
-               R"("}},"alignment":"left"},)";
-    };
     EXPECT_EQ(
         json,
-        '[' + launch("Safari", "safari", "Safari") + launch("Finder", "folder", "finder") +
-            R"({"id":"","title":"Google","icon":"globe","action":{"openURL":)"
-            R"({"url":"https://www.google.com/"}},"alignment":"right"},)"
-            R"({"id":"","title":"スクショ","icon":"camera","action":{"executeShellCommand":)"
-            R"({"command":"screencapture -i ~/Desktop/screenshot.png"}},"alignment":"right"}])");
+        R"([{"id":"","title":"Safari","icon":"safari","action":{"launchApp":{"name":"Safari",)"
+        R"("bundleId":"com.apple.Safari"}},"alignment":"left"},)"
+        R"({"id":"","title":"Finder","icon":"folder","action":{"launchApp":{"name":"Finder",)"
+        R"("bundleId":"com.apple.finder"}},"alignment":"left"},)"
+        R"({"id":"","title":"Google","icon":"globe","action":{"openURL":{)"
+        R"("url":"https://www.google.com/"}},"alignment":"right"},)"
+        R"({"id":"","title":"スクショ","icon":"camera","action":{"executeShellCommand":{)"
+        R"("command":"screencapture -i ~/Desktop/screenshot.png"}},"alignment":"right"}])");
 }
 
 // Each time anew, with what is wrong and a copy of what does not decode.
@@ -73,23 +71,20 @@ TEST_F(ShortcutManagerTest, NothingUsableBringsTheDefaultsBack) {
         {""},
         {oneBadOfTwo, u"/Index 1/action: Invalid number of keys found, expected one."_s},
         {"\x01\xff\0]"_ba, u": The data is not valid JSON"_s},
+        {oneBadOfTwo}, // kept already
         {oneBadOfTwo + ' ', u"/Index 1/action: Invalid number of keys found, expected one."_s},
     };
     const QString copyKey = u"SavedShortcuts.unreadable"_s;
     QStringList copies{copyKey, copyKey + u"-2"_s, copyKey + u"-3"_s};
     for (const auto& [bytes, told] : cases) {
-        for (const int start : {1, 2}) {
-            SCOPED_TRACE(bytes.constData());
-            const test::LogCapture log;
-            store(bytes);
-            const ShortcutManager manager(defaults_);
-            EXPECT_EQ(manager.shortcuts().size(), 4);
-            EXPECT_EQ(stored(), encodedList(manager.shortcuts()));
-            if (told.isEmpty() || start == 2) {
-                EXPECT_EQ(log.lines(), QStringList()) << "the same bytes are kept once";
-                continue;
-            }
-            ASSERT_EQ(log.lines().size(), 1);
+        SCOPED_TRACE(bytes.constData());
+        const test::LogCapture log;
+        store(bytes);
+        const ShortcutManager manager(defaults_);
+        EXPECT_EQ(manager.shortcuts().size(), 4);
+        EXPECT_EQ(stored(), encodedList(manager.shortcuts()));
+        ASSERT_EQ(log.lines().size(), told.isEmpty() ? 0 : 1);
+        if (!told.isEmpty()) {
             EXPECT_TRUE(log.lines()[0].startsWith(u"⚠️ SavedShortcuts"_s + told));
             EXPECT_EQ(defaults_.data(copies.takeFirst()), bytes);
         }
@@ -117,7 +112,6 @@ TEST_F(ShortcutManagerTest, OperationsAnnounceChangeAndSave) {
     };
     const Case cases[] = {
         {"add", [](auto& m) { m.addShortcut(named(u"E"_s)); }, u"ABCDE"_s, {u"ABCD"_s}},
-        {"add own", [](auto& m) { m.addShortcut(m.shortcuts()[1]); }, u"ABCDB"_s, {u"ABCD"_s}},
         {"remove", [](auto& m) { m.removeShortcut(3); }, u"ABC"_s, {u"ABCD"_s}},
         {"update", [&](auto& m) { m.updateShortcut(0, other); }, u"XBCD"_s, {u"ABCD"_s}},
         {"0 to 2", move(0, 2), u"BACD"_s, {u"ABCD"_s, u"BCD"_s}},
@@ -128,7 +122,6 @@ TEST_F(ShortcutManagerTest, OperationsAnnounceChangeAndSave) {
         {"remove beyond", [](auto& m) { m.removeShortcut(4); }, u"ABCD"_s, {}},
         {"remove before", [](auto& m) { m.removeShortcut(-1); }, u"ABCD"_s, {}},
         {"update beyond", [&](auto& m) { m.updateShortcut(4, other); }, u"ABCD"_s, {}},
-        {"update before", [&](auto& m) { m.updateShortcut(-1, other); }, u"ABCD"_s, {}},
         {"move beyond", move(4, 0), u"ABCD"_s, {}},
         {"move before", move(-1, 0), u"ABCD"_s, {}},
         {"move to beyond", move(0, 5), u"ABCD"_s, {}},

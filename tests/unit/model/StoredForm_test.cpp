@@ -7,19 +7,20 @@ using namespace Qt::StringLiterals;
 namespace velmora {
 namespace {
 
-using Kind = DecodingError::Kind;
+using enum DecodingError::Kind;
 
 constexpr auto goodId = "\"id\":\"0F8FAD5B-D9CB-469F-A165-70867728950E\"";
 
-QByteArray buttonText(const QByteArray& action, const QByteArray& id = goodId) {
-    return "[{" + id + R"(,"title":"t","icon":"i","action":)" + action + R"(,"alignment":"left"}])";
+QByteArray buttonText(const QByteArray& action) {
+    return QByteArray("[{") + goodId + R"(,"title":"t","icon":"i","action":)" + action +
+           R"(,"alignment":"left"}])";
 }
 
 /// The error that reading `json` ends with; its description says so when it reads well.
 DecodingError errorOf(const QByteArray& json) {
     const auto decoded = decodedList(json, readButton);
     const auto* error = std::get_if<DecodingError>(&decoded);
-    return error ? *error : DecodingError{Kind::dataCorrupted, {}, u"(no error)"_s};
+    return error ? *error : DecodingError{dataCorrupted, {}, u"(no error)"_s};
 }
 
 QList<ShortcutButton> read(const QByteArray& json) {
@@ -36,33 +37,32 @@ TEST(StoredFormTest, FailuresCarryTheirKindAndPath) {
     const QString action = u"Index 0/action"_s;
     const struct {
         QByteArray json;
-        Kind kind;
+        DecodingError::Kind kind;
         QString path;
     } failures[] = {
-        {"", Kind::dataCorrupted, {}},
-        {good + good, Kind::dataCorrupted, {}},
-        {with("\"t\"", "\"\xff\""), Kind::dataCorrupted, {}},
-        {QByteArray(1'000'000, '['), Kind::dataCorrupted, {}},
-        {"[" + QByteArray("0,").repeated(1'000'000) + "0]", Kind::typeMismatch, u"Index 0"_s},
-        {"{}", Kind::typeMismatch, {}},
-        {"[null]", Kind::valueNotFound, u"Index 0"_s},
-        {with("\"id\"", "\"ID\""), Kind::keyNotFound, u"Index 0/id"_s},
-        {with("\"0F8F", "\"0F8"), Kind::dataCorrupted, u"Index 0/id"_s},
-        {with("\"t\"", "null"), Kind::valueNotFound, u"Index 0/title"_s},
-        {with("\"i\"", "7"), Kind::typeMismatch, u"Index 0/icon"_s},
-        {with("\"action\"", "\"Action\""), Kind::keyNotFound, action},
-        {with("\"left\"", "\"center\""), Kind::dataCorrupted, u"Index 0/alignment"_s},
-        {buttonText("{}"), Kind::typeMismatch, action},
-        {buttonText(R"({"LaunchApp":{"name":"n"}})"), Kind::typeMismatch, action},
-        {buttonText(R"({"launchApp":{"name":"n"},"openURL":{"url":"u"}})"), Kind::typeMismatch,
-         action},
-        {buttonText(R"({"openURL":"u"})"), Kind::typeMismatch, action + u"/openURL"_s},
-        {buttonText(R"({"openURL":{}})"), Kind::keyNotFound, action + u"/openURL/url"_s},
-        {buttonText(R"({"launchApp":{"name":"n","bundleId":1}})"), Kind::typeMismatch,
+        {"", dataCorrupted, {}},
+        {good + good, dataCorrupted, {}},
+        {with("\"t\"", "\"\xff\""), dataCorrupted, {}},
+        {QByteArray(1'000'000, '['), dataCorrupted, {}},
+        {"[" + QByteArray("0,").repeated(1'000'000) + "0]", typeMismatch, u"Index 0"_s},
+        {"{}", typeMismatch, {}},
+        {"[null]", valueNotFound, u"Index 0"_s},
+        {with("\"id\"", "\"ID\""), keyNotFound, u"Index 0/id"_s},
+        {with("\"0F8F", "\"0F8"), dataCorrupted, u"Index 0/id"_s},
+        {with("\"t\"", "null"), valueNotFound, u"Index 0/title"_s},
+        {with("\"i\"", "7"), typeMismatch, u"Index 0/icon"_s},
+        {with("\"action\"", "\"Action\""), keyNotFound, action},
+        {with("\"left\"", "\"center\""), dataCorrupted, u"Index 0/alignment"_s},
+        {buttonText("{}"), typeMismatch, action},
+        {buttonText(R"({"LaunchApp":{"name":"n"}})"), typeMismatch, action},
+        {buttonText(R"({"launchApp":{"name":"n"},"openURL":{"url":"u"}})"), typeMismatch, action},
+        {buttonText(R"({"openURL":"u"})"), typeMismatch, action + u"/openURL"_s},
+        {buttonText(R"({"openURL":{}})"), keyNotFound, action + u"/openURL/url"_s},
+        {buttonText(R"({"launchApp":{"name":"n","bundleId":1}})"), typeMismatch,
          action + u"/launchApp/bundleId"_s},
-        {buttonText(R"({"pressKeyCombo":{"modifiers":["Command",1],"key":"k"}})"),
-         Kind::typeMismatch, action + u"/pressKeyCombo/modifiers/Index 1"_s},
-        {good.chopped(1) + "," + good.sliced(1).replace("\"t\"", "[]"), Kind::typeMismatch,
+        {buttonText(R"({"pressKeyCombo":{"modifiers":["Command",1],"key":"k"}})"), typeMismatch,
+         action + u"/pressKeyCombo/modifiers/Index 1"_s},
+        {good.chopped(1) + "," + good.sliced(1).replace("\"t\"", "[]"), typeMismatch,
          u"Index 1/title"_s},
     };
     for (const auto& failure : failures) {
