@@ -48,9 +48,10 @@ TEST(Bar, ComesUpOverXWhateverQtIsToldAndPassesThatOn) {
         {.shortcuts = {{ShortcutButton(
              u"Environment"_s, {}, ExecuteShellCommand{u"echo $QT_QPA_PLATFORM $WAYLAND_DISPLAY"_s},
              ButtonAlignment::left)}},
-         .environment =
-             {u"QT_QPA_PLATFORM=offscreen"_s, u"WAYLAND_DISPLAY=none"_s, u"XDG_SESSION_TYPE=x11"_s},
-         .arguments = {u"-platform"_s, u"minimal"_s}});
+         .arguments = {u"-platform"_s, u"minimal"_s},
+         .environment = {
+             u"QT_QPA_PLATFORM=offscreen"_s, u"WAYLAND_DISPLAY=none"_s,
+             u"XDG_SESSION_TYPE=x11"_s}});
     session.launch();
     ASSERT_TRUE(waitFor([&] { return session.buttons().size() == 1; }));
     session.driver().move(session.buttons()[0].center().x(), 12);
@@ -72,9 +73,9 @@ TEST(Bar, EndsWithALineWhereItCannotStart) {
         SCOPED_TRACE(given.line.toStdString());
         const QString command = given.before + u"\nexec "_s + Session::buildTreeProgram();
         Session session(
-            {.environment = given.environment,
-             .program = u"/bin/sh"_s,
-             .arguments = {u"-c"_s, command}});
+            {.program = u"/bin/sh"_s,
+             .arguments = {u"-c"_s, command},
+             .environment = given.environment});
         session.launch(Session::Launch::WithoutWaiting);
         session.program().expectStatus(EXIT_FAILURE);
         EXPECT_TRUE(waitFor([&] { return !session.program().isRunning(); }));
