@@ -1,8 +1,7 @@
 // Combinations typed while the user's own hands are on the keyboard: whatever they press, hold or
 // switch over at whatever moment is theirs afterwards, and nothing else is down.
 
-#include "platform/KeyboardEvents.h"
-#include "platform/x11/X11Session.h"
+#include "Service.h"
 #include "support/Desktop.h"
 #include "support/Driver.h"
 #include "support/TestDisplay.h"
@@ -88,20 +87,14 @@ protected:
     std::vector<Typed> typeTen() {
         constexpr std::pair<KeyCode, const char*> keys[] = {
             {8, "AB03"}, {0, "AC01"}, {46, "AB07"}, {48, "TAB"}};
-        constexpr std::array<uint16_t, 4> bits{1, 4, 8, 64}; // Shift, Control, Option, Command
         std::vector<Typed> typed;
         for (int i = 0; i < 10; ++i) {
             const auto& [code, name] = keys[random() % std::size(keys)];
-            const size_t modifiers = random() % 16;
-            uint16_t state = 0;
-            for (size_t bit = 0; bit < bits.size(); ++bit)
-                state |= modifiers & (1U << bit) ? bits[bit] : 0;
+            const EventFlags flags = EventFlags(random() % 16) << 17;
             for (const bool keyDown : {true, false}) {
-                auto event = events.createKeyboardEvent(*source, code, keyDown);
-                event->setFlags(EventFlags(modifiers) << 17);
-                events.post(EventTapLocation::sessionEventTap, *event);
+                EXPECT_TRUE(service.post(code, keyDown, flags));
                 std::this_thread::sleep_for(std::chrono::microseconds(random() % 1000));
-                typed.push_back({driver.keycode(name), state});
+                typed.push_back({driver.keycode(name), maskOf(flags)});
             }
         }
         return typed;
@@ -138,10 +131,7 @@ protected:
     TestDisplay display;
     XClient client;
     Driver driver;
-    std::unique_ptr<X11Session> session = X11Session::create();
-    KeyboardEvents& events = session->keyboardEvents();
-    std::unique_ptr<EventSource> source =
-        events.createEventSource(EventSourceState::combinedSessionState);
+    Service service;
     std::mt19937 random{std::random_device()()};
 };
 
