@@ -4,6 +4,8 @@
 
 #include <QHash>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 namespace {
 
@@ -37,7 +39,7 @@ QString described(const ExecuteShellCommand& action) {
 }
 
 QString described(const PressKeyCombo& action) {
-    const QString combination = (QStringList(action.modifiers) << action.key).join(u'+');
+    const QString combination = (modifierWords(action.modifiers) << action.key).join(u'+');
     return localizedString("action_desc_key").arg(combination);
 }
 
@@ -46,6 +48,15 @@ QString described(const PressKeyCombo& action) {
 size_t qHash(const ShortcutAction& action, size_t seed) noexcept {
     const auto hash = [seed](const auto& alternative) { return hashOf(alternative, seed); };
     return qHashMulti(seed, action.index(), std::visit(hash, action));
+}
+
+QStringList modifierWords(const QStringList& modifiers) {
+    static const QHash<QString, QString> words{
+        {u"Command"_s, u"Super"_s}, {u"Option"_s, u"Alt"_s}, {u"Control"_s, u"Ctrl"_s}};
+    QStringList result;
+    for (const QString& modifier : modifiers)
+        result.append(words.value(modifier, modifier));
+    return result;
 }
 
 QString displayName(const ShortcutAction& action) {

@@ -39,6 +39,10 @@ using ShortcutAction = std::variant<LaunchApp, OpenUrl, ExecuteShellCommand, Pre
 /// Agrees with equality.
 size_t qHash(const ShortcutAction& action, size_t seed = 0) noexcept;
 
+/// Modifiers in the words of this platform's keyboards: "Super" for Command. Names outside the
+/// vocabulary stay as they are.
+QStringList modifierWords(const QStringList& modifiers);
+
 /// One localized line that describes the action to the user.
 QString displayName(const ShortcutAction& action);
 

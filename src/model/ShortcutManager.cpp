@@ -1,6 +1,7 @@
 #include "model/ShortcutManager.h"
 
 #include "foundation/UserDefaults.h"
+#include "model/StoredForm.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,7 +13,7 @@ ShortcutManager& ShortcutManager::shared() {
 }
 
 ShortcutManager::ShortcutManager(UserDefaults& defaults)
-    : userDefaultsKey(u"SavedShortcuts"_s), storage_(defaults, userDefaultsKey, readButton) {
+    : userDefaultsKey(u"SavedShortcuts"_s), defaults_(defaults) {
     loadShortcuts();
     if (shortcuts_.isEmpty())
         createDefaultShortcuts();
@@ -64,15 +65,21 @@ void ShortcutManager::moveShortcut(qsizetype source, qsizetype destination) {
 }
 
 void ShortcutManager::saveShortcuts() {
-    storage_.save(shortcuts_);
+    defaults_.setData(userDefaultsKey, encodedList(shortcuts_));
 }
 
 void ShortcutManager::loadShortcuts() {
-    auto stored = storage_.load();
+    const auto stored = defaults_.data(userDefaultsKey);
     if (!stored)
         return;
+    auto decoded = decodedList(*stored, readButton);
+    if (std::holds_alternative<DecodingError>(decoded)) {
+        if (!stored->isEmpty())
+            defaults_.setData(userDefaultsKey + u".unreadable"_s, *stored);
+        return;
+    }
     Q_EMIT shortcutsWillChange();
-    shortcuts_ = *std::move(stored);
+    shortcuts_ = std::get<0>(std::move(decoded));
 }
 
 bool ShortcutManager::holds(qsizetype index) const {

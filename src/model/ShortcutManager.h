@@ -1,12 +1,13 @@
 #pragma once
 
-#include "model/ListStorage.h"
 #include "model/ShortcutButton.h"
 
 #include <QList>
 #include <QObject>
 
 namespace velmora {
+
+class UserDefaults;
 
 /// The ordered list of bar buttons, kept in the user defaults and observable. Main thread only.
 /// Every successful operation changes the list and then saves it; an index or offset out of range
@@ -17,7 +18,8 @@ public:
     /// The process-wide list over the standard user defaults, made on first use, never destroyed.
     static ShortcutManager& shared();
 
-    /// Loads the stored list; without a usable one, creates and saves the four defaults.
+    /// Loads the stored list; without a usable one, creates and saves the four defaults. Stored
+    /// bytes that do not decode are kept under `userDefaultsKey` + ".unreadable" first.
     explicit ShortcutManager(UserDefaults& defaults);
 
     const QString userDefaultsKey;
@@ -45,7 +47,7 @@ private:
     void loadShortcuts();
     bool holds(qsizetype index) const;
 
-    ListStorage<ShortcutButton> storage_;
+    UserDefaults& defaults_;
     QList<ShortcutButton> shortcuts_;
 };
 
