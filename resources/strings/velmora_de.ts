@@ -83,10 +83,6 @@
         <source></source>
         <translation>Bearbeiten</translation>
     </message>
-    <message id="file_not_regular">
-        <source></source>
-        <translation>Keine gewöhnliche Datei</translation>
-    </message>
     <message id="group_action">
         <source></source>
         <translation>Aktion</translation>
@@ -94,6 +90,10 @@
     <message id="group_basic">
         <source></source>
         <translation>Darstellung</translation>
+    </message>
+    <message id="key_capture_leave">
+        <source></source>
+        <translation>Zweimal Tab oder Umschalt+Tab: unverändert verlassen</translation>
     </message>
     <message id="label_alignment">
         <source></source>
@@ -232,10 +232,6 @@
         <source></source>
         <translation>Kein passendes Programm.</translation>
     </message>
-    <message id="picker_app_none">
-        <source></source>
-        <translation>Keine Programme gefunden.</translation>
-    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Programme durchsuchen</translation>
@@ -267,10 +263,6 @@
     <message id="restart">
         <source></source>
         <translation>Neu starten</translation>
-    </message>
-    <message id="settings_not_stored_format">
-        <source></source>
-        <translation>Änderungen werden nicht gespeichert, gelten aber bis zum Ende von Velmora: %1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -332,10 +324,6 @@ Velmora ist freie Software unter der MIT-Lizenz. Es wird so bereitgestellt, wie 
 
 Wenn Sie zustimmen, startet Velmora sofort und fragt nicht wieder. Wenn nicht, beenden Sie es hier; dann wird nichts gespeichert.</translation>
     </message>
-    <message id="tos.not_stored_format">
-        <source></source>
-        <translation>Ihre Antwort kann nicht gespeichert werden; beim nächsten Start werden Sie wieder gefragt: %1</translation>
-    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -352,10 +340,6 @@ Wenn Sie zustimmen, startet Velmora sofort und fragt nicht wieder. Wenn nicht, b
 
 Meist lässt sie sich auf dem Anmeldebildschirm auswählen.</translation>
     </message>
-    <message id="trust_message_extensions">
-        <source></source>
-        <translation>Dem X-Server fehlt: %1. Die Leiste und ihre Knöpfe funktionieren; für Option+M (Alt+M), belegte Maustasten und gesendete Tastenkombinationen ist das nötig.</translation>
-    </message>
     <message id="trust_title">
         <source></source>
         <translation>Velmora kann in dieser Sitzung keine Tasten erkennen</translation>
@@ -363,6 +347,10 @@ Meist lässt sie sich auf dem Anmeldebildschirm auswählen.</translation>
     <message id="unknown_version">
         <source></source>
         <translation>Version unbekannt</translation>
+    </message>
+    <message id="url_invalid">
+        <source></source>
+        <translation>Das ist keine Adresse. Schreibweise: https://example.com</translation>
     </message>
     <message id="version_format">
         <source></source>

@@ -83,10 +83,6 @@
         <source></source>
         <translation>Edit</translation>
     </message>
-    <message id="file_not_regular">
-        <source></source>
-        <translation>Not a regular file</translation>
-    </message>
     <message id="group_action">
         <source></source>
         <translation>Action</translation>
@@ -94,6 +90,10 @@
     <message id="group_basic">
         <source></source>
         <translation>Appearance</translation>
+    </message>
+    <message id="key_capture_leave">
+        <source></source>
+        <translation>Tab or Shift+Tab twice: leave unchanged</translation>
     </message>
     <message id="label_alignment">
         <source></source>
@@ -232,10 +232,6 @@
         <source></source>
         <translation>No application matches.</translation>
     </message>
-    <message id="picker_app_none">
-        <source></source>
-        <translation>No applications found.</translation>
-    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Search applications</translation>
@@ -267,10 +263,6 @@
     <message id="restart">
         <source></source>
         <translation>Restart</translation>
-    </message>
-    <message id="settings_not_stored_format">
-        <source></source>
-        <translation>Changes are not stored, but hold until Velmora ends: %1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -332,10 +324,6 @@ Velmora is free software under the MIT licence. It comes as it is, without warra
 
 If you agree, Velmora starts now and does not ask again. If you do not, quit here and nothing is stored.</translation>
     </message>
-    <message id="tos.not_stored_format">
-        <source></source>
-        <translation>Your answer cannot be stored, and you will be asked again next time: %1</translation>
-    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -352,10 +340,6 @@ If you agree, Velmora starts now and does not ask again. If you do not, quit her
 
 You can usually choose one on the login screen.</translation>
     </message>
-    <message id="trust_message_extensions">
-        <source></source>
-        <translation>The X server lacks: %1. The bar and its buttons work; Option+M (Alt+M), bound mouse buttons and typed key combinations need it.</translation>
-    </message>
     <message id="trust_title">
         <source></source>
         <translation>Velmora cannot see your keys in this session</translation>
@@ -363,6 +347,10 @@ You can usually choose one on the login screen.</translation>
     <message id="unknown_version">
         <source></source>
         <translation>Unknown version</translation>
+    </message>
+    <message id="url_invalid">
+        <source></source>
+        <translation>This is no address. Write it like https://example.com</translation>
     </message>
     <message id="version_format">
         <source></source>

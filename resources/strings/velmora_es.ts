@@ -83,10 +83,6 @@
         <source></source>
         <translation>Editar</translation>
     </message>
-    <message id="file_not_regular">
-        <source></source>
-        <translation>No es un archivo normal</translation>
-    </message>
     <message id="group_action">
         <source></source>
         <translation>Acción</translation>
@@ -94,6 +90,10 @@
     <message id="group_basic">
         <source></source>
         <translation>Apariencia</translation>
+    </message>
+    <message id="key_capture_leave">
+        <source></source>
+        <translation>Tab o Mayús+Tab dos veces: salir sin cambios</translation>
     </message>
     <message id="label_alignment">
         <source></source>
@@ -232,10 +232,6 @@
         <source></source>
         <translation>Ninguna aplicación coincide.</translation>
     </message>
-    <message id="picker_app_none">
-        <source></source>
-        <translation>No se encontró ninguna aplicación.</translation>
-    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Buscar aplicaciones</translation>
@@ -267,10 +263,6 @@
     <message id="restart">
         <source></source>
         <translation>Reiniciar</translation>
-    </message>
-    <message id="settings_not_stored_format">
-        <source></source>
-        <translation>Los cambios no se guardan, pero valen hasta que Velmora se cierre: %1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -332,10 +324,6 @@ Velmora es software libre con licencia MIT. Se ofrece tal cual, sin garantía de
 
 Si acepta, Velmora se inicia de inmediato y no volverá a preguntar. Si no, salga aquí y no se guardará nada.</translation>
     </message>
-    <message id="tos.not_stored_format">
-        <source></source>
-        <translation>Su respuesta no se puede guardar; se le preguntará de nuevo la próxima vez: %1</translation>
-    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -352,10 +340,6 @@ Si acepta, Velmora se inicia de inmediato y no volverá a preguntar. Si no, salg
 
 Normalmente puede elegirla en la pantalla de inicio de sesión.</translation>
     </message>
-    <message id="trust_message_extensions">
-        <source></source>
-        <translation>Al servidor X le falta: %1. La barra y sus botones funcionan, pero Option+M (Alt+M), los botones del ratón configurados y el envío de combinaciones de teclas lo necesitan.</translation>
-    </message>
     <message id="trust_title">
         <source></source>
         <translation>Velmora no puede detectar las teclas en esta sesión</translation>
@@ -363,6 +347,10 @@ Normalmente puede elegirla en la pantalla de inicio de sesión.</translation>
     <message id="unknown_version">
         <source></source>
         <translation>Versión desconocida</translation>
+    </message>
+    <message id="url_invalid">
+        <source></source>
+        <translation>Esto no es una dirección. Ejemplo: https://example.com</translation>
     </message>
     <message id="version_format">
         <source></source>

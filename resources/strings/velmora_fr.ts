@@ -83,10 +83,6 @@
         <source></source>
         <translation>Modifier</translation>
     </message>
-    <message id="file_not_regular">
-        <source></source>
-        <translation>Ce n’est pas un fichier ordinaire</translation>
-    </message>
     <message id="group_action">
         <source></source>
         <translation>Action</translation>
@@ -94,6 +90,10 @@
     <message id="group_basic">
         <source></source>
         <translation>Apparence</translation>
+    </message>
+    <message id="key_capture_leave">
+        <source></source>
+        <translation>Deux fois Tab ou Maj+Tab : quitter sans changement</translation>
     </message>
     <message id="label_alignment">
         <source></source>
@@ -232,10 +232,6 @@
         <source></source>
         <translation>Aucune application ne correspond.</translation>
     </message>
-    <message id="picker_app_none">
-        <source></source>
-        <translation>Aucune application trouvée.</translation>
-    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Rechercher une application</translation>
@@ -267,10 +263,6 @@
     <message id="restart">
         <source></source>
         <translation>Redémarrer</translation>
-    </message>
-    <message id="settings_not_stored_format">
-        <source></source>
-        <translation>Les modifications ne sont pas enregistrées, mais restent valables jusqu’à la fermeture de Velmora : %1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -332,10 +324,6 @@ Velmora est un logiciel libre sous licence MIT. Il est fourni tel quel, sans gar
 
 Si vous acceptez, Velmora démarre aussitôt et ne posera plus la question. Sinon, quittez ici : rien ne sera enregistré.</translation>
     </message>
-    <message id="tos.not_stored_format">
-        <source></source>
-        <translation>Votre réponse ne peut pas être enregistrée ; la question reviendra au prochain démarrage : %1</translation>
-    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -352,10 +340,6 @@ Si vous acceptez, Velmora démarre aussitôt et ne posera plus la question. Sino
 
 Vous pouvez généralement la choisir sur l’écran de connexion.</translation>
     </message>
-    <message id="trust_message_extensions">
-        <source></source>
-        <translation>Il manque au serveur X : %1. La barre et ses boutons fonctionnent ; Option+M (Alt+M), les boutons de souris configurés et l’envoi de combinaisons de touches en ont besoin.</translation>
-    </message>
     <message id="trust_title">
         <source></source>
         <translation>Velmora ne peut pas détecter les touches dans cette session</translation>
@@ -363,6 +347,10 @@ Vous pouvez généralement la choisir sur l’écran de connexion.</translation>
     <message id="unknown_version">
         <source></source>
         <translation>Version inconnue</translation>
+    </message>
+    <message id="url_invalid">
+        <source></source>
+        <translation>Ce n’est pas une adresse. Exemple : https://example.com</translation>
     </message>
     <message id="version_format">
         <source></source>

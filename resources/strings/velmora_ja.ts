@@ -83,10 +83,6 @@
         <source></source>
         <translation>編集</translation>
     </message>
-    <message id="file_not_regular">
-        <source></source>
-        <translation>通常のファイルではありません</translation>
-    </message>
     <message id="group_action">
         <source></source>
         <translation>動作</translation>
@@ -94,6 +90,10 @@
     <message id="group_basic">
         <source></source>
         <translation>表示</translation>
+    </message>
+    <message id="key_capture_leave">
+        <source></source>
+        <translation>Tab または Shift+Tab を2回押すと変更せずに移動</translation>
     </message>
     <message id="label_alignment">
         <source></source>
@@ -232,10 +232,6 @@
         <source></source>
         <translation>一致するアプリはありません。</translation>
     </message>
-    <message id="picker_app_none">
-        <source></source>
-        <translation>アプリが見つかりません。</translation>
-    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>アプリを検索</translation>
@@ -267,10 +263,6 @@
     <message id="restart">
         <source></source>
         <translation>再起動</translation>
-    </message>
-    <message id="settings_not_stored_format">
-        <source></source>
-        <translation>変更は保存されていませんが、Velmora を終了するまで有効です: %1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -332,10 +324,6 @@ VelmoraはMITライセンスのフリーソフトウェアです。現状のま�
 
 同意するとVelmoraがすぐに起動し、次回からこの画面は表示されません。同意しない場合は、ここで終了してください。何も保存されません。</translation>
     </message>
-    <message id="tos.not_stored_format">
-        <source></source>
-        <translation>回答を保存できないため、次回の起動時に再び確認します: %1</translation>
-    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -352,10 +340,6 @@ VelmoraはMITライセンスのフリーソフトウェアです。現状のま�
 
 通常はログイン画面でX11セッションを選べます。</translation>
     </message>
-    <message id="trust_message_extensions">
-        <source></source>
-        <translation>Xサーバーに次の機能がありません：%1。バーとそのボタンは使えますが、Option+M（Alt+M）、割り当てたマウスボタン、キー入力の送信にはこれが必要です。</translation>
-    </message>
     <message id="trust_title">
         <source></source>
         <translation>このセッションではVelmoraがキー操作を検知できません</translation>
@@ -363,6 +347,10 @@ VelmoraはMITライセンスのフリーソフトウェアです。現状のま�
     <message id="unknown_version">
         <source></source>
         <translation>バージョン不明</translation>
+    </message>
+    <message id="url_invalid">
+        <source></source>
+        <translation>アドレスではありません。例: https://example.com</translation>
     </message>
     <message id="version_format">
         <source></source>

@@ -4,6 +4,7 @@
 #include "input/KeyCaptureView.h"
 #include "settings/AppPickerView.h"
 #include "settings/FormGroup.h"
+#include "settings/TypedUrl.h"
 #include "viewkit/PopUpButton.h"
 #include "viewkit/Sheet.h"
 #include "viewkit/Theme.h"
@@ -24,7 +25,7 @@ constexpr int commandHeight = 80;
 constexpr int commandPadding = 4;
 constexpr int keyCaptureHeight = 42; ///< of its field and outline
 constexpr int parameterSpacing = 4;
-constexpr int bundleIdFontSize = 10;
+constexpr int noteFontSize = 10; ///< below a field
 
 /// The label of a type's parameters, in the order of the types.
 constexpr std::array<const char*, actionTypeCount> parameterLabels = {
@@ -35,6 +36,16 @@ QVBoxLayout* makeStack(QWidget* view) {
     stack->setContentsMargins(0, 0, 0, 0);
     stack->setSpacing(parameterSpacing);
     return stack;
+}
+
+/// A small line below a field.
+QLabel* noteLabel() {
+    auto* note = new QLabel;
+    note->setTextFormat(Qt::PlainText);
+    note->setFont(Theme::systemFont(noteFontSize));
+    note->setForegroundRole(QPalette::PlaceholderText);
+    note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return note;
 }
 
 /// Every character as it was entered; toPlainText() makes ordinary ones of special spaces and line
@@ -90,11 +101,7 @@ QWidget* ActionForm::makeAppParameter() {
     select->setAutoDefault(false);
     select->setAccessibleDescription(label);
     connect(select, &QPushButton::clicked, this, &ActionForm::showAppPicker);
-    bundleId_ = new QLabel;
-    bundleId_->setTextFormat(Qt::PlainText);
-    bundleId_->setFont(Theme::systemFont(bundleIdFontSize));
-    bundleId_->setForegroundRole(QPalette::PlaceholderText);
-    bundleId_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    bundleId_ = noteLabel();
 
     auto* view = new QWidget;
     QVBoxLayout* stack = makeStack(view);
@@ -110,13 +117,45 @@ QWidget* ActionForm::makeAppParameter() {
 
 QWidget* ActionForm::makeUrlParameter() {
     const QString prompt = localizedString("placeholder_url");
-    QLineEdit* url = textField(fields_.url, prompt, localizedString("label_url"));
-    url->setToolTip(prompt);
-    connect(url, &QLineEdit::textChanged, this, [this](const QString& text) {
+    url_ = textField(fields_.url, prompt, localizedString("label_url"));
+    url_->setToolTip(prompt);
+    connect(url_, &QLineEdit::textChanged, this, [this](const QString& text) {
         fields_.url = text;
+        updateUrlNote();
         Q_EMIT fieldsChanged();
     });
-    return url;
+    // Its line is there also while it is empty: the form must not jump under the hand that types.
+    urlNote_ = noteLabel();
+    urlNote_->setFixedHeight(urlNote_->fontMetrics().height());
+    auto* view = new QWidget;
+    QVBoxLayout* stack = makeStack(view);
+    stack->addWidget(url_);
+    stack->addWidget(urlNote_);
+    updateUrlNote();
+    return view;
+}
+
+void ActionForm::updateUrlNote() {
+    const auto url = typedUrl(fields_.url);
+    setUrlNote(url && *url != fields_.url ? displayName(OpenUrl{*url}) : QString());
+}
+
+void ActionForm::setUrlNote(const QString& note, QPalette::ColorRole color) {
+    urlNote_->setText(note);
+    urlNote_->setForegroundRole(color);
+    url_->setAccessibleDescription(note);
+}
+
+bool ActionForm::complete() {
+    if (fields_.type != ActionType::openURL)
+        return true;
+    if (const auto url = typedUrl(fields_.url)) {
+        url_->setText(*url);
+        return true;
+    }
+    setUrlNote(localizedString("url_invalid"), QPalette::BrightText);
+    url_->setFocus();
+    return false;
 }
 
 QWidget* ActionForm::makeCommandParameter() {

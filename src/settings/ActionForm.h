@@ -29,6 +29,10 @@ public:
     const Binding<bool>& isKeyCaptureFocused() const { return isKeyCaptureFocused_; }
     KeyCaptureView& keyCapture() { return *keyCapture_; }
 
+    /// Gives the fields the form in which they are saved. False when what was typed has none; the
+    /// user is then told so where it stands.
+    bool complete();
+
 Q_SIGNALS:
     void fieldsChanged();
     /// The parameters of another type are shown.
@@ -40,6 +44,9 @@ private:
     QWidget* makeCommandParameter();
     QWidget* makeKeyParameter(EventTaps& eventTaps);
     void setType(ActionType type);
+    /// Shows below the URL what it will be saved as, where that is not what is typed.
+    void updateUrlNote();
+    void setUrlNote(const QString& note, QPalette::ColorRole color = QPalette::PlaceholderText);
     void setBundleId(const QString& bundleId);
     void showAppPicker();
 
@@ -51,6 +58,8 @@ private:
     std::array<QWidget*, actionTypeCount> parameters_{};
     QLineEdit* appName_;
     QLabel* bundleId_;
+    QLineEdit* url_;
+    QLabel* urlNote_;
     KeyCaptureView* keyCapture_;
     QPropertyNotifier modifiersNotifier_;
     QPropertyNotifier keyNotifier_;

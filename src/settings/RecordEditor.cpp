@@ -124,7 +124,7 @@ void RecordEditor::updateSaveButton() {
 }
 
 void RecordEditor::requestSave() {
-    if (!isValid())
+    if (!isValid() || !actionForm_->complete())
         return;
     if (actionForm_->fields().type != ActionType::executeShell) {
         save();

@@ -24,8 +24,8 @@ public:
     ActionForm& actionForm() { return *actionForm_; }
     QPushButton& saveButton() { return *save_; }
 
-    /// Saves, for a shell command once the user has answered the question. Nothing happens while
-    /// the form is incomplete.
+    /// Saves, for a shell command once the user has answered the question. Nothing is saved while
+    /// the form is incomplete or holds what is no URL.
     void requestSave();
 
 protected:

@@ -99,6 +99,7 @@ QPalette palette(const Colors& colors) {
     palette.setColor(QPalette::Highlight, colors.accent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, colors.accentText);
+    palette.setColor(QPalette::BrightText, colors.danger);
     palette.setColor(QPalette::Mid, colors.border);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, colors.disabledText);
