@@ -35,7 +35,7 @@ QString keyName(KeyCode keyCode, const QString& characters) {
     return KeyNames::nameOfPosition(keyCode).value_or(characters.toUpper());
 }
 
-QString combinationText(const QStringList& modifiers, const QString& key) {
+QString combinationSymbols(const QStringList& modifiers, const QString& key) {
     QString text;
     for (const QString& name : modifiers)
         text += symbol(KeyNames::modifierFlag(name).value_or(0));

@@ -18,6 +18,6 @@ QString keyName(KeyCode keyCode, const QString& characters);
 
 /// The modifiers' symbols in list order and the key's name, without separators. Unknown modifier
 /// names are left out.
-QString combinationText(const QStringList& modifiers, const QString& key);
+QString combinationSymbols(const QStringList& modifiers, const QString& key);
 
 } // namespace velmora::CapturedKey

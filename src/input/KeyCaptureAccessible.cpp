@@ -14,7 +14,7 @@ QAccessibleInterface* make(const QString&, QObject* object) {
 
 } // namespace
 
-KeyCaptureAccessible::KeyCaptureAccessible(QWidget* view)
+KeyCaptureAccessible::KeyCaptureAccessible(KeyCaptureNSView* view)
     : QAccessibleWidget(view, QAccessible::HotkeyField) {}
 
 void KeyCaptureAccessible::install() {
@@ -26,7 +26,7 @@ void KeyCaptureAccessible::install() {
 }
 
 QString KeyCaptureAccessible::text(QAccessible::Text kind) const {
-    return kind == QAccessible::Value ? widget()->accessibleDescription()
+    return kind == QAccessible::Value ? static_cast<const KeyCaptureNSView&>(*widget()).spokenText()
                                       : QAccessibleWidget::text(kind);
 }
 

@@ -5,11 +5,13 @@
 #include "input/CapturedKey.h"
 #include "input/KeyCaptureAccessible.h"
 #include "input/WindowKeyEvent.h"
+#include "model/ShortcutAction.h"
 #include "viewkit/Theme.h"
 
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -22,9 +24,17 @@ constexpr int textInset = 10;
 constexpr int placeholderFontSize = 13;
 constexpr int combinationFontSize = 14;
 constexpr KeyCode keyCodeReturn = 36;
+constexpr KeyCode keyCodeTab = 48;
+constexpr EventFlags modifierMask = kCGEventFlagMaskCommand | kCGEventFlagMaskAlternate |
+                                    kCGEventFlagMaskControl | kCGEventFlagMaskShift;
 
 bool isDefaultKey(const TapEvent& event) {
-    return event.keyCode == keyCodeReturn && CapturedKey::modifierNames(event.flags).isEmpty();
+    return event.keyCode == keyCodeReturn && !(event.flags & modifierMask);
+}
+
+/// Tab as it moves through a form, forwards or with Shift backwards.
+bool isTab(const TapEvent& event) {
+    return event.keyCode == keyCodeTab && !(event.flags & modifierMask & ~kCGEventFlagMaskShift);
 }
 
 } // namespace
@@ -41,25 +51,56 @@ KeyCaptureNSView::~KeyCaptureNSView() = default;
 
 void KeyCaptureNSView::reset() {
     hasCapture_ = false;
+    setReplacedByTab({});
     updateDisplay({}, {});
 }
 
 void KeyCaptureNSView::updateDisplay(const QStringList& modifiers, const QString& key) {
-    currentModifiers_ = modifiers;
-    currentKey_ = key;
-    // Names rather than symbols: this is read aloud.
-    const QStringList names = key.isEmpty() ? modifiers : modifiers + QStringList(key);
-    setAccessibleDescription(names.join(u'+'));
+    shown_ = {modifiers, key};
+    QStringList description{spokenText(), localizedString("key_capture_leave")};
+    description.removeAll(QString());
+    setAccessibleDescription(description.join(u", "_s));
     update();
 }
 
+QString KeyCaptureNSView::spokenText() const {
+    QStringList words = modifierWords(shown_.modifiers);
+    if (!shown_.key.isEmpty())
+        words.append(shown_.key);
+    return words.join(u'+');
+}
+
 void KeyCaptureNSView::keyDown(const TapEvent& event) {
-    const QStringList modifiers = CapturedKey::modifierNames(event.flags);
+    const Combination pressed{
+        CapturedKey::modifierNames(event.flags),
+        CapturedKey::keyName(event.keyCode, event.charactersIgnoringModifiers)};
+    if (replacedByTab_ && pressed == shown_) {
+        leaveByTab();
+        return;
+    }
+    const Combination replaced =
+        replacedByTab_.value_or(std::exchange(beforePreview_, {}).value_or(shown_));
     if (onKeyCapture)
-        onKeyCapture(
-            modifiers, CapturedKey::keyName(event.keyCode, event.charactersIgnoringModifiers));
+        onKeyCapture(pressed.modifiers, pressed.key);
     // Last: being told may have reset the view.
     hasCapture_ = true;
+    setReplacedByTab(isTab(event) ? std::optional(replaced) : std::nullopt);
+}
+
+void KeyCaptureNSView::leaveByTab() {
+    const bool isForward = shown_.modifiers.isEmpty();
+    const Combination replaced = *replacedByTab_;
+    setReplacedByTab({});
+    if (onKeyCapture)
+        onKeyCapture(replaced.modifiers, replaced.key);
+    focusNextPrevChild(isForward);
+}
+
+void KeyCaptureNSView::setReplacedByTab(std::optional<Combination> replaced) {
+    const bool isChange = replaced.has_value() != replacedByTab_.has_value();
+    replacedByTab_ = std::move(replaced);
+    if (isChange)
+        Q_EMIT tabWayOutChanged();
 }
 
 void KeyCaptureNSView::flagsChanged(const TapEvent& event) {
@@ -67,8 +108,19 @@ void KeyCaptureNSView::flagsChanged(const TapEvent& event) {
         return;
     const QStringList modifiers = CapturedKey::modifierNames(event.flags);
     // Letting go of all modifiers leaves the last preview in place.
-    if (!modifiers.isEmpty() && onKeyCapture)
+    if (modifiers.isEmpty()) {
+        beforePreview_.reset();
+        return;
+    }
+    if (!beforePreview_)
+        beforePreview_ = shown_;
+    if (onKeyCapture)
         onKeyCapture(modifiers, {});
+}
+
+bool KeyCaptureNSView::isAnswer(const TapEvent& event) {
+    sawFreshPress_ = sawFreshPress_ || event.isFresh;
+    return event.type == EventType::keyDown ? event.isFresh : sawFreshPress_;
 }
 
 bool KeyCaptureNSView::event(QEvent* event) {
@@ -96,7 +148,7 @@ void KeyCaptureNSView::handleWindowKey(QKeyEvent& event) {
     if (tapDelivers_)
         return;
     const auto keyEvent = windowKeyEvent(event);
-    if (!keyEvent)
+    if (!keyEvent || !isAnswer(*keyEvent))
         return;
     if (keyEvent->type == EventType::keyDown && onDefaultKey && isDefaultKey(*keyEvent))
         onDefaultKey();
@@ -122,12 +174,15 @@ void KeyCaptureNSView::hideEvent(QHideEvent* event) {
 }
 
 void KeyCaptureNSView::becomeFirstResponder() {
+    sawFreshPress_ = false;
+    beforePreview_.reset();
     startMonitoring();
     Q_EMIT focusChanged(true);
 }
 
 void KeyCaptureNSView::resignFirstResponder() {
     stopMonitoring();
+    setReplacedByTab({});
     Q_EMIT focusChanged(false);
 }
 
@@ -158,10 +213,12 @@ std::optional<TapEvent> KeyCaptureNSView::handleTapEvent(EventType type, const T
         return std::nullopt;
     }
     tapDelivers_ = true;
+    if (!isAnswer(event))
+        return std::nullopt;
     // Capturing may hide the editor, and the tap goes with the focus.
     if (type == EventType::keyDown && onDefaultKey && isDefaultKey(event)) {
-        // Not from within the tap: a slow handler would be switched off. The key may repeat before
-        // the first one is answered.
+        // Not from within the tap: a slow handler would be switched off. The key may be pressed
+        // again before the first press is answered.
         MainQueue::submit([self = QPointer(this)] {
             if (self && self->eventMonitor_)
                 self->onDefaultKey();
@@ -189,7 +246,7 @@ void KeyCaptureNSView::draw(QPainter& painter) const {
         QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius - inset,
         cornerRadius - inset);
 
-    const bool isEmpty = currentModifiers_.isEmpty() && currentKey_.isEmpty();
+    const bool isEmpty = shown_.modifiers.isEmpty() && shown_.key.isEmpty();
     const QFont textFont = isEmpty ? Theme::systemFont(placeholderFontSize)
                                    : Theme::systemFont(combinationFontSize, QFont::Medium);
     painter.setFont(textFont);
@@ -197,7 +254,7 @@ void KeyCaptureNSView::draw(QPainter& painter) const {
     // A combination reads from left to right in every language, beginning at the leading edge.
     painter.setLayoutDirection(Qt::LeftToRight);
     const QString text = isEmpty ? u"クリックしてキーを押す"_s
-                                 : CapturedKey::combinationText(currentModifiers_, currentKey_);
+                                 : CapturedKey::combinationSymbols(shown_.modifiers, shown_.key);
     const QFontMetricsF metrics(textFont);
     const double textWidth = width() - 2 * textInset;
     const QRectF textRect(

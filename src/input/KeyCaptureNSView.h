@@ -12,8 +12,9 @@ namespace velmora {
 
 /// Turns the keys pressed while it has the keyboard focus into names, and draws a combination. With
 /// focus it takes every key of the session through an event tap, so that no application receives
-/// what is being recorded; where there is no tap it takes the keys of its own window. Main thread
-/// only.
+/// what is being recorded; where there is no tap it takes the keys of its own window. It takes
+/// nothing from keys that were down before. Tab is recorded as well; pressed once more it puts back
+/// what was there and moves the focus on, or back with Shift. Main thread only.
 class KeyCaptureNSView : public QWidget {
     Q_OBJECT
 public:
@@ -37,12 +38,19 @@ public:
     /// Previews the modifiers held, as long as no key has been captured.
     void flagsChanged(const TapEvent& event);
 
-    const QStringList& currentModifiers() const { return currentModifiers_; }
-    const QString& currentKey() const { return currentKey_; }
+    const QStringList& currentModifiers() const { return shown_.modifiers; }
+    const QString& currentKey() const { return shown_.key; }
+
+    /// The combination shown, to be read aloud: "Super+Shift+4"; empty for none.
+    QString spokenText() const;
+
+    /// Whether a Tab was recorded last, so that another one leaves.
+    bool isTabWayOut() const { return replacedByTab_.has_value(); }
 
 Q_SIGNALS:
     /// The keyboard focus came or went; hiding counts as losing it.
     void focusChanged(bool focused);
+    void tabWayOutChanged();
 
 protected:
     bool event(QEvent* event) override;
@@ -52,20 +60,33 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    struct Combination {
+        QStringList modifiers;
+        QString key;
+        bool operator==(const Combination&) const = default;
+    };
+
     void becomeFirstResponder();
     void resignFirstResponder();
     void startMonitoring();
     void stopMonitoring();
     std::optional<TapEvent> handleTapEvent(EventType type, const TapEvent& event);
     void handleWindowKey(QKeyEvent& event);
+    /// Whether `event` is the user's answer: some key went down since the focus came, and for a key
+    /// this very one.
+    bool isAnswer(const TapEvent& event);
+    void leaveByTab();
+    void setReplacedByTab(std::optional<Combination> replaced);
     void draw(QPainter& painter) const;
 
     EventTaps& eventTaps_;
     bool hasCapture_ = false; ///< a key, not only modifiers, since the last reset
-    QStringList currentModifiers_;
-    QString currentKey_;
+    Combination shown_;
+    std::optional<Combination> beforePreview_; ///< what the modifiers held now have replaced
+    std::optional<Combination> replacedByTab_; ///< while a Tab is what was recorded last
     std::unique_ptr<EventTap> eventMonitor_;
-    bool tapDelivers_ = false; ///< keys come through the tap
+    bool sawFreshPress_ = false; ///< since the focus came
+    bool tapDelivers_ = false;   ///< keys come through the tap
 };
 
 } // namespace velmora

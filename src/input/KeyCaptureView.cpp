@@ -74,11 +74,12 @@ private:
     const QString title_ = localizedString("クリア");
 };
 
-/// A small text in the secondary colour.
+/// A small text in the secondary colour, which gives way where there is no room.
 class Hint : public QLabel {
 public:
-    Hint() : QLabel(localizedString("例: ⌘C, ⌥⇧N, ⌃⌘Space")) {
+    Hint() {
         setTextFormat(Qt::PlainText);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         setForegroundRole(QPalette::PlaceholderText);
         setFont(Theme::systemFont(footerFontSize));
     }
@@ -104,9 +105,8 @@ KeyCaptureView::KeyCaptureView(
     });
 
     auto* footer = new QHBoxLayout;
-    footer->addWidget(hint_);
-    footer->addStretch();
-    footer->addWidget(clearButton_);
+    footer->addWidget(hint_, 1);
+    footer->addWidget(clearButton_, 0, Qt::AlignTrailing);
 
     auto* stack = new QVBoxLayout(this);
     // Room for the half of the outline that lies outside the field.
@@ -121,6 +121,7 @@ KeyCaptureView::KeyCaptureView(
     modifiersNotifier_ = modifiers_->addNotifier([this] { updateFooter(); });
     keyNotifier_ = key_->addNotifier([this] { updateFooter(); });
     focusNotifier_ = isFocused_->addNotifier([this] { outline_->update(); });
+    connect(&view(), &KeyCaptureNSView::tabWayOutChanged, this, &KeyCaptureView::updateFooter);
     updateFooter();
 }
 
@@ -130,7 +131,10 @@ KeyCaptureNSView& KeyCaptureView::view() {
 
 void KeyCaptureView::updateFooter() {
     const bool hasCombination = !modifiers_->value().isEmpty() || !key_->value().isEmpty();
-    hint_->setVisible(!hasCombination);
+    const bool leaves = view().isTabWayOut();
+    hint_->setText(
+        leaves ? localizedString("key_capture_leave") : localizedString("例: ⌘C, ⌥⇧N, ⌃⌘Space"));
+    hint_->setVisible(leaves || !hasCombination);
     clearButton_->setVisible(hasCombination);
 }
 

@@ -15,7 +15,8 @@ class KeyCaptureNSView;
 class PlainButton;
 
 /// The control that records a key combination: the field in its border, and below it a hint or,
-/// once something is captured, a button that clears it. Takes the focus when it is first shown.
+/// once something is captured, a button that clears it. While a Tab was recorded last the hint says
+/// how to leave. Takes the focus when it is first shown.
 class KeyCaptureView : public QWidget {
     Q_OBJECT
 public:

@@ -23,7 +23,8 @@ MouseButtonManager& MouseButtonManager::shared() {
 MouseButtonManager::MouseButtonManager(
     UserDefaults& defaults, EventTaps& eventTaps, Accessibility& accessibility, Execute execute,
     std::chrono::milliseconds retryPeriod)
-    : storage_(defaults, u"SavedMouseBindings"_s, readMouseButtonBinding),
+    : userDefaultsKey_(u"SavedMouseBindings"_s),
+      defaults_(defaults),
       eventTaps_(eventTaps),
       accessibility_(accessibility),
       execute_(std::move(execute)),
@@ -99,12 +100,22 @@ void MouseButtonManager::updateBinding(qsizetype index, const MouseButtonBinding
 }
 
 void MouseButtonManager::saveBindings() {
-    storage_.save(bindings_);
+    defaults_.setData(userDefaultsKey_, encodedList(bindings_));
 }
 
 void MouseButtonManager::loadBindings() {
-    if (auto stored = storage_.load())
-        setBindings(*std::move(stored));
+    const auto stored = defaults_.data(userDefaultsKey_);
+    if (!stored)
+        return;
+    auto decoded = decodedList(*stored, readMouseButtonBinding);
+    if (std::holds_alternative<DecodingError>(decoded)) {
+        // The next save replaces these bytes; they may be all that is left of the user's list.
+        const QString copyKey = userDefaultsKey_ + u".unreadable"_s;
+        if (!stored->isEmpty() && defaults_.data(copyKey) != stored)
+            defaults_.setData(copyKey, *stored);
+        return;
+    }
+    setBindings(std::get<0>(std::move(decoded)));
 }
 
 void MouseButtonManager::setBindings(QList<MouseButtonBinding> bindings) {

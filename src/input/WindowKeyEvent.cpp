@@ -19,10 +19,19 @@ constexpr std::pair<Qt::KeyboardModifier, EventFlags> modifierFlags[] = {
     {Qt::ShiftModifier, kCGEventFlagMaskShift},
 };
 
+/// Whether the key is Alt, which with Shift types Meta: to Qt that is Super.
+bool isShiftedAlt(const QKeyEvent& event) {
+    constexpr quint32 metaLeft = 0xffe7; // keysyms
+    constexpr quint32 metaRight = 0xffe8;
+    const quint32 keysym = event.nativeVirtualKey();
+    return event.modifiers() & Qt::ShiftModifier && (keysym == metaLeft || keysym == metaRight);
+}
+
 /// The flag that the key itself stands for, 0 for a modifier without one; nothing for other keys.
-std::optional<EventFlags> flagOfModifierKey(int key) {
-    switch (key) {
+std::optional<EventFlags> flagOfModifierKey(const QKeyEvent& event) {
+    switch (event.key()) {
     case Qt::Key_Meta:
+        return isShiftedAlt(event) ? kCGEventFlagMaskAlternate : kCGEventFlagMaskCommand;
     case Qt::Key_Super_L:
     case Qt::Key_Super_R:
         return kCGEventFlagMaskCommand;
@@ -105,10 +114,18 @@ std::optional<TapEvent> windowKeyEvent(const QKeyEvent& event) {
         if (event.modifiers() & modifier)
             result.flags |= flag;
     }
+    if (isShiftedAlt(event)) {
+        // Qt turns over the modifier that it takes the key for; in the native state Super is Mod4.
+        constexpr quint32 superMask = 0x40;
+        result.flags &= ~kCGEventFlagMaskCommand;
+        if (event.nativeModifiers() & superMask)
+            result.flags |= kCGEventFlagMaskCommand;
+    }
     const bool isPress = event.type() == QEvent::KeyPress;
-    if (const auto ownFlag = flagOfModifierKey(event.key())) {
+    if (const auto ownFlag = flagOfModifierKey(event)) {
         result.type = EventType::flagsChanged;
         result.flags = isPress ? result.flags | *ownFlag : result.flags & ~*ownFlag;
+        result.isFresh = isPress;
         return result;
     }
     if (!isPress)
@@ -116,6 +133,7 @@ std::optional<TapEvent> windowKeyEvent(const QKeyEvent& event) {
     result.type = EventType::keyDown;
     result.keyCode = KeyNames::keyCode(nameOfPosition(event)).value_or(kNoKeyCode);
     result.charactersIgnoringModifiers = characters(event.key());
+    result.isFresh = !event.isAutoRepeat();
     return result;
 }
 

@@ -41,6 +41,8 @@ struct TapEvent {
     std::int64_t buttonNumber = 0; ///< 2 middle, 3 fourth, 4 fifth, …
     /// What the key types with modifiers but Shift ignored; its usual label when it types nothing.
     QString charactersIgnoringModifiers{};
+    /// A key went down just now: no repeat of one that is held and, with flagsChanged, no release.
+    bool isFresh = true;
 };
 
 /// Where a tap is inserted among the existing ones.

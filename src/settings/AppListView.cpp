@@ -137,10 +137,8 @@ bool AppListView::moveCurrent(int key) {
 
 void AppListView::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
-    if (model_.isLoaded())
-        paintEmptyHint(
-            *this,
-            localizedString(model_.isSearching() ? "picker_app_no_match" : "picker_app_none"));
+    if (model_.isSearching())
+        paintEmptyHint(*this, localizedString("picker_app_no_match"));
 }
 
 void AppListView::pickSelected() {

@@ -95,7 +95,7 @@ void AppPickerView::hideEvent(QHideEvent* event) {
     if (event->spontaneous())
         return;
     scan_.request_stop();
-    model_.clear();
+    model_.setApps({});
 }
 
 void AppPickerView::loadApps() {

@@ -49,6 +49,7 @@ MainMenuBar::MainMenuBar(const QList<MenuModel>& menus) {
         addEntries(*menu, model.entries);
     }
     auto* open = new QShortcut(Qt::Key_F10, this);
+    open->setAutoRepeat(false);
     connect(open, &QShortcut::activated, this, [this] { setActiveAction(actions().value(0)); });
 }
 

@@ -92,7 +92,7 @@ void RecordListPane::keyPressEvent(QKeyEvent* event) {
     // Outside a dialog Qt's buttons hear Space only.
     auto* button = qobject_cast<QPushButton*>(focusWidget());
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (button && isReturn && !event->isAutoRepeat())
+    if (button && isReturn)
         button->click();
     else
         QWidget::keyPressEvent(event);

@@ -45,6 +45,7 @@ QAction* PopupMenu::addItem(
     literal.replace(u'&', u"&&"_s);
     QAction* item = addAction(literal);
     item->setShortcut(keyEquivalent);
+    item->setAutoRepeat(false);
     item->setShortcutVisibleInContextMenu(true);
     connect(item, &QAction::triggered, this, std::move(action));
     return item;

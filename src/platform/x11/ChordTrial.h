@@ -1,35 +1,37 @@
 #pragma once
 
-#include <cstdint>
-#include <xcb/xcb.h>
-#include <xcb/xinput.h>
+#include "platform/x11/X11Connection.h"
+
+#include <memory>
 
 namespace velmora {
 
 /// Finds out whether another client (a window manager above all) has a key combination for itself,
-/// by trying to grab it. Tried on a connection that grabs no keys for other ends: so a combination
-/// of our own counts too.
+/// by trying to grab it. On a connection of its own, so that a combination of ours counts too.
 class ChordTrial {
 public:
-    /// The connection uses XInput 2.
-    explicit ChordTrial(xcb_connection_t* connection);
+    /// Nothing when the display takes no more clients.
+    static std::unique_ptr<ChordTrial> open();
 
     /// An answer on its way.
     struct Question {
         xcb_void_cookie_t coreGrab;
-        xcb_input_xi_passive_grab_device_cookie_t inputGrab;
+        unsigned inputGrab;
+        xcb_get_input_focus_cookie_t letGo; ///< answered when nothing is grabbed any more
     };
 
-    /// Asks about a key with modifiers; does not wait, so that other answers come with it. What was
-    /// tried is let go of again.
-    Question ask(xcb_keycode_t keycode, uint8_t mask) const;
+    /// Asks about a key with modifiers; does not wait, so that other answers come with it.
+    Question ask(xcb_keycode_t keycode, uint8_t mask);
 
-    /// Waits for the answer: whether the combination is taken.
-    bool isTaken(const Question& question) const;
+    /// Waits for the answer: whether the combination is taken. Of what was tried nothing is held
+    /// then.
+    bool isTaken(const Question& question);
 
 private:
-    xcb_connection_t* connection_;
-    xcb_window_t root_;
+    explicit ChordTrial(std::unique_ptr<X11Connection> connection);
+
+    std::unique_ptr<X11Connection> connection_;
+    bool hasInput_;
 };
 
 } // namespace velmora

@@ -14,13 +14,10 @@ class X11Accessibility : public Accessibility {
 public:
     explicit X11Accessibility(X11Connection& connection);
 
-    bool isProcessTrusted() const override { return !isWayland_ && missing_.isEmpty(); }
-    QStringList missingExtensions() const override { return isWayland_ ? QStringList() : missing_; }
+    bool isProcessTrusted() const override { return trusted_; }
 
 private:
-    // Neither changes while the server runs.
-    bool isWayland_;
-    QStringList missing_;
+    bool trusted_; ///< nothing it depends on changes while the server runs
 };
 
 /// Whether X programs are guests of a Wayland session, where they see only part of the input. A

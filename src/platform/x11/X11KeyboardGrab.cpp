@@ -13,6 +13,7 @@ X11KeyboardGrab::X11KeyboardGrab(
     : connection_(connection),
       keyboard_(keyboard),
       xinput_(xinput),
+      xkbEvent_(xcb_get_extension_data(connection, &xcb_xkb_id)->first_event),
       view_(interest.view),
       sink_(std::move(sink)) {
     subscription_ = connection.subscribe([this](const auto& event) { handle(event); });
@@ -89,13 +90,14 @@ void X11KeyboardGrab::handle(const xcb_generic_event_t& event) {
         return;
     }
     // The second byte of each XKB event says which it is.
-    if (event.response_type != keyboard_.xkbEvent() || event.pad0 != XCB_XKB_STATE_NOTIFY)
+    if (event.response_type != xkbEvent_ || event.pad0 != XCB_XKB_STATE_NOTIFY)
         return;
     const auto& state = reinterpret_cast<const xcb_xkb_state_notify_event_t&>(event);
     sink_.event(
         {.type = EventType::flagsChanged,
          .keyCode = keyboard_.positions().position(state.keycode).value_or(kNoKeyCode),
-         .flags = keyboard_.modifiers().flags(state.mods)});
+         .flags = keyboard_.modifiers().flags(state.mods),
+         .isFresh = state.eventType == XCB_KEY_PRESS});
 }
 
 void X11KeyboardGrab::handlePress(const xcb_input_key_press_event_t& press) {
@@ -111,7 +113,8 @@ void X11KeyboardGrab::handlePress(const xcb_input_key_press_event_t& press) {
         {.type = EventType::keyDown,
          .keyCode = keyboard_.positions().position(keycode).value_or(kNoKeyCode),
          .flags = flags,
-         .charactersIgnoringModifiers = labels_.label(keycode, group, shift)});
+         .charactersIgnoringModifiers = labels_.label(keycode, group, shift),
+         .isFresh = !(press.flags & XCB_INPUT_KEY_EVENT_FLAGS_KEY_REPEAT)});
 }
 
 } // namespace velmora

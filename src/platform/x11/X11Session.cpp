@@ -20,7 +20,7 @@ struct X11Session::Services {
           appearance(connection),
           keyboard(connection),
           eventTaps(connection, keyboard),
-          keyboardEvents(keyboard),
+          keyboardEvents(connection, keyboard),
           panelWindows(connection),
           screens(connection),
           trayHost(connection),
