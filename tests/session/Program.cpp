@@ -6,11 +6,10 @@
 namespace velmora::test {
 
 Program::Program(
-    const QString& file, const QStringList& arguments, const QProcessEnvironment& environment,
-    const QString& logFile) {
+    const QString& file, const QProcessEnvironment& environment, const QString& logFile) {
     setProcessEnvironment(environment);
     setStandardErrorFile(logFile, Append);
-    start(file, arguments);
+    start(file, QStringList{});
     if (!waitForStarted())
         throw std::runtime_error("the program did not start");
 }

@@ -14,7 +14,6 @@ public:
         ++questions;
         return trusted;
     }
-    QStringList missingExtensions() const override { return {}; }
 };
 
 } // namespace velmora::test

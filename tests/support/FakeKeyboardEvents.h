@@ -16,7 +16,7 @@ public:
     int sourcesAsked = 0;
     std::vector<KeyboardEvent> posted;
 
-    void prepare() override {}
+    void releaseAbandonedKeys() override {}
 
     std::unique_ptr<EventSource> createEventSource(EventSourceState) override {
         ++sourcesAsked;

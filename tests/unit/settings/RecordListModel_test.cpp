@@ -27,23 +27,16 @@ TEST(RecordListModel, FollowsAnyEditAndKeepsRowsOutsideIt) {
     QList<QUuid> ids;
     for (int round = 0; round < 400; ++round) {
         const QList<QUuid> before = ids;
-        switch (ids.isEmpty() ? 0 : random.bounded(5)) {
-        case 0:
-            ids.insert(random.bounded(int(ids.size()) + 1), QUuid::createUuid());
-            break;
-        case 1:
-            ids.removeAt(random.bounded(int(ids.size())));
-            break;
-        case 2:
-            ids.move(random.bounded(int(ids.size())), random.bounded(int(ids.size())));
-            break;
-        case 3: // an id twice: ids are not checked
-            ids.insert(random.bounded(int(ids.size()) + 1), ids.first());
-            break;
-        default:
-            ids = ids.mid(random.bounded(int(ids.size())));
-            break;
-        }
+        const auto at = [&](qsizetype count) { return random.bounded(int(count)); };
+        const int kind = ids.isEmpty() ? 0 : random.bounded(5);
+        if (kind == 0 || kind == 1) // an id twice: ids are not checked
+            ids.insert(at(ids.size() + 1), kind == 0 ? QUuid::createUuid() : ids.first());
+        else if (kind == 2)
+            ids.removeAt(at(ids.size()));
+        else if (kind == 3)
+            ids.move(at(ids.size()), at(ids.size()));
+        else
+            ids = ids.mid(at(ids.size()));
         const auto first = std::mismatch(before.begin(), before.end(), ids.begin(), ids.end());
         QList<QPersistentModelIndex> kept;
         for (int row = 0; row < first.first - before.begin(); ++row)

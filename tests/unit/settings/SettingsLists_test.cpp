@@ -1,6 +1,5 @@
 // Both tabs over real stores: selection, the commands by button, key, menu and drag.
 
-#include "foundation/Bundle.h"
 #include "foundation/UserDefaults.h"
 #include "input/MouseButtonManager.h"
 #include "model/ShortcutManager.h"
@@ -9,9 +8,9 @@
 #include "settings/RecordRowDelegate.h"
 #include "settings/ShortcutEditorView.h"
 #include "settings/VelmoraSettingsView.h"
-#include "settings/VersionLine.h"
 #include "support/FakeAccessibility.h"
 #include "support/FakeEventTaps.h"
+#include "support/Named.h"
 #include "support/TestDisplay.h"
 #include "viewkit/PopupMenu.h"
 #include "viewkit/Sheet.h"
@@ -36,39 +35,25 @@ protected:
             store_.removeShortcut(0);
         for (const QChar title : u"abcde"_s)
             store_.addShortcut({title, u"star"_s, OpenUrl{u"x:"_s}});
-    }
-
-    void open() {
-        view_.emplace(
-            store_, taps_, [](const std::function<void()>&) {}, Bundle::infoDictionary());
-        view_->resize(600, 500);
-        view_->show();
-        QApplication::setActiveWindow(&*view_);
+        view_.resize(600, 500);
+        view_.show();
+        QApplication::setActiveWindow(&view_);
         EXPECT_TRUE(waitFor([&] { return list().hasFocus(); }));
+        shown();
     }
 
-    RecordListView& list() { return *view_->findChild<RecordListView*>(); }
+    RecordListView& list() { return *view_.findChild<RecordListView*>(); }
     /// The editor's sheet while it is open.
-    Sheet* editor() { return view_->findChild<Sheet*>(); }
+    Sheet* editor() { return view_.findChild<Sheet*>(); }
     QPoint rowCentre(int row) { return list().visualRect(list().model()->index(row, 0)).center(); }
     void clickRow(int row) {
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, rowCentre(row));
     }
-    QPushButton* button(const QString& text) {
-        for (QPushButton* candidate : view_->findChildren<QPushButton*>()) {
-            if (candidate->text() == text)
-                return candidate;
-        }
-        return nullptr;
+    QPushButton* button(const QString& text) { return &test::named<QPushButton>(view_, text); }
+    void press(int key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(&list(), Qt::Key(key), modifiers);
     }
-    bool isEnabled(const QString& text) { return button(text)->isEnabled(); }
 
-    QString stored() const {
-        QString titles;
-        for (const ShortcutButton& shortcut : store_.shortcuts())
-            titles += shortcut.title;
-        return titles;
-    }
     /// What the rows say, once they have followed the store.
     QString shown() {
         EXPECT_TRUE(
@@ -103,51 +88,44 @@ protected:
     UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
     ShortcutManager store_{defaults_};
     test::FakeEventTaps taps_;
-    std::optional<VelmoraSettingsView> view_;
+    VelmoraSettingsView view_{store_, taps_, {}, {}};
 };
 
-TEST_F(SettingsListsTest, SelectionFollowsTheRecordById) {
-    open();
-    EXPECT_FALSE(isEnabled(u"edit"_s));
-    EXPECT_FALSE(isEnabled(u"delete"_s));
+TEST_F(SettingsListsTest, TheSelectionIsARecordAndGoesOnlyWithIt) {
+    EXPECT_FALSE(button(u"edit"_s)->isEnabled());
+    EXPECT_FALSE(button(u"delete"_s)->isEnabled());
     clickRow(2);
-    EXPECT_TRUE(isEnabled(u"edit"_s));
+    EXPECT_TRUE(button(u"edit"_s)->isEnabled());
     ShortcutButton changed = store_.shortcuts().at(2);
     changed.title = u"C"_s;
     store_.updateShortcut(2, changed);
     store_.moveShortcut(2, 0);
     EXPECT_EQ(shown(), u"Cabde"_s);
     EXPECT_EQ(selectedRow(), u"C"_s);
-    QTest::keyClick(&list(), Qt::Key_Delete);
-    EXPECT_EQ(stored(), u"abde"_s);
-    EXPECT_EQ(shown(), u"abde"_s);
-    EXPECT_EQ(selectedRow(), QString());
-    EXPECT_FALSE(isEnabled(u"delete"_s));
-    QTest::keyClick(&list(), Qt::Key_Delete);
-    EXPECT_EQ(stored(), u"abde"_s);
-}
-
-TEST_F(SettingsListsTest, DeleteThatFindsNothingKeepsTheSelection) {
-    open();
+    for (int i = 0; i < 2; ++i) {
+        press(Qt::Key_Delete);
+        EXPECT_EQ(shown(), u"abde"_s);
+        EXPECT_EQ(selectedRow(), QString());
+        EXPECT_FALSE(button(u"delete"_s)->isEnabled());
+    }
     clickRow(1);
     store_.removeShortcut(1);
-    EXPECT_EQ(shown(), u"acde"_s);
-    button(u"delete"_s)->click();
-    EXPECT_EQ(stored(), u"acde"_s);
-    EXPECT_TRUE(isEnabled(u"delete"_s)) << "the selection stays";
-    button(u"edit"_s)->click();
-    EXPECT_FALSE(editor());
-    EXPECT_EQ(selectedRow(), QString()) << "nothing is drawn as selected that is not";
+    EXPECT_EQ(shown(), u"ade"_s);
+    for (const QString& command : {u"delete"_s, u"edit"_s}) {
+        button(command)->click();
+        EXPECT_EQ(shown(), u"ade"_s);
+        EXPECT_FALSE(editor());
+        EXPECT_TRUE(button(command)->isEnabled()) << "the selection stays";
+        EXPECT_EQ(selectedRow(), QString()) << "nothing is drawn as selected that is not";
+    }
 }
 
 TEST_F(SettingsListsTest, TheMenuOfARowIsAboutThatRow) {
-    open();
     clickRow(0);
     QTest::mouseClick(list().viewport(), Qt::RightButton, {}, rowCentre(3));
     EXPECT_EQ(selectedRow(), u"a"_s);
     chooseInMenu(3, u"shortcut_delete"_s);
-    EXPECT_EQ(stored(), u"abce"_s);
-    EXPECT_FALSE(isEnabled(u"delete"_s)) << "nothing is selected";
+    EXPECT_FALSE(button(u"delete"_s)->isEnabled()) << "nothing is selected";
     EXPECT_EQ(shown(), u"abce"_s);
     chooseInMenu(3, u"shortcut_edit"_s);
     ASSERT_TRUE(editor());
@@ -155,7 +133,6 @@ TEST_F(SettingsListsTest, TheMenuOfARowIsAboutThatRow) {
 }
 
 TEST_F(SettingsListsTest, EditorsWorkOnTheStore) {
-    open();
     const auto save = [&](const QString& title) {
         ASSERT_TRUE(editor());
         editor()->findChild<QLineEdit*>()->setText(title);
@@ -164,7 +141,7 @@ TEST_F(SettingsListsTest, EditorsWorkOnTheStore) {
     };
     clickRow(3);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_F2}) {
-        QTest::keyClick(&list(), key);
+        press(key);
         save(key == Qt::Key_F2 ? u"Y"_s : u"X"_s);
     }
     for (const Qt::MouseButton mouseButton : {Qt::MiddleButton, Qt::LeftButton}) {
@@ -173,7 +150,7 @@ TEST_F(SettingsListsTest, EditorsWorkOnTheStore) {
         EXPECT_EQ(editor() != nullptr, mouseButton == Qt::LeftButton);
     }
     save(u"Y"_s);
-    EXPECT_EQ(stored(), u"abcYe"_s);
+    EXPECT_EQ(shown(), u"abcYe"_s);
     button(u"add"_s)->setFocus();
     QTest::keyClick(button(u"add"_s), Qt::Key_Return);
     ASSERT_TRUE(editor());
@@ -182,20 +159,11 @@ TEST_F(SettingsListsTest, EditorsWorkOnTheStore) {
         field->setText(u"Z"_s);
     for (int click = 0; click < 2; ++click)
         QTest::mouseClick(&form->saveButton(), Qt::LeftButton);
-    EXPECT_EQ(stored(), u"abcYeZ"_s) << "once for a double click";
-    ASSERT_TRUE(waitFor([&] { return !editor(); }));
-    store_.removeShortcut(5);
-    button(u"add"_s)->click();
-    ASSERT_TRUE(editor());
-    EXPECT_EQ(editor()->windowTitle(), u"shortcut_add_title"_s);
-    QTest::keyClick(editor()->findChild<QLineEdit*>(), Qt::Key_Escape);
-    ASSERT_TRUE(waitFor([&] { return !editor(); }));
-    EXPECT_EQ(stored(), u"abcYe"_s);
+    EXPECT_EQ(shown(), u"abcYeZ"_s) << "once for a double click";
     EXPECT_EQ(selectedRow(), u"Y"_s);
 }
 
 TEST_F(SettingsListsTest, RowsMoveByDragAndByKey) {
-    open();
     const int height = RecordRowDelegate::rowHeight();
     const auto drag = [&](int row, int y) {
         QTest::mousePress(list().viewport(), Qt::LeftButton, {}, rowCentre(row));
@@ -211,46 +179,39 @@ TEST_F(SettingsListsTest, RowsMoveByDragAndByKey) {
         QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, {100, y});
         return shown();
     };
-    drag(0, 3 * height);
-    EXPECT_EQ(drop(3 * height), u"bcade"_s);
-    EXPECT_EQ(selectedRow(), u"a"_s);
-    drag(4, -50);
-    EXPECT_EQ(drop(-50), u"ebcad"_s);
-    drag(0, 400);
-    EXPECT_EQ(drop(400), u"bcade"_s);
-    drag(1, 1 * height + 2);
-    EXPECT_EQ(drop(1 * height + 2), u"bcade"_s) << "onto its own place";
+    const struct {
+        int row, y;
+        QString expected;
+    } drags[] = {
+        {0, 3 * height, u"bcade"_s},
+        {4, -50, u"ebcad"_s},
+        {0, 400, u"bcade"_s},
+        {1, height + 2, u"bcade"_s}, // onto its own place
+    };
+    for (const auto& [row, y, expected] : drags) {
+        const QString dragged = shown().mid(row, 1);
+        drag(row, y);
+        EXPECT_EQ(drop(y), expected) << row;
+        EXPECT_EQ(selectedRow(), dragged);
+    }
     drag(1, 4 * height);
-    QTest::keyClick(&list(), Qt::Key_Escape);
+    press(Qt::Key_Escape);
     EXPECT_EQ(drop(4 * height), u"bcade"_s) << "called off";
 
     clickRow(4);
-    for (int i = 0; i < 6; ++i) {
-        QTest::keyClick(&list(), Qt::Key_Up, Qt::AltModifier);
-        shown();
-    }
+    for (int i = 0; i < 6; ++i)
+        press(Qt::Key_Up, Qt::AltModifier);
     EXPECT_EQ(shown(), u"ebcad"_s);
-    QTest::keyClick(&list(), Qt::Key_Down, Qt::AltModifier);
-    EXPECT_EQ(shown(), u"becad"_s);
-    EXPECT_EQ(selectedRow(), u"e"_s);
-}
-
-TEST_F(SettingsListsTest, KeysOfOneTurnActOnTheRowsAsTheyAre) {
-    open();
-    clickRow(0);
+    // Keys of one turn act on the rows as they are.
     for (int i = 0; i < 2; ++i)
-        QTest::keyClick(&list(), Qt::Key_Down, Qt::AltModifier);
-    EXPECT_EQ(stored(), u"bcade"_s);
-    QTest::keyClick(&list(), Qt::Key_Delete);
-    QTest::keyClick(&list(), Qt::Key_Home);
-    QTest::keyClick(&list(), Qt::Key_Down);
-    QTest::keyClick(&list(), Qt::Key_Down);
-    QTest::keyClick(&list(), Qt::Key_Down, Qt::AltModifier);
-    EXPECT_EQ(stored(), u"bced"_s);
-    QTest::keyClick(&list(), Qt::Key_Return);
+        press(Qt::Key_Down, Qt::AltModifier);
+    for (const int key : {Qt::Key_Delete, Qt::Key_Home, Qt::Key_Down, Qt::Key_Down})
+        press(key);
+    press(Qt::Key_Down, Qt::AltModifier);
+    press(Qt::Key_Return);
     ASSERT_TRUE(editor());
-    EXPECT_EQ(editor()->findChild<QLineEdit*>()->text(), u"d"_s);
-    EXPECT_EQ(shown(), u"bced"_s);
+    EXPECT_EQ(editor()->findChild<QLineEdit*>()->text(), u"a"_s);
+    EXPECT_EQ(shown(), u"bcda"_s);
 }
 
 TEST_F(SettingsListsTest, MouseBindingsCannotBeMovedAndAddingReplaces) {
@@ -269,15 +230,6 @@ TEST_F(SettingsListsTest, MouseBindingsCannotBeMovedAndAddingReplaces) {
     QTest::keyClick(&rows, Qt::Key_Delete);
     EXPECT_EQ(manager.bindings().size(), 1);
     EXPECT_TRUE(waitFor([&] { return rows.model()->rowCount() == 1; }));
-}
-
-TEST(VersionLine, IsKnownByBothTexts) {
-    const QString shortVersion(Bundle::shortVersionKey);
-    EXPECT_TRUE(versionText(Bundle::infoDictionary()));
-    EXPECT_FALSE(versionText(std::nullopt));
-    EXPECT_FALSE(versionText(QVariantMap{{shortVersion, u"1.0"_s}}));
-    EXPECT_FALSE(
-        versionText(QVariantMap{{shortVersion, u"1.0"_s}, {QString(Bundle::versionKey), 7}}));
 }
 
 } // namespace
