@@ -83,6 +83,10 @@
         <source></source>
         <translation>Bearbeiten</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>Keine gewöhnliche Datei</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Aktion</translation>
@@ -232,6 +236,10 @@
         <source></source>
         <translation>Kein passendes Programm.</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>Keine Programme gefunden.</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Programme durchsuchen</translation>
@@ -263,6 +271,10 @@
     <message id="restart">
         <source></source>
         <translation>Neu starten</translation>
+    </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>Änderungen werden nicht gespeichert, gelten aber bis zum Ende von Velmora: %1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -324,6 +336,10 @@ Velmora ist freie Software unter der MIT-Lizenz. Es wird so bereitgestellt, wie 
 
 Wenn Sie zustimmen, startet Velmora sofort und fragt nicht wieder. Wenn nicht, beenden Sie es hier; dann wird nichts gespeichert.</translation>
     </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>Ihre Antwort kann nicht gespeichert werden; beim nächsten Start werden Sie wieder gefragt: %1</translation>
+    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -339,6 +355,10 @@ Wenn Sie zustimmen, startet Velmora sofort und fragt nicht wieder. Wenn nicht, b
         <translation>Dies ist eine Wayland-Sitzung. Darin erhält nur das Programm im Vordergrund Tastendrücke und Mausklicks. Die Leiste und ihre Knöpfe funktionieren; für Option+M (Alt+M), belegte Maustasten und gesendete Tastenkombinationen ist eine X11-Sitzung nötig.
 
 Meist lässt sie sich auf dem Anmeldebildschirm auswählen.</translation>
+    </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>Dem X-Server fehlt: %1. Die Leiste und ihre Knöpfe funktionieren; für Option+M (Alt+M), belegte Maustasten und gesendete Tastenkombinationen ist das nötig.</translation>
     </message>
     <message id="trust_title">
         <source></source>

@@ -83,6 +83,10 @@
         <source></source>
         <translation>Edit</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>Not a regular file</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Action</translation>
@@ -232,6 +236,10 @@
         <source></source>
         <translation>No application matches.</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>No applications found.</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Search applications</translation>
@@ -263,6 +271,10 @@
     <message id="restart">
         <source></source>
         <translation>Restart</translation>
+    </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>Changes are not stored, but hold until Velmora ends: %1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -324,6 +336,10 @@ Velmora is free software under the MIT licence. It comes as it is, without warra
 
 If you agree, Velmora starts now and does not ask again. If you do not, quit here and nothing is stored.</translation>
     </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>Your answer cannot be stored, and you will be asked again next time: %1</translation>
+    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -339,6 +355,10 @@ If you agree, Velmora starts now and does not ask again. If you do not, quit her
         <translation>This is a Wayland session, which hands keys and mouse buttons only to the application in front. The bar and its buttons work; Option+M (Alt+M), bound mouse buttons and typed key combinations need an X11 session.
 
 You can usually choose one on the login screen.</translation>
+    </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>The X server lacks: %1. The bar and its buttons work; Option+M (Alt+M), bound mouse buttons and typed key combinations need it.</translation>
     </message>
     <message id="trust_title">
         <source></source>

@@ -83,6 +83,10 @@
         <source></source>
         <translation>Editar</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>No es un archivo normal</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Acción</translation>
@@ -232,6 +236,10 @@
         <source></source>
         <translation>Ninguna aplicación coincide.</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>No se encontró ninguna aplicación.</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Buscar aplicaciones</translation>
@@ -263,6 +271,10 @@
     <message id="restart">
         <source></source>
         <translation>Reiniciar</translation>
+    </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>Los cambios no se guardan, pero valen hasta que Velmora se cierre: %1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -324,6 +336,10 @@ Velmora es software libre con licencia MIT. Se ofrece tal cual, sin garantía de
 
 Si acepta, Velmora se inicia de inmediato y no volverá a preguntar. Si no, salga aquí y no se guardará nada.</translation>
     </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>Su respuesta no se puede guardar; se le preguntará de nuevo la próxima vez: %1</translation>
+    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -339,6 +355,10 @@ Si acepta, Velmora se inicia de inmediato y no volverá a preguntar. Si no, salg
         <translation>Esta es una sesión Wayland, en la que solo la aplicación en primer plano recibe las teclas y los botones del ratón. La barra y sus botones funcionan, pero Option+M (Alt+M), los botones del ratón configurados y el envío de combinaciones de teclas necesitan una sesión X11.
 
 Normalmente puede elegirla en la pantalla de inicio de sesión.</translation>
+    </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>Al servidor X le falta: %1. La barra y sus botones funcionan, pero Option+M (Alt+M), los botones del ratón configurados y el envío de combinaciones de teclas lo necesitan.</translation>
     </message>
     <message id="trust_title">
         <source></source>

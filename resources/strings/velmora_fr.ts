@@ -83,6 +83,10 @@
         <source></source>
         <translation>Modifier</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>Ce n’est pas un fichier ordinaire</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Action</translation>
@@ -232,6 +236,10 @@
         <source></source>
         <translation>Aucune application ne correspond.</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>Aucune application trouvée.</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>Rechercher une application</translation>
@@ -263,6 +271,10 @@
     <message id="restart">
         <source></source>
         <translation>Redémarrer</translation>
+    </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>Les modifications ne sont pas enregistrées, mais restent valables jusqu’à la fermeture de Velmora : %1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -324,6 +336,10 @@ Velmora est un logiciel libre sous licence MIT. Il est fourni tel quel, sans gar
 
 Si vous acceptez, Velmora démarre aussitôt et ne posera plus la question. Sinon, quittez ici : rien ne sera enregistré.</translation>
     </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>Votre réponse ne peut pas être enregistrée ; la question reviendra au prochain démarrage : %1</translation>
+    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -339,6 +355,10 @@ Si vous acceptez, Velmora démarre aussitôt et ne posera plus la question. Sino
         <translation>Cette session utilise Wayland, qui ne transmet les touches et les boutons de la souris qu’à l’application au premier plan. La barre et ses boutons fonctionnent ; Option+M (Alt+M), les boutons de souris configurés et l’envoi de combinaisons de touches nécessitent une session X11.
 
 Vous pouvez généralement la choisir sur l’écran de connexion.</translation>
+    </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>Il manque au serveur X : %1. La barre et ses boutons fonctionnent ; Option+M (Alt+M), les boutons de souris configurés et l’envoi de combinaisons de touches en ont besoin.</translation>
     </message>
     <message id="trust_title">
         <source></source>

@@ -83,6 +83,10 @@
         <source></source>
         <translation>編集</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>通常のファイルではありません</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>動作</translation>
@@ -232,6 +236,10 @@
         <source></source>
         <translation>一致するアプリはありません。</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>アプリが見つかりません。</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>アプリを検索</translation>
@@ -263,6 +271,10 @@
     <message id="restart">
         <source></source>
         <translation>再起動</translation>
+    </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>変更は保存されていませんが、Velmora を終了するまで有効です: %1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -324,6 +336,10 @@ VelmoraはMITライセンスのフリーソフトウェアです。現状のま�
 
 同意するとVelmoraがすぐに起動し、次回からこの画面は表示されません。同意しない場合は、ここで終了してください。何も保存されません。</translation>
     </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>回答を保存できないため、次回の起動時に再び確認します: %1</translation>
+    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -339,6 +355,10 @@ VelmoraはMITライセンスのフリーソフトウェアです。現状のま�
         <translation>現在のセッションはWaylandです。Waylandでは、キーとマウスボタンは最前面のアプリケーションにしか届きません。バーとそのボタンは使えますが、Option+M（Alt+M）、割り当てたマウスボタン、キー入力の送信にはX11セッションが必要です。
 
 通常はログイン画面でX11セッションを選べます。</translation>
+    </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>Xサーバーに次の機能がありません：%1。バーとそのボタンは使えますが、Option+M（Alt+M）、割り当てたマウスボタン、キー入力の送信にはこれが必要です。</translation>
     </message>
     <message id="trust_title">
         <source></source>

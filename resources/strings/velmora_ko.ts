@@ -83,6 +83,10 @@
         <source></source>
         <translation>편집</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>일반 파일이 아닙니다</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>동작</translation>
@@ -232,6 +236,10 @@
         <source></source>
         <translation>일치하는 앱이 없습니다.</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>앱을 찾을 수 없습니다.</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>앱 검색</translation>
@@ -263,6 +271,10 @@
     <message id="restart">
         <source></source>
         <translation>다시 시작</translation>
+    </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>변경 사항이 저장되지 않았지만 Velmora를 종료할 때까지 유지됩니다: %1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -324,6 +336,10 @@ Velmora는 MIT 라이선스를 따르는 자유 소프트웨어입니다. 어떠
 
 동의하면 Velmora가 바로 시작되며 다시 묻지 않습니다. 동의하지 않으면 여기에서 종료하십시오. 아무것도 저장되지 않습니다.</translation>
     </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>답변을 저장할 수 없어 다음 시작 때 다시 묻습니다: %1</translation>
+    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -339,6 +355,10 @@ Velmora는 MIT 라이선스를 따르는 자유 소프트웨어입니다. 어떠
         <translation>현재 Wayland 세션입니다. Wayland는 키와 마우스 버튼을 맨 앞의 앱에만 전달합니다. 바와 버튼은 사용할 수 있지만 Option+M(Alt+M), 지정한 마우스 버튼, 키 조합 입력에는 X11 세션이 필요합니다.
 
 보통 로그인 화면에서 X11 세션을 선택할 수 있습니다.</translation>
+    </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>X 서버에 다음 기능이 없습니다: %1. 바와 버튼은 사용할 수 있지만 Option+M(Alt+M), 지정한 마우스 버튼, 키 조합 입력에는 이 기능이 필요합니다.</translation>
     </message>
     <message id="trust_title">
         <source></source>

@@ -83,6 +83,10 @@
         <source></source>
         <translation>编辑</translation>
     </message>
+    <message id="file_not_regular">
+        <source></source>
+        <translation>不是普通文件</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>操作</translation>
@@ -232,6 +236,10 @@
         <source></source>
         <translation>没有匹配的应用程序。</translation>
     </message>
+    <message id="picker_app_none">
+        <source></source>
+        <translation>找不到应用程序。</translation>
+    </message>
     <message id="picker_app_search">
         <source></source>
         <translation>搜索应用程序</translation>
@@ -263,6 +271,10 @@
     <message id="restart">
         <source></source>
         <translation>重新启动</translation>
+    </message>
+    <message id="settings_not_stored_format">
+        <source></source>
+        <translation>更改尚未保存，但在 Velmora 退出前有效：%1</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>
@@ -324,6 +336,10 @@ Velmora 是基于 MIT 许可证的自由软件，按原样提供，不附带任�
 
 如果您同意，Velmora 将立即启动，且不再询问。如果不同意，请在此退出，不会保存任何内容。</translation>
     </message>
+    <message id="tos.not_stored_format">
+        <source></source>
+        <translation>无法保存您的选择，下次启动时会再次询问：%1</translation>
+    </message>
     <message id="tos.quit">
         <source></source>
         <extracomment>Quit Button</extracomment>
@@ -339,6 +355,10 @@ Velmora 是基于 MIT 许可证的自由软件，按原样提供，不附带任�
         <translation>这是 Wayland 会话，按键和鼠标按键只会传给最前面的应用程序。快捷栏及其按钮可以使用；Option+M（Alt+M）、已绑定的鼠标按键以及发送组合键需要 X11 会话。
 
 通常可以在登录界面选择 X11 会话。</translation>
+    </message>
+    <message id="trust_message_extensions">
+        <source></source>
+        <translation>X 服务器缺少：%1。快捷栏及其按钮可以使用；Option+M（Alt+M）、已绑定的鼠标按键以及发送组合键需要它。</translation>
     </message>
     <message id="trust_title">
         <source></source>

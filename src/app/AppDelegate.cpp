@@ -6,6 +6,8 @@
 #include "app/TermsOfServiceWindow.h"
 #include "app/TrustNotice.h"
 #include "foundation/ActionMessages.h"
+#include "foundation/Log.h"
+#include "foundation/SystemRoom.h"
 #include "foundation/UserDefaults.h"
 #include "model/ShortcutManager.h"
 #include "overlay/ContentView.h"
@@ -31,6 +33,17 @@ bool hasAgreed() {
     return UserDefaults::standard().boolean(TermsOfServiceView::agreementKey);
 }
 
+/// Whether the settings and what opens from them have what they take; says so when they have not.
+bool hasRoomForWindows() {
+    constexpr int descriptors = 8;
+    constexpr std::size_t memory = 256 * 1024 * 1024;
+    if (hasSystemRoom(descriptors, memory))
+        return true;
+    Log::write(
+        u"The settings do not open: too few files may be open, or too little memory is left."_s);
+    return false;
+}
+
 } // namespace
 
 AppDelegate::AppDelegate()
@@ -54,8 +67,10 @@ void AppDelegate::setupMainMenu() {
     ActionMessages& messages = ActionMessages::shared();
     messages.setHandler(u"toggleOverlayMenu"_s, [this] { toggleOverlayMenu(); });
     messages.setHandler(u"showSettings"_s, [this] { showSettings(); });
-    messages.setHandler(
-        u"orderFrontStandardAboutPanel:"_s, [] { SettingsWindow::shared().showAboutPanel(); });
+    messages.setHandler(u"orderFrontStandardAboutPanel:"_s, [] {
+        if (hasRoomForWindows())
+            SettingsWindow::shared().showAboutPanel();
+    });
     messages.setHandler(u"quitApp"_s, [this] { quitApp(); });
     messages.setHandler(u"terminate:"_s, [this] { quitApp(); });
 }
@@ -87,7 +102,9 @@ void AppDelegate::showTerms() {
 
 void AppDelegate::startServices() {
     Accessibility& accessibility = Platform::current().accessibility;
-    accessibility.setPromptHandler([] { showTrustNotice(Platform::current().windowActivation); });
+    accessibility.setPromptHandler([&accessibility] {
+        showTrustNotice(Platform::current().windowActivation, accessibility.missingExtensions());
+    });
     // Nothing waits for the answer.
     accessibility.isProcessTrustedWithPrompt();
     setupOverlay();
@@ -126,6 +143,8 @@ void AppDelegate::setupMouseButtonMonitoring() {
 }
 
 void AppDelegate::showSettings() {
+    if (!hasRoomForWindows())
+        return;
     SettingsWindow& settings = SettingsWindow::shared();
     settings.setMainMenu(mainMenu_);
     settings.show();

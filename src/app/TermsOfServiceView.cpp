@@ -3,6 +3,7 @@
 #include "foundation/ActionMessages.h"
 #include "foundation/LocalizedString.h"
 #include "foundation/UserDefaults.h"
+#include "settings/StorageNotice.h"
 #include "viewkit/Theme.h"
 
 #include <QEvent>
@@ -125,6 +126,9 @@ TermsOfServiceView::TermsOfServiceView(UserDefaults& defaults, std::function<voi
     stack->setSpacing(childSpacing);
     stack->addWidget(title);
     stack->addWidget(new TermsText, 1);
+    // Before the question, for it changes what the answer means.
+    defaults.check();
+    stack->addWidget(new StorageNotice(defaults, localizedString("tos.not_stored_format")));
     stack->addLayout(answers);
     setMinimumSize(400, 300);
     setFocusProxy(agree);

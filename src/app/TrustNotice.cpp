@@ -22,7 +22,7 @@ constexpr int padding = 20;
 
 } // namespace
 
-void showTrustNotice(WindowActivation& activation) {
+void showTrustNotice(WindowActivation& activation, const QStringList& missingExtensions) {
     auto* notice = new QDialog;
     notice->setAttribute(Qt::WA_DeleteOnClose);
     notice->setWindowTitle(u"Velmora"_s);
@@ -36,7 +36,10 @@ void showTrustNotice(WindowActivation& activation) {
     titleFont.setWeight(QFont::DemiBold);
     title->setFont(titleFont);
 
-    auto* message = new QLabel(localizedString("trust_message"));
+    auto* message = new QLabel(
+        missingExtensions.isEmpty()
+            ? localizedString("trust_message")
+            : localizedString("trust_message_extensions").arg(missingExtensions.join(u", "_s)));
     message->setTextFormat(Qt::PlainText);
     message->setWordWrap(true);
     message->setFixedWidth(textWidth);

@@ -38,7 +38,7 @@ int VelmoraApp::main() {
     appDelegate = std::make_unique<AppDelegate>();
     QTimer::singleShot(0, appDelegate.get(), &AppDelegate::applicationDidFinishLaunching);
     new AfterFirstPaint(QCoreApplication::instance(), [] {
-        Platform::current().keyboardEvents.releaseAbandonedKeys();
+        Platform::current().keyboardEvents.prepare();
     });
     const int status = QApplication::exec();
     // A launch from here on must not count on this instance.

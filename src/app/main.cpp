@@ -1,9 +1,10 @@
 // Picks the session's services and runs the application on them.
 
 #include "app/AfterFirstPaint.h"
+#include "app/LastWords.h"
 #include "app/VelmoraApp.h"
 #include "foundation/HomeFolder.h"
-#include "foundation/Log.h"
+#include "foundation/SystemRoom.h"
 #include "platform/EitherAppearance.h"
 #include "platform/EitherTrayHost.h"
 #include "platform/Platform.h"
@@ -14,6 +15,7 @@
 #include "platform/x11/X11Session.h"
 
 #include <QApplication>
+#include <array>
 #include <clocale>
 #include <csignal>
 #include <cstdlib>
@@ -21,11 +23,16 @@
 #include <fontconfig/fontconfig.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
 
 namespace {
+
+/// What a start takes, with something left for its first commands.
+constexpr int startDescriptors = 24;
+constexpr std::size_t startMemory = 192 * 1024 * 1024;
 
 /// Sees to what the program inherits from whoever started it.
 void tidyInheritance() {
@@ -41,16 +48,37 @@ void tidyInheritance() {
     ensureHomeFolder();
 }
 
+/// The program's arguments for Qt, with the platform and the display at the end, where they come
+/// before anything else that the user or the session says: the services are those of this very X
+/// server. Not through the environment, which whatever is launched from here inherits.
+class QtArguments {
+public:
+    QtArguments(int count, char** values) : values_(values, values + count) {
+        for (QByteArray& value : own_)
+            values_.push_back(value.data());
+        count_ = static_cast<int>(values_.size());
+        values_.push_back(nullptr);
+    }
+
+    int& count() { return count_; }
+    char** values() { return values_.data(); }
+
+private:
+    std::array<QByteArray, 4> own_{"-platform", "xcb", "-display", qgetenv("DISPLAY")};
+    std::vector<char*> values_;
+    int count_;
+};
+
 } // namespace
 
 int main(int argc, char** argv) {
     tidyInheritance();
-    // Before Qt, which aborts without a display.
+    installLastWords();
+    if (!hasSystemRoom(startDescriptors, startMemory))
+        endWithReason("too few files may be open, or too little memory is left.");
     const auto session = X11Session::create();
-    if (!session) {
-        Log::write(u"Velmora needs an X11 display; none answers."_s);
-        return EXIT_FAILURE;
-    }
+    if (!session)
+        endWithReason("it needs an X11 display, and none answers.");
     if (!session->singleInstance().claim())
         return EXIT_SUCCESS; // the one that runs comes forward
     QApplication::setApplicationName(u"velmora"_s);
@@ -62,7 +90,8 @@ int main(int argc, char** argv) {
     std::jthread fontConfiguration([] { FcInit(); });
     // Before the application object, whose end waits for the threads that use it.
     LateWorkspace workspace;
-    QApplication application(argc, argv);
+    QtArguments arguments(argc, argv);
+    QApplication application(arguments.count(), arguments.values());
     LateAppearance lateAppearance;
     EitherAppearance appearance(lateAppearance, session->appearance());
     StatusNotifierTrayHost statusNotifierTrayHost;

@@ -1,18 +1,25 @@
 #include "foundation/UserDefaults.h"
 
+#include "foundation/Log.h"
+
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QStandardPaths>
-#include <fcntl.h>
+#include <algorithm>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace velmora {
 namespace {
+
+/// Bytes; a thousand buttons take a third of a million.
+constexpr qint64 sizeLimit = 64 * 1024 * 1024;
+
+constexpr std::chrono::milliseconds longestPause = 1min;
 
 /// The user's configuration folder. A relative $XDG_CONFIG_HOME is to be ignored, which
 /// QStandardPaths does not do.
@@ -21,100 +28,159 @@ QString configurationFolder() {
     return QDir::isAbsolutePath(folder) ? folder : QDir::homePath() + u"/.config"_s;
 }
 
-/// Makes a missing file, empty, and its folder for the user's eyes only: a shell command may hold
-/// a secret. QSettings by itself would make both readable to everyone; it keeps a mode once set.
-void createPrivately(const QString& file) {
-    if (QFileInfo::exists(file))
-        return;
-    const QString folder = QFileInfo(file).absolutePath();
-    if (!QFileInfo::exists(folder)) {
-        QDir().mkpath(QFileInfo(folder).absolutePath());
-        ::mkdir(QFile::encodeName(folder).constData(), 0700);
-    }
-    const int descriptor =
-        ::open(QFile::encodeName(file).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    if (descriptor >= 0)
-        ::close(descriptor);
-}
-
-/// QSettings waits 30 seconds for a lock whose holder it cannot tell, such as the empty one of a
-/// process killed between making it and filling it. Writing takes milliseconds, so a lock of some
-/// age is abandoned.
-void clearAbandonedLock(const QString& file) {
-    const QString path = file + u".lock"_s;
-    if (!QFileInfo::exists(path))
-        return;
-    QLockFile lock(path);
-    lock.setStaleLockTime(100);
-    lock.tryLock(200);
-}
-
-/// Copies the file beside itself; earlier copies stay.
-bool keepAside(const QString& file) {
-    QString copy = file + u".unreadable"_s;
-    for (int number = 2; QFileInfo::exists(copy); ++number)
-        copy = file + u".unreadable-%1"_s.arg(number);
-    return QFile::copy(file, copy);
+/// Makes the folder if it is missing, for the user's eyes only: a shell command may hold
+/// a secret. Whether it was made; that it cannot be is found out by who writes into it.
+bool makeFolder(const QString& folder) {
+    if (QFileInfo::exists(folder))
+        return false;
+    QDir().mkpath(QFileInfo(folder).absolutePath());
+    return ::mkdir(QFile::encodeName(folder).constData(), 0700) == 0;
 }
 
 } // namespace
 
 UserDefaults& UserDefaults::standard() {
-    static auto* instance = new UserDefaults(configurationFolder() + u"/velmora/velmora.conf"_s);
+    static auto* const instance = [] {
+        auto* const made = new UserDefaults(configurationFolder() + u"/velmora/velmora.conf"_s);
+        // The last chance of what could not be written so far.
+        connect(qApp, &QCoreApplication::aboutToQuit, made, [made] {
+            if (!made->unsaved_.isEmpty())
+                made->save();
+        });
+        return made;
+    }();
     return *instance;
 }
 
-UserDefaults::UserDefaults(const QString& file)
-    : file_(file), settings_(file, QSettings::IniFormat) {
-    settings_.setFallbacksEnabled(false);
+UserDefaults::UserDefaults(const QString& file, std::chrono::milliseconds pause)
+    : file_(file), firstPause_(pause), pause_(pause) {
+    retry_.setSingleShot(true);
+    connect(&retry_, &QTimer::timeout, this, [this] {
+        pause_ = std::min(2 * pause_, longestPause);
+        save();
+    });
+    try {
+        RegularFile::removeAbandoned(file_);
+        takeIn();
+    } catch (const FileError& error) {
+        unread_ = error;
+        setFailure(error.reason);
+    }
 }
 
 std::optional<QByteArray> UserDefaults::data(const QString& key) const {
-    const QVariant stored = value(key);
-    if (!stored.isValid())
-        return std::nullopt;
-    if (stored.typeId() == QMetaType::QByteArray)
-        return stored.toByteArray();
-    // A value cut short or written by hand reads as text, or as a list where it has commas.
-    return stored.toStringList().join(u',').toUtf8();
+    const auto unsaved = unsaved_.constFind(key.toLatin1());
+    return unsaved == unsaved_.cend() ? text_.value(key.toLatin1()) : IniText::read(*unsaved);
 }
 
 void UserDefaults::setData(const QString& key, const QByteArray& value) {
-    write(key, value);
+    write(key, IniText::written(value));
 }
 
 bool UserDefaults::boolean(const QString& key) const {
-    return value(key).toBool();
+    const QByteArray value = data(key).value_or(QByteArray()).toLower();
+    return !value.isEmpty() && value != "false" && value != "0";
 }
 
 void UserDefaults::setBoolean(const QString& key, bool value) {
-    write(key, value);
+    write(key, IniText::written(value));
 }
 
-QVariant UserDefaults::value(const QString& key) const {
-    return pending_.contains(key) ? pending_.value(key) : settings_.value(key);
+void UserDefaults::write(const QString& key, const QByteArray& written) {
+    unsaved_.insert(key.toLatin1(), written);
+    save();
 }
 
-void UserDefaults::write(const QString& key, const QVariant& value) {
-    pending_.insert(key, value);
-    if (!prepareFile())
+void UserDefaults::refresh() {
+    try {
+        takeIn();
+    } catch (const FileError&) { // which the next save meets as well, and tells
+    }
+}
+
+void UserDefaults::save() {
+    try {
+        takeIn();
+        keepAside();
+        IniText changed = text_;
+        for (auto value = unsaved_.cbegin(); value != unsaved_.cend(); ++value)
+            changed.set(value.key(), value.value());
+        const QByteArray bytes = changed.text();
+        if (bytes.size() > sizeLimit)
+            throw FileError(EFBIG);
+        makeFolder(QFileInfo(file_).absolutePath());
+        state_ = RegularFile::replace(file_, bytes);
+        text_ = changed;
+        unsaved_.clear();
+        setFailure({});
+    } catch (const FileError& error) {
+        setFailure(error.reason);
+    }
+}
+
+void UserDefaults::check() {
+    const QString folder = QFileInfo(file_).absolutePath();
+    const bool made = makeFolder(folder);
+    try {
+        takeIn();
+        RegularFile::rehearse(file_, text_.text());
+        setFailure({});
+    } catch (const FileError& error) {
+        setFailure(error.reason);
+    }
+    if (made)
+        QDir().rmdir(folder);
+}
+
+/// Reads the file if it is another than the one last read or written. One that has gone is known
+/// still. Throws a FileError.
+void UserDefaults::takeIn() {
+    const auto state = RegularFile::state(file_);
+    if (state && unread_)
+        throw FileError(*unread_);
+    unread_.reset();
+    if (!state || state == state_)
         return;
-    for (auto entry = pending_.cbegin(); entry != pending_.cend(); ++entry)
-        settings_.setValue(entry.key(), entry.value());
-    pending_.clear();
-    settings_.sync();
+    const auto contents = RegularFile::read(file_, sizeLimit);
+    if (!contents)
+        return;
+    text_ = IniText(contents->bytes);
+    state_ = contents->state;
+    unparsed_.clear();
+    if (const qsizetype line = text_.firstBadLine(); line > 0) {
+        unparsed_ = contents->bytes;
+        Log::write(u"⚠️ %1: line %2 is no setting."_s.arg(file_, QString::number(line)));
+    }
 }
 
-/// Whether what the file holds may be replaced now.
-bool UserDefaults::prepareFile() {
-    createPrivately(file_);
-    clearAbandonedLock(file_);
-    settings_.sync();
-    // Sections are parsed when first asked for; only then is it known whether they are well-formed.
-    settings_.allKeys();
-    if (settings_.status() == QSettings::FormatError && !keptAside_)
-        keptAside_ = keepAside(file_);
-    return settings_.status() != QSettings::FormatError || keptAside_;
+/// Copies a file that does not parse beside itself; earlier copies stay. Throws a FileError.
+void UserDefaults::keepAside() {
+    if (unparsed_.isEmpty())
+        return;
+    QString copy = file_ + u".unreadable"_s;
+    for (int number = 2; QFileInfo::exists(copy); ++number)
+        copy = file_ + u".unreadable-%1"_s.arg(number);
+    RegularFile::replace(copy, unparsed_);
+    unparsed_.clear();
+    Log::write(u"⚠️ What it held is kept as %1."_s.arg(copy));
+}
+
+/// Tells the log when writing begins to fail and when it works again, the settings each time.
+void UserDefaults::setFailure(const QString& reason) {
+    if (unsaved_.isEmpty()) {
+        retry_.stop();
+        pause_ = firstPause_;
+    } else {
+        retry_.start(pause_);
+    }
+    if (reason == failure_)
+        return;
+    if (failure_.isEmpty())
+        Log::write(u"⚠️ %1 cannot keep the settings: %2"_s.arg(file_, reason));
+    else if (reason.isEmpty())
+        Log::write(u"✅ %1 keeps the settings again."_s.arg(file_));
+    failure_ = reason;
+    Q_EMIT failureChanged();
 }
 
 } // namespace velmora

@@ -23,8 +23,7 @@ MouseButtonManager& MouseButtonManager::shared() {
 MouseButtonManager::MouseButtonManager(
     UserDefaults& defaults, EventTaps& eventTaps, Accessibility& accessibility, Execute execute,
     std::chrono::milliseconds retryPeriod)
-    : userDefaultsKey_(u"SavedMouseBindings"_s),
-      defaults_(defaults),
+    : storage_(defaults, u"SavedMouseBindings"_s, readMouseButtonBinding),
       eventTaps_(eventTaps),
       accessibility_(accessibility),
       execute_(std::move(execute)),
@@ -100,22 +99,12 @@ void MouseButtonManager::updateBinding(qsizetype index, const MouseButtonBinding
 }
 
 void MouseButtonManager::saveBindings() {
-    defaults_.setData(userDefaultsKey_, encodedList(bindings_));
+    storage_.save(bindings_);
 }
 
 void MouseButtonManager::loadBindings() {
-    const auto stored = defaults_.data(userDefaultsKey_);
-    if (!stored)
-        return;
-    auto decoded = decodedList(*stored, readMouseButtonBinding);
-    if (std::holds_alternative<DecodingError>(decoded)) {
-        // The next save replaces these bytes; they may be all that is left of the user's list.
-        const QString copyKey = userDefaultsKey_ + u".unreadable"_s;
-        if (!stored->isEmpty() && defaults_.data(copyKey) != stored)
-            defaults_.setData(copyKey, *stored);
-        return;
-    }
-    setBindings(std::get<0>(std::move(decoded)));
+    if (auto stored = storage_.load())
+        setBindings(*std::move(stored));
 }
 
 void MouseButtonManager::setBindings(QList<MouseButtonBinding> bindings) {

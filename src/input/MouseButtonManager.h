@@ -2,6 +2,7 @@
 
 #include "input/MouseButtonBinding.h"
 #include "input/TrustPoll.h"
+#include "model/ListStorage.h"
 #include "platform/EventTap.h"
 
 #include <QList>
@@ -11,8 +12,6 @@
 #include <optional>
 
 namespace velmora {
-
-class UserDefaults;
 
 /// The mouse button bindings, kept in the user defaults and observable, and the watch over the
 /// session's extra mouse buttons that carries them out. Presses of buttons without a binding are
@@ -61,8 +60,7 @@ private:
     void setBindings(QList<MouseButtonBinding> bindings);
     TapInterest::MouseButtons boundButtons() const;
 
-    const QString userDefaultsKey_;
-    UserDefaults& defaults_;
+    ListStorage<MouseButtonBinding> storage_;
     EventTaps& eventTaps_;
     Accessibility& accessibility_;
     const Execute execute_;

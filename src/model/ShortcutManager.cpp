@@ -1,7 +1,6 @@
 #include "model/ShortcutManager.h"
 
 #include "foundation/UserDefaults.h"
-#include "model/StoredForm.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +12,7 @@ ShortcutManager& ShortcutManager::shared() {
 }
 
 ShortcutManager::ShortcutManager(UserDefaults& defaults)
-    : userDefaultsKey(u"SavedShortcuts"_s), defaults_(defaults) {
+    : userDefaultsKey(u"SavedShortcuts"_s), storage_(defaults, userDefaultsKey, readButton) {
     loadShortcuts();
     if (shortcuts_.isEmpty())
         createDefaultShortcuts();
@@ -65,21 +64,15 @@ void ShortcutManager::moveShortcut(qsizetype source, qsizetype destination) {
 }
 
 void ShortcutManager::saveShortcuts() {
-    defaults_.setData(userDefaultsKey, encodedList(shortcuts_));
+    storage_.save(shortcuts_);
 }
 
 void ShortcutManager::loadShortcuts() {
-    const auto stored = defaults_.data(userDefaultsKey);
+    auto stored = storage_.load();
     if (!stored)
         return;
-    auto decoded = decodedList(*stored, readButton);
-    if (std::holds_alternative<DecodingError>(decoded)) {
-        if (!stored->isEmpty())
-            defaults_.setData(userDefaultsKey + u".unreadable"_s, *stored);
-        return;
-    }
     Q_EMIT shortcutsWillChange();
-    shortcuts_ = std::get<0>(std::move(decoded));
+    shortcuts_ = *std::move(stored);
 }
 
 bool ShortcutManager::holds(qsizetype index) const {

@@ -1,13 +1,12 @@
 #pragma once
 
+#include "model/ListStorage.h"
 #include "model/ShortcutButton.h"
 
 #include <QList>
 #include <QObject>
 
 namespace velmora {
-
-class UserDefaults;
 
 /// The ordered list of bar buttons, kept in the user defaults and observable. Main thread only.
 /// Every successful operation changes the list and then saves it; an index or offset out of range
@@ -18,8 +17,7 @@ public:
     /// The process-wide list over the standard user defaults, made on first use, never destroyed.
     static ShortcutManager& shared();
 
-    /// Loads the stored list; without a usable one, creates and saves the four defaults. Stored
-    /// bytes that do not decode are kept under `userDefaultsKey` + ".unreadable" first.
+    /// Loads the stored list; without a usable one, creates and saves the four defaults.
     explicit ShortcutManager(UserDefaults& defaults);
 
     const QString userDefaultsKey;
@@ -47,7 +45,7 @@ private:
     void loadShortcuts();
     bool holds(qsizetype index) const;
 
-    UserDefaults& defaults_;
+    ListStorage<ShortcutButton> storage_;
     QList<ShortcutButton> shortcuts_;
 };
 

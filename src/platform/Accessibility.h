@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <functional>
 
 namespace velmora {
@@ -11,6 +12,10 @@ public:
 
     /// AXIsProcessTrusted: the answer, without telling the user anything.
     virtual bool isProcessTrusted() const = 0;
+
+    /// What the display server lacks that trust needs, by name. Empty with trust, and where it is
+    /// the kind of session (Wayland) that gives none.
+    virtual QStringList missingExtensions() const = 0;
 
     /// AXIsProcessTrustedWithOptions with kAXTrustedCheckOptionPrompt: the same answer; when it is
     /// no, the user is told (once a process, however often this is asked).

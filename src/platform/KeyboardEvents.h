@@ -34,15 +34,16 @@ class KeyboardEvents {
 public:
     virtual ~KeyboardEvents() = default;
 
-    /// Lets go of the keys that an earlier process left down when it was killed between a press and
-    /// its release. Call once at start.
-    virtual void releaseAbandonedKeys() = 0;
+    /// Makes ready what the first key needs, so that it is as quick as later ones, and lets go of
+    /// the keys that an earlier process left down when it was killed between a press and its
+    /// release. Call once at start, when nothing more urgent is left to do.
+    virtual void prepare() = 0;
 
     /// An event source, or nothing when the session cannot synthesise keys.
     virtual std::unique_ptr<EventSource> createEventSource(EventSourceState state) = 0;
 
-    /// An event for the key at `keyCode`, or nothing when no such key exists on this keyboard. Its
-    /// flags are those of the session at this moment.
+    /// An event for the key at `keyCode`, or nothing when no such key exists on this keyboard. Set
+    /// its flags: those it starts with are the session's choice.
     virtual std::optional<KeyboardEvent>
     createKeyboardEvent(EventSource& source, KeyCode keyCode, bool keyDown) = 0;
 

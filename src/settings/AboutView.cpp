@@ -8,8 +8,9 @@
 #include "viewkit/Theme.h"
 
 #include <QLabel>
-#include <QPixmap>
+#include <QPainter>
 #include <QPushButton>
+#include <QSvgRenderer>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -21,15 +22,24 @@ constexpr int panelWidth = 300;
 constexpr int iconSide = 64;
 constexpr int margin = 24;
 
-QLabel* iconLabel() {
-    auto* label = new QLabel;
-    label->setFixedSize(iconSide, iconSide);
-    label->setScaledContents(true);
-    label->setAccessibleName(u"Velmora"_s);
-    if (const auto file = Bundle::path(u"i-menu"_s, u"png"_s, u"icon"_s))
-        label->setPixmap(QPixmap(*file));
-    return label;
-}
+/// The program's icon, sharp at any scale.
+class ProgramIcon : public QWidget {
+public:
+    ProgramIcon() {
+        setFixedSize(iconSide, iconSide);
+        if (const auto file = Bundle::path(u"i-menu"_s, u"svg"_s, u"icon"_s))
+            drawing_.load(*file);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        drawing_.render(&painter, rect());
+    }
+
+private:
+    QSvgRenderer drawing_;
+};
 
 QLabel* smallText(const QString& text) {
     auto* label = new QLabel(text);
@@ -52,7 +62,7 @@ AboutView::AboutView(const std::optional<QVariantMap>& infoDictionary) {
     auto* stack = new QVBoxLayout(this);
     stack->setContentsMargins(margin, margin, margin, margin);
     stack->setSpacing(Theme::defaultSpacing);
-    stack->addWidget(iconLabel(), 0, Qt::AlignHCenter);
+    stack->addWidget(new ProgramIcon, 0, Qt::AlignHCenter);
     stack->addWidget(headline(u"Velmora"_s), 0, Qt::AlignHCenter);
     stack->addWidget(
         smallText(versionText(infoDictionary).value_or(localizedString("unknown_version"))));

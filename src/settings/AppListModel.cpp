@@ -20,8 +20,14 @@ AppListModel::AppListModel(QString selectedBundleId)
 void AppListModel::setApps(SearchableApps apps) {
     beginResetModel();
     all_ = std::move(apps);
+    isLoaded_ = true;
     filter();
     endResetModel();
+}
+
+void AppListModel::clear() {
+    setApps({});
+    isLoaded_ = false;
 }
 
 void AppListModel::setSearchText(const QString& text) {

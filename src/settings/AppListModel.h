@@ -26,7 +26,12 @@ public:
 
     explicit AppListModel(QString selectedBundleId);
 
+    /// Shows what a scan found.
     void setApps(SearchableApps apps);
+    /// Empties the list until the next scan.
+    void clear();
+    /// Whether the list shows what a scan found.
+    bool isLoaded() const { return isLoaded_; }
 
     void setSearchText(const QString& text);
     bool isSearching() const { return !searchText_.isEmpty(); }
@@ -48,6 +53,7 @@ private:
 
     QString selectedBundleId_;
     SearchableApps all_;
+    bool isLoaded_ = false;
     QString searchText_; ///< folded
     bool showAllApps_ = false;
     QList<qsizetype> filtered_; ///< positions in `all_`

@@ -137,8 +137,10 @@ bool AppListView::moveCurrent(int key) {
 
 void AppListView::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
-    if (model_.isSearching())
-        paintEmptyHint(*this, localizedString("picker_app_no_match"));
+    if (model_.isLoaded())
+        paintEmptyHint(
+            *this,
+            localizedString(model_.isSearching() ? "picker_app_no_match" : "picker_app_none"));
 }
 
 void AppListView::pickSelected() {

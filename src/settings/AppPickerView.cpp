@@ -95,7 +95,7 @@ void AppPickerView::hideEvent(QHideEvent* event) {
     if (event->spontaneous())
         return;
     scan_.request_stop();
-    model_.setApps({});
+    model_.clear();
 }
 
 void AppPickerView::loadApps() {

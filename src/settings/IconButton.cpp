@@ -58,7 +58,13 @@ void IconButton::paintEvent(QPaintEvent*) {
     const double side = Symbols::sideLength(symbolFontSize);
     QRectF symbol(0, 0, side, side);
     symbol.moveCenter(cell.center());
-    Symbols::paint(painter, icon_, symbol, palette().color(QPalette::WindowText));
+    if (Symbols::contains(icon_)) {
+        Symbols::paint(painter, icon_, symbol, palette().color(QPalette::WindowText));
+        return;
+    }
+    // Stands in for a symbol that is not there: an empty frame, as the bar shows none either.
+    painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1.5, Qt::DashLine));
+    painter.drawRoundedRect(symbol, cornerRadius / 2, cornerRadius / 2);
 }
 
 void IconButton::keyPressEvent(QKeyEvent* event) {

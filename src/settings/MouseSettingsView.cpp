@@ -4,6 +4,7 @@
 #include "input/MouseButtonManager.h"
 #include "settings/MouseBindingEditorView.h"
 #include "settings/RecordListPane.h"
+#include "settings/VersionLine.h"
 
 #include <QVBoxLayout>
 
@@ -52,7 +53,7 @@ MouseSettingsView::MouseSettingsView(MouseButtonManager& mouseManager, EventTaps
          }});
     connect(&store, &MouseButtonManager::bindingsWillChange, pane, &RecordListPane::scheduleReload);
     auto* stack = new QVBoxLayout(this);
-    stack->setContentsMargins(0, 0, 0, 0);
+    stack->setContentsMargins(0, 0, 0, versionLineRoom());
     stack->addWidget(pane);
     setFocusProxy(pane);
 }

@@ -15,6 +15,7 @@ struct SettingsServices {
     EventTaps& eventTaps;
     Relaunch relaunch;
     std::optional<QVariantMap> infoDictionary;
+    int barHeight = 0; ///< points that the bar covers at the top of the primary screen
 };
 
 /// The content of the settings window: its two tabs.

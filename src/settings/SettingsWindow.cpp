@@ -1,15 +1,18 @@
 #include "settings/SettingsWindow.h"
 
 #include "foundation/Bundle.h"
+#include "foundation/LocalizedString.h"
 #include "foundation/Log.h"
 #include "foundation/UserDefaults.h"
 #include "input/MouseButtonManager.h"
 #include "model/ShortcutManager.h"
+#include "overlay/ScreenManager.h"
 #include "platform/Platform.h"
 #include "platform/Relaunch.h"
 #include "platform/WindowActivation.h"
 #include "settings/AboutView.h"
 #include "settings/MainMenuBar.h"
+#include "settings/StorageNotice.h"
 #include "settings/WindowFrame.h"
 #include "viewkit/HeldKeys.h"
 #include "viewkit/Sheet.h"
@@ -21,6 +24,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <QtMath>
 #include <malloc.h>
 
 using namespace Qt::StringLiterals;
@@ -34,11 +38,18 @@ const QString frameKey = u"NSWindow Frame SettingsWindow"_s;
 /// A window that is being dragged is saved when it comes to rest.
 constexpr auto saveDelay = 300ms;
 
-QList<QRect> availableScreens() {
-    QList<QRect> screens;
-    for (const QScreen* screen : QGuiApplication::screens())
-        screens.append(screen->availableGeometry());
-    return screens;
+/// The rooms for windows on the screens, the primary one first: what the desktop's panels leave,
+/// and below the bar.
+QList<QRect> availableAreas(int barHeight) {
+    QList<QRect> areas;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        QRect area = screen->availableGeometry();
+        if (screen == QGuiApplication::primaryScreen())
+            area.setTop(qMax(area.top(), screen->geometry().top() + barHeight));
+        if (!area.isEmpty()) // while no output is connected
+            areas.append(area);
+    }
+    return areas;
 }
 
 } // namespace
@@ -81,7 +92,8 @@ SettingsWindow& SettingsWindow::shared() {
                     [](std::function<void()> completion) {
                         relaunch(Platform::current().singleInstance, std::move(completion));
                     },
-                .infoDictionary = Bundle::infoDictionary()};
+                .infoDictionary = Bundle::infoDictionary(),
+                .barHeight = qCeil(ScreenManager::shared().getMenuBarHeight())};
         });
     return *instance;
 }
@@ -93,6 +105,10 @@ SettingsWindow::SettingsWindow(
     saveTimer_.setSingleShot(true);
     saveTimer_.setInterval(saveDelay);
     connect(&saveTimer_, &QTimer::timeout, this, &SettingsWindow::saveFrame);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
+        if (saveTimer_.isActive())
+            saveFrame();
+    });
 }
 
 SettingsWindow::~SettingsWindow() = default;
@@ -118,34 +134,48 @@ void SettingsWindow::makeWindow() {
     auto* close = new QShortcut(QKeySequence(u"Ctrl+W"_s), window_.get());
     close->setAutoRepeat(false);
     connect(close, &QShortcut::activated, window_.get(), &QWidget::close);
-    auto* view = new SettingsView(services_());
+    const SettingsServices services = services_();
+    auto* view = new SettingsView(services);
     auto* layout = new QVBoxLayout(window_.get());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->setMenuBar(menuBar);
     layout->addWidget(view);
-    restoreFrame();
+    layout->addWidget(new StorageNotice(defaults_, localizedString("settings_not_stored_format")));
+    restoreFrame(*view, services.barHeight);
     view->currentWidget()->setFocus();
 }
 
-void SettingsWindow::restoreFrame() {
+void SettingsWindow::restoreFrame(SettingsView& view, int barHeight) {
     window_->layout()->menuBar()->ensurePolished();
-    const QSize minimum = window_->minimumSizeHint();
-    QRect frame(QPoint(), window_->sizeHint().expandedTo(minimum));
-    if (const QScreen* screen = QGuiApplication::primaryScreen())
-        frame.moveCenter(screen->availableGeometry().center());
     const auto data = defaults_.data(frameKey);
     const auto saved = data ? WindowFrame::decoded(*data) : std::nullopt;
-    frame = saved ? WindowFrame::inReach(*saved, availableScreens(), minimum)
-                  : WindowFrame::onScreen(frame, availableScreens(), minimum);
-    window_->resize(frame.size());
-    window_->move(frame.topLeft());
+    WindowFrame frame = saved.value_or(WindowFrame{{}, window_->sizeHint()});
+    if (const auto areas = availableAreas(barHeight); !areas.isEmpty()) {
+        const QRect area = saved ? frame.homeArea(areas) : areas.first();
+        if (!saved)
+            frame.place = area.center() - frame.outer().center();
+        // A screen too small for the least size gets what there is room for.
+        const QSize menuBar = window_->minimumSizeHint() - view.minimumSize();
+        const QSize room = area.size() - frame.decoration - menuBar;
+        view.setMinimumSize(
+            SettingsView::contentSize.boundedTo(room).expandedTo(view.minimumSizeHint()));
+        frame = frame.fitted(area, window_->minimumSizeHint());
+    }
+    window_->resize(frame.content);
+    window_->move(frame.place);
 }
 
 void SettingsWindow::saveFrame() {
     saveTimer_.stop();
-    if (window_ && !window_->isMaximized() && !window_->isFullScreen())
-        defaults_.setData(frameKey, WindowFrame::encoded({window_->pos(), window_->size()}));
+    if (!window_ || window_->isMaximized() || window_->isFullScreen())
+        return;
+    const QRect outer = window_->frameGeometry();
+    const WindowFrame frame{
+        .place = outer.topLeft(),
+        .content = window_->size(),
+        .decoration = outer.size() - window_->size()};
+    defaults_.setData(frameKey, frame.encoded());
 }
 
 void SettingsWindow::close() {

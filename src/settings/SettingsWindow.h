@@ -43,8 +43,8 @@ private:
     class Window;
 
     void makeWindow();
-    /// Puts the window where it was last, else in the middle of the screen.
-    void restoreFrame();
+    /// Puts the window where it was last, else in the middle of the screen, in reach in any case.
+    void restoreFrame(SettingsView& view, int barHeight);
     void saveFrame();
     void windowWillClose();
 

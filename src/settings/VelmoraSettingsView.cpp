@@ -17,7 +17,6 @@ namespace velmora {
 namespace {
 
 constexpr int restartPadding = 8;
-constexpr int footerPadding = 8;
 
 QString alignmentName(ButtonAlignment alignment) {
     return localizedString(
@@ -72,7 +71,7 @@ VelmoraSettingsView::VelmoraSettingsView(
     connect(restart, &QPushButton::clicked, this, &VelmoraSettingsView::restartApp);
 
     auto* stack = new QVBoxLayout(this);
-    stack->setContentsMargins(0, 0, 0, footerPadding);
+    stack->setContentsMargins(0, 0, 0, 0);
     stack->setSpacing(0);
     stack->addWidget(pane, 1);
     stack->addWidget(new VersionLine(std::move(infoDictionary)));

@@ -5,6 +5,7 @@
 #include "foundation/Log.h"
 #include "viewkit/Theme.h"
 
+#include <QFontMetrics>
 #include <QShowEvent>
 
 using namespace Qt::StringLiterals;
@@ -13,6 +14,7 @@ namespace velmora {
 namespace {
 
 constexpr int captionFontSize = 10;
+constexpr int bottomPadding = 8;
 
 QString description(const std::optional<QVariantMap>& dictionary) {
     if (!dictionary)
@@ -35,13 +37,18 @@ std::optional<QString> versionText(const std::optional<QVariantMap>& infoDiction
     return localizedString("version_format").arg(shortVersion.toString(), build.toString());
 }
 
+int versionLineRoom() {
+    return QFontMetrics(Theme::systemFont(captionFontSize)).height() + bottomPadding;
+}
+
 VersionLine::VersionLine(std::optional<QVariantMap> infoDictionary)
     : infoDictionary_(std::move(infoDictionary)) {
     const auto known = versionText(infoDictionary_);
     isKnown_ = known.has_value();
     setTextFormat(Qt::PlainText);
     setText(known ? *known : localizedString("unknown_version"));
-    setAlignment(Qt::AlignCenter);
+    setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    setFixedHeight(versionLineRoom());
     setFont(Theme::systemFont(captionFontSize));
     if (isKnown_)
         setForegroundRole(QPalette::PlaceholderText);

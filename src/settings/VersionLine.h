@@ -21,6 +21,10 @@ private:
     bool isKnown_;
 };
 
+/// Points at the foot of a tab that hold the line. A tab without one leaves them free, so that the
+/// buttons above stay where they are from tab to tab.
+int versionLineRoom();
+
 /// The localized text of the version, nothing when the dictionary does not hold it.
 std::optional<QString> versionText(const std::optional<QVariantMap>& infoDictionary);
 

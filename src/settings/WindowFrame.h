@@ -5,21 +5,28 @@
 #include <QRect>
 #include <optional>
 
-/// Where a window was, kept between runs. Points, top-left origin of the desktop; the place is that
-/// of the window's frame, the size that of its content.
-namespace velmora::WindowFrame {
+namespace velmora {
 
-/// "x y width height".
-QByteArray encoded(const QRect& frame);
-/// Nothing when `data` is not four numbers with a size above zero.
-std::optional<QRect> decoded(const QByteArray& data);
+/// Where a window was, kept between runs. Points, top-left origin of the desktop.
+struct WindowFrame {
+    QPoint place;  ///< of the top left corner, title bar and borders included
+    QSize content; ///< without title bar and borders
+    /// What title bar and borders add to the content; more than usual as long as none were seen.
+    QSize decoration = {16, 44};
 
-/// `frame`, at least `minimum` large and no larger than all `screens` together: where it is as long
-/// as its title bar can be taken hold of, else as onScreen() has it.
-QRect inReach(const QRect& frame, const QList<QRect>& screens, QSize minimum);
+    /// "x y width height", then the width and the height of the decoration.
+    QByteArray encoded() const;
+    /// Nothing when `data` is not numbers of a desktop with a size above zero. The decoration may
+    /// be missing.
+    static std::optional<WindowFrame> decoded(const QByteArray& data);
 
-/// `frame`, moved and shrunk (to no less than `minimum`) so that it lies with its title bar on one
-/// of `screens`: the one it covers most, else the first.
-QRect onScreen(const QRect& frame, const QList<QRect>& screens, QSize minimum);
+    QRect outer() const { return {place, content + decoration}; }
 
-} // namespace velmora::WindowFrame
+    /// The one of `areas` that the window covers most, else the first; there is one at least.
+    QRect homeArea(const QList<QRect>& areas) const;
+    /// Moved and shrunk, its content to no less than `minimum`, so that all of it lies in `area`;
+    /// where that is too small its top left corner does.
+    WindowFrame fitted(const QRect& area, QSize minimum) const;
+};
+
+} // namespace velmora

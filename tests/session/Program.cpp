@@ -6,10 +6,11 @@
 namespace velmora::test {
 
 Program::Program(
-    const QString& file, const QProcessEnvironment& environment, const QString& logFile) {
+    const QString& file, const QStringList& arguments, const QProcessEnvironment& environment,
+    const QString& logFile) {
     setProcessEnvironment(environment);
     setStandardErrorFile(logFile, Append);
-    start(file, QStringList{});
+    start(file, arguments);
     if (!waitForStarted())
         throw std::runtime_error("the program did not start");
 }

@@ -10,7 +10,9 @@ namespace velmora::test {
 class Program final : public QProcess {
 public:
     /// Starts `file`; its standard error is added to `logFile`. Throws when it cannot be started.
-    Program(const QString& file, const QProcessEnvironment& environment, const QString& logFile);
+    Program(
+        const QString& file, const QStringList& arguments, const QProcessEnvironment& environment,
+        const QString& logFile);
     /// Asks it to end unless it has ended, and looks at its end.
     ~Program() override { end(); }
 

@@ -38,6 +38,8 @@ Session::Session(const Options& options) : options_(options) {
                          u"_SAFE_AREA_INSETS"_s, u"%1, 0, 0, 0"_s.arg(options.topInset)});
     client_ = std::make_unique<XClient>();
     driver_ = std::make_unique<Driver>();
+    if (options.hasBus)
+        display_->startBus(environment(), busAddress());
     QDir().mkpath(QFileInfo(settingsFile()).path());
     QSettings settings(settingsFile(), QSettings::IniFormat);
     if (options.agreed)
@@ -65,7 +67,8 @@ QProcessEnvironment Session::environment() const {
     environment.insert(u"XDG_DATA_HOME"_s, home() + u"/.local/share"_s);
     environment.insert(u"XDG_CACHE_HOME"_s, home() + u"/.cache"_s);
     // Without it Qt starts a bus daemon that outlives the program.
-    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"disabled:"_s);
+    environment.insert(
+        u"DBUS_SESSION_BUS_ADDRESS"_s, options_.hasBus ? busAddress() : u"disabled:"_s);
     // Qt warns when it is missing.
     environment.insert(u"XDG_RUNTIME_DIR"_s, home());
     environment.insert(u"LANG"_s, u"C.UTF-8"_s);
@@ -84,6 +87,10 @@ QProcessEnvironment Session::environment() const {
     return environment;
 }
 
+QString Session::buildTreeProgram() {
+    return QStringLiteral(VELMORA_PROGRAM);
+}
+
 void Session::launch(Launch launch) {
     program_.reset();
     program_ = launchAnother();
@@ -94,7 +101,8 @@ void Session::launch(Launch launch) {
 }
 
 std::unique_ptr<Program> Session::launchAnother() const {
-    return std::make_unique<Program>(QStringLiteral(VELMORA_PROGRAM), environment(), logFile());
+    return std::make_unique<Program>(
+        options_.program, options_.arguments, environment(), logFile());
 }
 
 void Session::expectEndOfSuccessor(qint64 processId) {
@@ -125,11 +133,10 @@ bool Session::waitForLog(const QString& line, int milliseconds) {
 }
 
 std::optional<TopWindow> Session::bar() {
-    // The program's override-redirect window that is as wide as the screen. A window manager's say
-    // nothing about their process.
+    // A window manager's own say nothing about their process; menus and tool tips are narrow.
     for (const TopWindow& window : topWindows(*client_)) {
         if (window.overrideRedirect && window.mapped && window.processId != 0 &&
-            window.geometry.width() == options_.screen.width())
+            2 * window.geometry.width() >= options_.screen.width())
             return window;
     }
     return std::nullopt;

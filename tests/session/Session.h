@@ -26,11 +26,16 @@ public:
         QString windowManager = QStringLiteral("openbox");   ///< empty for none
         bool agreed = true;                                  ///< the terms were agreed to before
         std::optional<QList<ShortcutButton>> shortcuts = {}; ///< stored before the start
+        QString program = buildTreeProgram();
+        QStringList arguments = {};   ///< of each launch
+        bool hasBus = false;          ///< a session bus of its own, with the usual services
         QStringList environment = {}; ///< more "NAME=value", or "NAME" to take one away
     };
     explicit Session(const Options& options);
     Session() : Session(Options{}) {}
     ~Session();
+
+    static QString buildTreeProgram();
 
     enum class Launch { UntilTheBarIsThere, WithoutWaiting };
     /// Starts the program, after the end of the one launched before. Without `agreed` there is no
@@ -45,6 +50,8 @@ public:
 
     /// What programs of this session are started with.
     QProcessEnvironment environment() const;
+    /// Of the bus, if it has one.
+    QString busAddress() const { return QStringLiteral("unix:path=%1/bus").arg(home()); }
 
     /// The home folder, and the file of the stored settings in it.
     QString home() const { return home_.path(); }
@@ -55,7 +62,7 @@ public:
     /// Waits for a log line that equals `line`.
     bool waitForLog(const QString& line, int milliseconds = 10000);
 
-    /// The bar's window on the screen, if it is there.
+    /// The bar's window on the screen, if it is there: the widest that no window manager manages.
     std::optional<TopWindow> bar();
 
     /// A menu that is open now. Asking for the keyboard instead could keep it from the menu.

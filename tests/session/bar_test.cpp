@@ -2,7 +2,9 @@
 
 #include "session/Session.h"
 
+#include <QDir>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
@@ -10,28 +12,108 @@ using namespace velmora::test;
 
 namespace {
 
-TEST(Bar, LiesOverTheMenuBarStrip) {
-    struct Case {
-        int topInset;
-        QStringList environment;
+TEST(Bar, LiesOverTheMenuBarStripToThePixel) {
+    const struct {
         QSize screen;
-        QRect bar;
+        int topInset;
+        QString dpi;
+        QString scale;
+        int height;
+    } cases[] = {
+        {{1512, 982}, 0, {}, {}, 24},
+        {{3024, 1964}, 64, {}, u"2"_s, 64},
+        {{1920, 1080}, 0, u"100"_s, {}, 25},
+        {{1366, 768}, 47, {}, u"1.5"_s, 47},
     };
-    const Case cases[] = {
-        {0, {}, {1512, 982}, {0, 0, 1512, 24}},
-        {32, {}, {1512, 982}, {0, 0, 1512, 32}},
-        {64, {u"QT_SCALE_FACTOR=2"_s}, {3024, 1964}, {0, 0, 3024, 64}},
-        {48, {u"QT_SCALE_FACTOR=1.5"_s}, {2268, 1473}, {0, 0, 2268, 48}},
-    };
-    for (const Case& given : cases) {
-        SCOPED_TRACE(given.bar.height());
+    for (const auto& given : cases) {
+        SCOPED_TRACE(given.height);
         Session session(
-            {.screen = given.screen, .topInset = given.topInset, .environment = given.environment});
+            {.screen = given.screen,
+             .topInset = given.topInset,
+             .environment = given.scale.isEmpty()
+                                ? QStringList()
+                                : QStringList{u"QT_SCALE_FACTOR="_s + given.scale}});
+        if (!given.dpi.isEmpty())
+            session.display().run(
+                u"xprop"_s, {u"-root"_s, u"-f"_s, u"RESOURCE_MANAGER"_s, u"8s"_s, u"-set"_s,
+                             u"RESOURCE_MANAGER"_s, u"Xft.dpi:\t%1\n"_s.arg(given.dpi)});
         session.launch();
-        ASSERT_TRUE(session.bar());
-        EXPECT_EQ(session.bar()->geometry, given.bar);
+        EXPECT_EQ(session.bar()->geometry, QRect(0, 0, given.screen.width(), given.height));
         EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
     }
+}
+
+TEST(Bar, ComesUpOverXWhateverQtIsToldAndPassesThatOn) {
+    Session session(
+        {.shortcuts = {{ShortcutButton(
+             u"Environment"_s, {}, ExecuteShellCommand{u"echo $QT_QPA_PLATFORM $WAYLAND_DISPLAY"_s},
+             ButtonAlignment::left)}},
+         .arguments = {u"-platform"_s, u"minimal"_s},
+         .environment = {
+             u"QT_QPA_PLATFORM=offscreen"_s, u"WAYLAND_DISPLAY=none"_s,
+             u"XDG_SESSION_TYPE=x11"_s}});
+    session.launch();
+    ASSERT_TRUE(waitFor([&] { return session.buttons().size() == 1; }));
+    session.driver().move(session.buttons()[0].center().x(), 12);
+    session.driver().click();
+    EXPECT_TRUE(session.waitForLog(u"📝 Command output: offscreen none"_s));
+}
+
+TEST(Bar, EndsWithALineWhereItCannotStart) {
+    const struct {
+        QStringList environment;
+        QString before; // in a shell
+        QString line;
+    } cases[] = {
+        {{u"DISPLAY"_s}, {}, u"Velmora ends: it needs an X11 display"_s},
+        {{}, u"ulimit -n 9"_s, u"Velmora ends: too few files"_s},
+        {{}, u"ulimit -n 14"_s, u"Velmora ends: too few files"_s},
+    };
+    for (const auto& given : cases) {
+        SCOPED_TRACE(given.line.toStdString());
+        const QString command = given.before + u"\nexec "_s + Session::buildTreeProgram();
+        Session session(
+            {.program = u"/bin/sh"_s,
+             .arguments = {u"-c"_s, command},
+             .environment = given.environment});
+        session.launch(Session::Launch::WithoutWaiting);
+        session.program().expectStatus(EXIT_FAILURE);
+        EXPECT_TRUE(waitFor([&] { return !session.program().isRunning(); }));
+        EXPECT_EQ(session.log().filter(given.line).size(), 1)
+            << session.log().join(u'\n').toStdString();
+    }
+}
+
+TEST(Bar, GoesOnWithoutTheSettingsWhereTheyFindNoRoom) {
+    Session session;
+    session.launch();
+    EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
+    const auto process = static_cast<pid_t>(session.program().processId());
+    const QString folder = u"/proc/%1/"_s.arg(process);
+    const rlim_t files = static_cast<rlim_t>(QDir(folder + u"fd"_s).entryList().size());
+    const rlim_t pages = Session::readFile(folder + u"statm"_s).split(' ')[0].toULongLong();
+    const struct {
+        __rlimit_resource resource;
+        rlim_t limit;
+    } cases[] = {
+        {RLIMIT_NOFILE, files + 2},
+        {RLIMIT_AS, (pages * 4096) + (64 * 1024 * 1024)},
+    };
+    qsizetype refusals = 0;
+    for (const auto& [resource, limit] : cases) {
+        rlimit before{};
+        ASSERT_EQ(::prlimit(process, resource, nullptr, &before), 0);
+        const rlimit tight{limit, before.rlim_max};
+        ASSERT_EQ(::prlimit(process, resource, &tight, nullptr), 0);
+        session.launchAnother()->waitForFinished();
+        EXPECT_TRUE(waitFor([&] {
+            return session.log().filter(u"The settings do not open"_s).size() == refusals + 1;
+        }));
+        ++refusals;
+        ASSERT_EQ(::prlimit(process, resource, &before, nullptr), 0);
+    }
+    session.launchAnother()->waitForFinished();
+    EXPECT_TRUE(session.waitForSettings());
 }
 
 TEST(Bar, EndsQuietlyWithTheServer) {
@@ -48,14 +130,6 @@ TEST(Bar, EndsQuietlyWithTheServer) {
     session.display().kill();
     EXPECT_TRUE(waitFor([&] { return !session.program().isRunning(); }));
     EXPECT_EQ(session.log().size(), 1) << session.log().join(u'\n').toStdString();
-}
-
-TEST(Bar, SaysSoWithoutADisplay) {
-    Session session({.agreed = false, .environment = {u"DISPLAY"_s}});
-    session.launch();
-    session.program().expectStatus(EXIT_FAILURE);
-    EXPECT_TRUE(waitFor([&] { return !session.program().isRunning(); }));
-    EXPECT_EQ(session.log().size(), 1);
 }
 
 TEST(Bar, SaysOnceThatAWaylandSessionKeepsTheKeys) {
@@ -83,10 +157,31 @@ TEST(Bar, SaysOnceThatAWaylandSessionKeepsTheKeys) {
     EXPECT_TRUE(session.waitForLog(u"🚀 Executing action: Open https://www.google.com/"_s));
 }
 
-TEST(Bar, ComesUpWithoutHomeOrBus) {
-    Session session({.environment = {u"HOME"_s, u"DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"_s}});
-    session.launch();
-    EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
+TEST(Bar, ComesUpWithoutHomeOrBusAndStartsNoBus) {
+    for (const QString& bus :
+         {u"DBUS_SESSION_BUS_ADDRESS"_s, u"DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"_s}) {
+        SCOPED_TRACE(bus.toStdString());
+        const QTemporaryDir folder;
+        const QString asked = folder.filePath(u"asked"_s);
+        // What the bus's library runs to start one, at the front of the search path.
+        QFile launcher(folder.filePath(u"dbus-launch"_s));
+        ASSERT_TRUE(launcher.open(QIODevice::WriteOnly));
+        launcher.write("#!/bin/sh\ntouch " + asked.toUtf8() + "\nexit 1\n");
+        launcher.close();
+        launcher.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        Session session(
+            {.environment = {
+                 u"HOME"_s, bus,
+                 u"PATH="_s + folder.path() + u':' + qEnvironmentVariable("PATH")}});
+        session.display().start(u"trayer"_s, {u"--edge"_s, u"bottom"_s});
+        session.launch();
+        EXPECT_TRUE(waitFor([&] {
+            return session.display()
+                       .run(u"xwininfo"_s, {u"-root"_s, u"-tree"_s})
+                       .count("(\"velmora\" \"velmora\")") == 2;
+        })) << "the bar and the tray's item";
+        EXPECT_FALSE(QFile::exists(asked));
+    }
 }
 
 } // namespace

@@ -52,16 +52,6 @@ TEST(Instances, BeforeAgreementASecondLaunchBringsTheTermsForward) {
     }
 }
 
-TEST(Instances, ACrashedOneBlocksNobody) {
-    Session session;
-    for (int round = 0; round < 3; ++round) {
-        session.launch();
-        session.program().kill();
-    }
-    session.launch();
-    EXPECT_EQ(bars(session), 1U);
-}
-
 TEST(Instances, ALaunchTakesOverFromOneThatEnds) {
     Session session;
     auto current = session.launchAnother();

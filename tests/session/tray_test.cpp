@@ -2,6 +2,10 @@
 
 #include "session/Session.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QDBusVirtualObject>
 #include <QFile>
 #include <gmock/gmock.h>
 #include <stdexcept>
@@ -189,28 +193,58 @@ TEST_P(Tray, OpensTheSettingsBeforeAnotherApplication) {
     });
 }
 
-TEST(TrayWithoutABus, HasTheItemAndNoBusIsStarted) {
-    // What the bus's library runs to start one, at the front of the search path.
+/// The bus's list of trays and items, as a desktop runs it before any tray draws.
+class TrayList : public QDBusVirtualObject {
+public:
+    static constexpr auto service = "org.kde.StatusNotifierWatcher"_L1;
+    static constexpr auto path = "/StatusNotifierWatcher"_L1;
+
+    bool hasHost = false;
+    int questions = 0; ///< for a host, answered
+    int items = 0;     ///< that registered
+
+    QString introspect(const QString&) const override {
+        return u"<interface name='%1'><property name='IsStatusNotifierHostRegistered' type='b' "
+               "access='read'/></interface>"_s.arg(service);
+    }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+        if (message.member() == "RegisterStatusNotifierItem"_L1) {
+            ++items;
+            return bus.send(message.createReply());
+        }
+        if (message.member() != "Get"_L1)
+            return false;
+        ++questions;
+        return bus.send(
+            message.createReply(QVariant::fromValue(QDBusVariant(QVariant::fromValue(hasHost)))));
+    }
+};
+
+TEST(TrayOnTheBus, IsWaitedForUntilItHasAHost) {
     const QTemporaryDir folder;
-    const QString asked = folder.path() + u"/asked"_s;
-    QFile launcher(folder.path() + u"/dbus-launch"_s);
-    ASSERT_TRUE(launcher.open(QIODevice::WriteOnly));
-    launcher.write("#!/bin/sh\ntouch " + asked.toUtf8() + "\nexit 1\n");
-    launcher.close();
-    launcher.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-    Session session(
-        {.environment = {
-             u"DBUS_SESSION_BUS_ADDRESS"_s,
-             u"PATH="_s + folder.path() + u':' + qEnvironmentVariable("PATH")}});
-    session.display().start(u"trayer"_s, {u"--edge"_s, u"bottom"_s});
+    const QString address = u"unix:path="_s + folder.path() + u"/bus"_s;
+    Session session({.environment = {u"DBUS_SESSION_BUS_ADDRESS="_s + address}});
+    QProcess& daemon = session.display().start(
+        u"dbus-daemon"_s,
+        {u"--session"_s, u"--nofork"_s, u"--print-address"_s, u"--address="_s + address});
+    ASSERT_TRUE(waitFor([&] { return daemon.canReadLine(); }));
+    QDBusConnection bus = QDBusConnection::connectToBus(address, u"desktop"_s);
+    TrayList list;
+    ASSERT_TRUE(bus.registerVirtualObject(list.path, &list) && bus.registerService(list.service));
     session.launch();
-    const auto ownWindows = [&] {
-        return session.display()
-            .run(u"xwininfo"_s, {u"-root"_s, u"-tree"_s})
-            .count("(\"velmora\" \"velmora\")");
+    const auto announceHost = [&] {
+        bus.send(
+            QDBusMessage::createSignal(list.path, list.service, u"StatusNotifierHostRegistered"_s));
     };
-    EXPECT_TRUE(waitFor([&] { return ownWindows() == 2; })) << "the bar and the item";
-    EXPECT_FALSE(QFile::exists(asked));
+    ASSERT_TRUE(waitFor([&] { return list.questions == 1; }));
+    announceHost(); // one that has gone again
+    ASSERT_TRUE(waitFor([&] { return list.questions == 2; })) << "the first answer has been read";
+    EXPECT_EQ(list.items, 0);
+    list.hasHost = true;
+    announceHost();
+    EXPECT_TRUE(waitFor([&] { return list.items == 1; }));
+    session.program().end();
+    QDBusConnection::disconnectFromBus(u"desktop"_s);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -14,6 +14,7 @@ public:
         ++questions;
         return trusted;
     }
+    QStringList missingExtensions() const override { return {}; }
 };
 
 } // namespace velmora::test

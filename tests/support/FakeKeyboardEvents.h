@@ -16,7 +16,7 @@ public:
     int sourcesAsked = 0;
     std::vector<KeyboardEvent> posted;
 
-    void releaseAbandonedKeys() override {}
+    void prepare() override {}
 
     std::unique_ptr<EventSource> createEventSource(EventSourceState) override {
         ++sourcesAsked;

@@ -71,8 +71,9 @@ QProcess& TestDisplay::start(
 }
 
 QProcess& TestDisplay::startWindowManager(const QString& program) {
-    QProcess& process =
-        program == u"xfwm4" ? start(program, {}, makeXfceEnvironment()) : start(program);
+    QProcess& process = program == u"xfwm4" ? start(program, {}, makeXfceEnvironment())
+                        : program == u"i3"  ? start(program, {u"-c"_s, u"/dev/null"_s})
+                                            : start(program);
     const bool running = waitFor([this] {
         return run(u"xprop"_s, {u"-root"_s, u"_NET_SUPPORTING_WM_CHECK"_s}).contains("window id");
     });
@@ -81,16 +82,22 @@ QProcess& TestDisplay::startWindowManager(const QString& program) {
     return process;
 }
 
+QString TestDisplay::startBus(const QProcessEnvironment& environment, const QString& address) {
+    QStringList arguments{u"--session"_s, u"--nofork"_s, u"--print-address"_s};
+    if (!address.isEmpty())
+        arguments.append(u"--address="_s + address);
+    QProcess& bus = start(u"dbus-daemon"_s, arguments, environment);
+    if (!waitFor([&] { return bus.waitForReadyRead(10) || bus.canReadLine(); }))
+        throw std::runtime_error("no session bus");
+    return QString::fromUtf8(bus.readLine().trimmed());
+}
+
 /// A session bus, which xfwm4 keeps its settings behind, and settings that are strict about the
 /// focus: not its default, but the harder case.
 QProcessEnvironment TestDisplay::makeXfceEnvironment() {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"XDG_CONFIG_HOME"_s, xfceSettings_.path());
-    QProcess& bus =
-        start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s}, environment);
-    if (!waitFor([&] { return bus.waitForReadyRead(10) || bus.canReadLine(); }))
-        throw std::runtime_error("no session bus");
-    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromUtf8(bus.readLine().trimmed()));
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, startBus(environment));
     run(u"xfconf-query"_s,
         {u"-c"_s, u"xfwm4"_s, u"-p"_s, u"/general/prevent_focus_stealing"_s, u"-n"_s, u"-t"_s,
          u"bool"_s, u"-s"_s, u"true"_s},

@@ -27,6 +27,9 @@ public:
     /// Starts a window manager ("openbox", "xfwm4", …) and waits until it has taken over.
     QProcess& startWindowManager(const QString& program);
 
+    /// Starts a session bus for programs with that environment and gives its address.
+    QString startBus(const QProcessEnvironment& environment, const QString& address = {});
+
     /// Runs `program` to its end and gives its standard output.
     QByteArray
     run(const QString& program, const QStringList& arguments,

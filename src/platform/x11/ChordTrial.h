@@ -1,37 +1,35 @@
 #pragma once
 
-#include "platform/x11/X11Connection.h"
-
-#include <memory>
+#include <cstdint>
+#include <xcb/xcb.h>
+#include <xcb/xinput.h>
 
 namespace velmora {
 
 /// Finds out whether another client (a window manager above all) has a key combination for itself,
-/// by trying to grab it. On a connection of its own, so that a combination of ours counts too.
+/// by trying to grab it. Tried on a connection that grabs no keys for other ends: so a combination
+/// of our own counts too.
 class ChordTrial {
 public:
-    /// Nothing when the display takes no more clients.
-    static std::unique_ptr<ChordTrial> open();
+    /// The connection uses XInput 2.
+    explicit ChordTrial(xcb_connection_t* connection);
 
     /// An answer on its way.
     struct Question {
         xcb_void_cookie_t coreGrab;
-        unsigned inputGrab;
-        xcb_get_input_focus_cookie_t letGo; ///< answered when nothing is grabbed any more
+        xcb_input_xi_passive_grab_device_cookie_t inputGrab;
     };
 
-    /// Asks about a key with modifiers; does not wait, so that other answers come with it.
-    Question ask(xcb_keycode_t keycode, uint8_t mask);
+    /// Asks about a key with modifiers; does not wait, so that other answers come with it. What was
+    /// tried is let go of again.
+    Question ask(xcb_keycode_t keycode, uint8_t mask) const;
 
-    /// Waits for the answer: whether the combination is taken. Of what was tried nothing is held
-    /// then.
-    bool isTaken(const Question& question);
+    /// Waits for the answer: whether the combination is taken.
+    bool isTaken(const Question& question) const;
 
 private:
-    explicit ChordTrial(std::unique_ptr<X11Connection> connection);
-
-    std::unique_ptr<X11Connection> connection_;
-    bool hasInput_;
+    xcb_connection_t* connection_;
+    xcb_window_t root_;
 };
 
 } // namespace velmora

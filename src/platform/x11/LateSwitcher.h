@@ -18,11 +18,19 @@ public:
     LateSwitcher(const LateSwitcher&) = delete;
     LateSwitcher& operator=(const LateSwitcher&) = delete;
 
+    /// An answer on its way.
+    struct Question {
+        xcb_grab_keyboard_cookie_t grab;
+        xcb_query_keymap_cookie_t keymap;
+    };
     /// Asks, without side effect, whether another client holds the keyboard at this point of the
-    /// connection's requests.
-    xcb_grab_keyboard_cookie_t askWhetherHeld();
-    /// Waits for the answer.
-    bool isHeld(xcb_grab_keyboard_cookie_t question);
+    /// connection's requests, and which keys are down.
+    Question ask();
+
+    /// Waits for the answer to what was asked when `keycode` had been let go: whether a switcher is
+    /// there and sees the modifiers go. A keyboard frozen by a synchronous grab shows the key as
+    /// down: then the grab says nothing.
+    bool willSeeRelease(const Question& question, xcb_keycode_t keycode);
 
     /// Watches for a client that takes the keyboard although no key is down, and then taps
     /// `modifiers`, with the key `inert` (0 for none) inside: a modifier tapped alone means
@@ -34,8 +42,11 @@ public:
     watch(std::vector<xcb_keycode_t> modifiers, xcb_keycode_t inert, std::function<bool()> isTaken);
 
 private:
+    /// Whether the keyboard is held although no key is down; waits for the answer.
+    bool isHeldWithoutKeys();
     void askManagerToAnswer();
     void check();
+    void tap();
 
     X11Connection& connection_;
     xcb_window_t window_;       ///< never mapped: it cannot get a grab

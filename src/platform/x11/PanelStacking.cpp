@@ -1,35 +1,24 @@
 #include "platform/x11/PanelStacking.h"
 
 #include <algorithm>
+#include <span>
 
 namespace velmora {
-namespace {
 
-bool mayCoverPanel(const WindowAbove& window, const QRect& panelFrame, int screenHeight) {
-    if (!window.overrideRedirect)
-        return false;
-    const bool overWholeScreen =
-        window.frame.contains(panelFrame) && window.frame.height() >= screenHeight;
-    return window.ours || window.transient || overWholeScreen;
-}
-
-} // namespace
-
-std::vector<std::uint32_t> windowsToRaise(
-    std::uint32_t panel, const QRect& panelFrame, int screenHeight,
-    const std::vector<WindowAbove>& above) {
-    const auto intrudes = [&](const WindowAbove& window) {
-        return window.viewable && window.frame.intersects(panelFrame) &&
-               !mayCoverPanel(window, panelFrame, screenHeight);
-    };
-    if (std::none_of(above.begin(), above.end(), intrudes))
+std::vector<Restacking> restackings(std::uint32_t panel, const std::vector<WindowAbove>& above) {
+    const auto isLocker = [](const WindowAbove& window) { return window.cover == Cover::locker; };
+    const auto locker = std::find_if(above.begin(), above.end(), isLocker);
+    std::span below(above.begin(), locker);
+    while (!below.empty() && below.back().cover != Cover::intruder)
+        below = below.first(below.size() - 1);
+    if (below.empty())
         return {};
-    std::vector<std::uint32_t> raises{panel};
-    for (const WindowAbove& window : above) {
-        if (window.viewable && mayCoverPanel(window, panelFrame, screenHeight))
-            raises.push_back(window.id);
+    std::vector<Restacking> steps{{panel, below.back().id}};
+    for (const WindowAbove& window : below) {
+        if (window.cover == Cover::menu)
+            steps.push_back({window.id, steps.back().window});
     }
-    return raises;
+    return steps;
 }
 
 } // namespace velmora

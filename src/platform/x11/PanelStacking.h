@@ -1,27 +1,32 @@
 #pragma once
 
-#include <QRect>
 #include <cstdint>
 #include <vector>
 
 namespace velmora {
 
-/// A top-level window stacked above the panel. Pixels of the root window.
-struct WindowAbove {
-    std::uint32_t id = 0;
-    QRect frame;
-    bool viewable = true;
-    bool overrideRedirect = false;
-    bool ours = false;      ///< made by this process
-    bool transient = false; ///< says it is a menu, a tooltip or an icon being dragged
+/// What a window that covers part of the panel is to it.
+enum class Cover {
+    intruder, ///< belongs below the panel
+    menu,     ///< a menu, a tool tip or an icon being dragged: belongs above it
+    locker,   ///< hides the whole screen, and what lies above it is its own business
 };
 
-/// The windows to raise, first to last, so that nothing covers the panel but what may: our own and
-/// others' menus and tooltips, and windows over the whole height of the panel's screen that no
-/// window manager placed (screen lockers, region selectors). Empty when nothing else covers it.
-/// `above` goes from the panel upwards.
-std::vector<std::uint32_t> windowsToRaise(
-    std::uint32_t panel, const QRect& panelFrame, int screenHeight,
-    const std::vector<WindowAbove>& above);
+/// A top-level window that is seen above the panel and overlaps it.
+struct WindowAbove {
+    std::uint32_t id = 0;
+    Cover cover = Cover::intruder;
+};
+
+/// One step: `window` goes directly above `sibling`.
+struct Restacking {
+    std::uint32_t window = 0;
+    std::uint32_t sibling = 0;
+    bool operator==(const Restacking&) const = default;
+};
+
+/// The steps, first to last, that bring the panel above its intruders and keep it below its menus
+/// and, at every moment, below a locker. None when nothing intrudes. `above` goes upwards.
+std::vector<Restacking> restackings(std::uint32_t panel, const std::vector<WindowAbove>& above);
 
 } // namespace velmora

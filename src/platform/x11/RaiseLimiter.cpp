@@ -7,6 +7,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr RaiseLimiter::Time kLookInterval = 50ms;
 constexpr RaiseLimiter::Time kFirstInterval = 50ms;
 constexpr RaiseLimiter::Time kLongestInterval = 10s;
 constexpr RaiseLimiter::Time kShortestCalm = 1s;
@@ -14,13 +15,18 @@ constexpr RaiseLimiter::Time kShortestCalm = 1s;
 } // namespace
 
 RaiseLimiter::Time RaiseLimiter::delay(Time now) const {
-    return last_ ? std::max(*last_ + interval_ - now, Time(0)) : Time(0);
+    Time next = now;
+    if (lastLook_)
+        next = std::max(next, *lastLook_ + kLookInterval);
+    if (lastRaise_)
+        next = std::max(next, *lastRaise_ + interval_);
+    return next - now;
 }
 
 void RaiseLimiter::raised(Time now) {
-    const bool calm = !last_ || now - *last_ > std::max(2 * interval_, kShortestCalm);
+    const bool calm = !lastRaise_ || now - *lastRaise_ > std::max(2 * interval_, kShortestCalm);
     interval_ = calm ? kFirstInterval : std::min(2 * interval_, kLongestInterval);
-    last_ = now;
+    lastRaise_ = now;
 }
 
 } // namespace velmora

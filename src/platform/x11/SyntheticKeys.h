@@ -1,9 +1,9 @@
 #pragma once
 
-#include <span>
+#include <cstdint>
 #include <xcb/xcb.h>
 
-/// Keys pressed and let go in the user's place.
+/// Keys pressed and let go in the user's place. Requests only, nothing is waited for.
 namespace velmora::SyntheticKeys {
 
 /// A press or a release on the keyboard that XTEST types on. The session's keyboard follows it
@@ -11,9 +11,11 @@ namespace velmora::SyntheticKeys {
 void press(xcb_connection_t* connection, xcb_keycode_t keycode);
 void release(xcb_connection_t* connection, xcb_keycode_t keycode);
 
-/// Makes the session believe again in those of `keycodes` that a real keyboard still reports down,
-/// after they were let go in the user's place. A key that the user has let go meanwhile stays up.
-/// Waits for the server's answers.
-void pressAgainIfHeld(xcb_connection_t* connection, std::span<const xcb_keycode_t> keycodes);
+/// The same on a certain device, as if it came from there. `inputEvents` is the XInput extension's
+/// first event. Each gives the number of its request.
+unsigned
+pressOn(xcb_connection_t* connection, uint8_t inputEvents, uint8_t device, xcb_keycode_t keycode);
+unsigned
+releaseOn(xcb_connection_t* connection, uint8_t inputEvents, uint8_t device, xcb_keycode_t keycode);
 
 } // namespace velmora::SyntheticKeys

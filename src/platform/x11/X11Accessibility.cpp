@@ -8,6 +8,8 @@
 #include <xcb/xinput.h>
 #include <xcb/xtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 namespace {
 
@@ -35,11 +37,15 @@ bool isXwayland(X11Connection& connection) {
 } // namespace
 
 X11Accessibility::X11Accessibility(X11Connection& connection)
-    : trusted_(
-          findExtension(connection, xcb_test_id) && findExtension(connection, xcb_xkb_id) &&
-          offersXInput2(connection) &&
-          !isWaylandSession(
-              isXwayland(connection), qgetenv("XDG_SESSION_TYPE"), qgetenv("WAYLAND_DISPLAY"))) {}
+    : isWayland_(isWaylandSession(
+          isXwayland(connection), qgetenv("XDG_SESSION_TYPE"), qgetenv("WAYLAND_DISPLAY"))) {
+    if (!findExtension(connection, xcb_test_id))
+        missing_.append(u"XTEST"_s);
+    if (!findExtension(connection, xcb_xkb_id))
+        missing_.append(u"XKEYBOARD"_s);
+    if (!offersXInput2(connection))
+        missing_.append(u"XInputExtension 2"_s);
+}
 
 bool isWaylandSession(
     bool serverIsXwayland, const QByteArray& sessionType, const QByteArray& waylandDisplay) {

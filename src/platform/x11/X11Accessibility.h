@@ -14,10 +14,13 @@ class X11Accessibility : public Accessibility {
 public:
     explicit X11Accessibility(X11Connection& connection);
 
-    bool isProcessTrusted() const override { return trusted_; }
+    bool isProcessTrusted() const override { return !isWayland_ && missing_.isEmpty(); }
+    QStringList missingExtensions() const override { return isWayland_ ? QStringList() : missing_; }
 
 private:
-    bool trusted_; ///< nothing it depends on changes while the server runs
+    // Neither changes while the server runs.
+    bool isWayland_;
+    QStringList missing_;
 };
 
 /// Whether X programs are guests of a Wayland session, where they see only part of the input. A

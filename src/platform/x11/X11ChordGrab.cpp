@@ -6,7 +6,6 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace velmora {
 
@@ -19,7 +18,10 @@ X11ChordGrab::X11ChordGrab(
       wanted_(interest),
       sink_(std::move(sink)) {
     subscription_ = connection.subscribe([this](const auto& event) { handle(event); });
-    keyboard.observe(&context_, [this] { sink_.changed(); });
+    keyboard.observe(&context_, [this] {
+        name_.clear();
+        sink_.changed();
+    });
 }
 
 X11ChordGrab::~X11ChordGrab() {
@@ -59,7 +61,7 @@ void X11ChordGrab::grab(const std::vector<std::uint32_t>& states) {
     constexpr std::uint32_t presses = XCB_INPUT_XI_EVENT_MASK_KEY_PRESS;
     const auto cookie = xcb_input_xi_passive_grab_device(
         connection_, XCB_CURRENT_TIME, connection_.root(), XCB_CURSOR_NONE, keycode_,
-        xinput_.masterKeyboard, static_cast<std::uint16_t>(states.size()), 1,
+        XCB_INPUT_DEVICE_ALL_MASTER, static_cast<std::uint16_t>(states.size()), 1,
         XCB_INPUT_GRAB_TYPE_KEYCODE, XCB_INPUT_GRAB_MODE_22_ASYNC, XCB_INPUT_GRAB_MODE_22_ASYNC,
         XCB_INPUT_GRAB_OWNER_NO_OWNER, &presses, states.data());
     const XcbOwned<xcb_input_xi_passive_grab_device_reply_t> reply(
@@ -78,7 +80,7 @@ void X11ChordGrab::ungrab(const std::set<std::uint32_t>& states) {
         return;
     const std::vector<std::uint32_t> list(states.begin(), states.end());
     xcb_input_xi_passive_ungrab_device(
-        connection_, connection_.root(), keycode_, xinput_.masterKeyboard,
+        connection_, connection_.root(), keycode_, XCB_INPUT_DEVICE_ALL_MASTER,
         static_cast<std::uint16_t>(list.size()), XCB_INPUT_GRAB_TYPE_KEYCODE, list.data());
     for (const std::uint32_t state : list)
         held_.erase(state);
@@ -86,12 +88,16 @@ void X11ChordGrab::ungrab(const std::set<std::uint32_t>& states) {
 
 bool X11ChordGrab::adopt(const EventTapInterest& interest) {
     const auto* chord = std::get_if<TapInterest::Chord>(&interest);
-    if (chord)
+    if (chord) {
         wanted_ = *chord;
+        name_.clear();
+    }
     return chord;
 }
 
 QString X11ChordGrab::refusedName() const {
+    if (!name_.isEmpty())
+        return name_;
     const KeyLabels labels = KeyLabels::read(connection_);
     QStringList parts;
     for (const auto& [flag, name] :
@@ -103,12 +109,11 @@ QString X11ChordGrab::refusedName() const {
             parts << name;
     }
     parts << labels.label(keycode_, 0, false).toUpper();
-    return u"⌨️ "_s + parts.join(u'+');
+    return name_ = u"⌨️ "_s + parts.join(u'+');
 }
 
 std::span<const std::chrono::milliseconds> X11ChordGrab::pauses() const {
-    static constexpr std::chrono::milliseconds pauses[] = {100ms, 2s};
-    return pauses;
+    return usualPauses;
 }
 
 void X11ChordGrab::handle(const xcb_generic_event_t& event) {
@@ -118,8 +123,10 @@ void X11ChordGrab::handle(const xcb_generic_event_t& event) {
     // By the press's time: a grab that was made since stays.
     xcb_input_xi_ungrab_device(connection_, press->time, press->deviceid);
     xcb_flush(connection_);
-    // A longer chord that another program had may be free by now; no timer waits for that.
-    obtain();
+    // A longer chord that another program had may be free by now; no timer waits for that. Asked
+    // only once the press is delivered: the answer takes its time.
+    QMetaObject::invokeMethod(
+        &context_, [this] { obtain(); }, Qt::QueuedConnection);
     sink_.event(
         {.type = EventType::keyDown,
          .keyCode = wanted_.keyCode,

@@ -9,7 +9,8 @@
 
 namespace velmora {
 
-/// Presses of a key by position with certain modifiers, in any application. The keyboard is let go
+/// Presses of a key by position with certain modifiers, in any application and on each of the
+/// session's master keyboards, those that come later included. The keyboard is let go
 /// at once on the press, so that the release reaches the application in front and it never loses
 /// the focus for longer than that. Follows the key when the keyboard changes.
 class X11ChordGrab final : public X11Grab {
@@ -20,7 +21,7 @@ public:
     ~X11ChordGrab() override;
 
     /// True also on a keyboard that has no such key, and when another program has a longer chord
-    /// that contains this one: that is asked for again at each press.
+    /// that contains this one: that is asked for again after each press.
     bool obtain() override;
     bool adopt(const EventTapInterest& interest) override;
     QString refusedName() const override;
@@ -38,6 +39,7 @@ private:
     Sink sink_;
     xcb_keycode_t keycode_ = 0;    ///< what is held now, 0 for none
     std::set<std::uint32_t> held_; ///< with these modifier states
+    mutable QString name_;         ///< empty until asked for: it takes milliseconds
     QObject context_;
     X11Connection::Subscription subscription_;
 };

@@ -30,11 +30,17 @@ public:
     /// kind.
     virtual bool adopt(const EventTapInterest& interest) = 0;
 
-    /// What was refused, as the user calls it, at the start of a line.
+    /// What was refused, as the user calls it, at the start of a line. Asked for at each refusal.
     virtual QString refusedName() const = 0;
 
     /// The pauses between tries, by number of refusals.
     virtual std::span<const std::chrono::milliseconds> pauses() const = 0;
+
+    /// For what another program may keep as long as it runs: it may just be about to end, or start
+    /// anew; then every 2 s for a while, then every 10 s.
+    static constexpr std::chrono::milliseconds usualPauses[] = {
+        std::chrono::milliseconds(100), std::chrono::seconds(2), std::chrono::seconds(2),
+        std::chrono::seconds(2),        std::chrono::seconds(2), std::chrono::seconds(10)};
 
     /// Whether a refusal only means waiting, without telling the handler.
     virtual bool waitsForItsTurn() const { return false; }

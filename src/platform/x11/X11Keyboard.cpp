@@ -15,6 +15,7 @@ X11Keyboard::X11Keyboard(X11Connection& connection) : connection_(connection) {
     if (!use || !use->supported)
         return;
     available_ = true;
+    xkbEvent_ = extension->first_event;
     constexpr uint16_t changes =
         XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
     constexpr uint16_t allParts = 0xff;
@@ -26,9 +27,8 @@ X11Keyboard::X11Keyboard(X11Connection& connection) : connection_(connection) {
     changed_.setSingleShot(true);
     changed_.setInterval(20);
     QObject::connect(&changed_, &QTimer::timeout, &changed_, [this] { read(); });
-    const uint8_t xkbEvent = extension->first_event;
-    subscription_ = connection_.subscribe([this, xkbEvent](const xcb_generic_event_t& event) {
-        if ((event.response_type & 0x7f) != xkbEvent)
+    subscription_ = connection_.subscribe([this](const xcb_generic_event_t& event) {
+        if ((event.response_type & 0x7f) != xkbEvent_)
             return;
         // The second byte of each XKB event says which it is.
         const uint8_t kind = event.pad0;

@@ -17,6 +17,9 @@ public:
     /// Whether the server has the XKB extension; without it no key is known.
     bool isAvailable() const { return available_; }
 
+    /// The first event of the XKB extension; 0 without it.
+    uint8_t xkbEvent() const { return xkbEvent_; }
+
     const KeyPositions& positions() const { return positions_; }
     const ModifierMap& modifiers() const { return modifiers_; }
 
@@ -28,6 +31,7 @@ private:
 
     X11Connection& connection_;
     bool available_ = false;
+    uint8_t xkbEvent_ = 0;
     KeyPositions positions_;
     ModifierMap modifiers_;
     QTimer changed_;

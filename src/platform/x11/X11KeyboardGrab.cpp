@@ -13,7 +13,6 @@ X11KeyboardGrab::X11KeyboardGrab(
     : connection_(connection),
       keyboard_(keyboard),
       xinput_(xinput),
-      xkbEvent_(xcb_get_extension_data(connection, &xcb_xkb_id)->first_event),
       view_(interest.view),
       sink_(std::move(sink)) {
     subscription_ = connection.subscribe([this](const auto& event) { handle(event); });
@@ -90,7 +89,7 @@ void X11KeyboardGrab::handle(const xcb_generic_event_t& event) {
         return;
     }
     // The second byte of each XKB event says which it is.
-    if (event.response_type != xkbEvent_ || event.pad0 != XCB_XKB_STATE_NOTIFY)
+    if (event.response_type != keyboard_.xkbEvent() || event.pad0 != XCB_XKB_STATE_NOTIFY)
         return;
     const auto& state = reinterpret_cast<const xcb_xkb_state_notify_event_t&>(event);
     sink_.event(

@@ -33,7 +33,6 @@ private:
     X11Connection& connection_;
     const X11Keyboard& keyboard_;
     XInput xinput_;
-    std::uint8_t xkbEvent_;
     QPointer<QWidget> view_;
     Sink sink_;
     xcb_window_t window_ = XCB_WINDOW_NONE; ///< while the keyboard is ours

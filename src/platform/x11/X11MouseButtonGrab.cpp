@@ -4,10 +4,8 @@
 #include "platform/x11/MouseButtonNumbers.h"
 
 #include <algorithm>
-#include <numeric>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace velmora {
 namespace {
@@ -21,10 +19,13 @@ std::set<xcb_button_t> tappable(const TapInterest::MouseButtons& interest) {
     return buttons;
 }
 
-/// Each state of the eight modifiers.
-std::vector<std::uint16_t> allMasks() {
-    std::vector<std::uint16_t> masks(256);
-    std::iota(masks.begin(), masks.end(), std::uint16_t(0));
+/// The states of the eight modifiers in which a press counts as plain, or all others.
+std::vector<std::uint16_t> masks(const ModifierMap& modifiers, bool plain) {
+    std::vector<std::uint16_t> masks;
+    for (unsigned mask = 0; mask <= 0xff; ++mask) {
+        if (isPlainChord(modifiers, 0, mask) == plain)
+            masks.push_back(static_cast<std::uint16_t>(mask));
+    }
     return masks;
 }
 
@@ -60,20 +61,20 @@ bool X11MouseButtonGrab::obtain() {
 }
 
 void X11MouseButtonGrab::obtainButton(xcb_button_t button) {
-    auto masks = grab(button, {XCB_MOD_MASK_ANY});
-    if (masks.empty()) {
-        // Another client has it with some modifier. That leaves the others.
-        masks = grab(button, allMasks());
-        const auto isTaken = [&](std::uint16_t mask) {
-            return isPlainChord(keyboard_.modifiers(), 0, mask) &&
-                   !std::ranges::binary_search(masks, mask);
-        };
-        if (std::ranges::any_of(allMasks(), isTaken)) {
-            ungrab(button, masks);
+    auto granted = grab(button, {XCB_MOD_MASK_ANY});
+    if (granted.empty()) {
+        // Another client has it with some modifier. If that is the plain press, the rest is not
+        // even asked for: a try that fails costs little, however often.
+        const auto plain = masks(keyboard_.modifiers(), true);
+        granted = grab(button, plain);
+        if (granted.size() < plain.size()) {
+            ungrab(button, granted);
             return;
         }
+        for (const std::uint16_t mask : grab(button, masks(keyboard_.modifiers(), false)))
+            granted.push_back(mask);
     }
-    held_.emplace(button, std::move(masks));
+    held_.emplace(button, std::move(granted));
 }
 
 std::vector<std::uint16_t>
@@ -120,8 +121,7 @@ QString X11MouseButtonGrab::refusedName() const {
 }
 
 std::span<const std::chrono::milliseconds> X11MouseButtonGrab::pauses() const {
-    static constexpr std::chrono::milliseconds pauses[] = {100ms, 2s};
-    return pauses;
+    return usualPauses;
 }
 
 void X11MouseButtonGrab::handle(const xcb_generic_event_t& event) {

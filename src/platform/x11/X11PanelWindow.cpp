@@ -3,6 +3,7 @@
 #include "platform/x11/QtConnection.h"
 #include "platform/x11/X11StackKeeper.h"
 
+#include <QApplication>
 #include <QVBoxLayout>
 #include <xcb/shape.h>
 
@@ -10,14 +11,14 @@ using namespace Qt::StringLiterals;
 
 namespace velmora {
 
-X11PanelWindow::X11PanelWindow(X11Connection& connection, const QRect& frame)
-    : connection_(connection) {
+X11PanelWindow::X11PanelWindow(X11Connection& connection, const PanelFrame& frame)
+    : connection_(connection), extent_(frame.pixels) {
     window_.setWindowFlags(
         Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
         Qt::WindowDoesNotAcceptFocus | Qt::X11BypassWindowManagerHint);
     window_.setWindowTitle(u"Velmora"_s); // for programs that list windows
     window_.setAttribute(Qt::WA_ShowWithoutActivating);
-    window_.setGeometry(frame);
+    window_.setGeometry(frame.points);
     auto* const layout = new QVBoxLayout(&window_);
     layout->setContentsMargins({});
     // The frame is fixed: content that wants more room does not get it.
@@ -65,6 +66,8 @@ void X11PanelWindow::setAlphaValue(double alpha) {
 void X11PanelWindow::orderFrontRegardless() {
     if (window_.size().isEmpty())
         return;
+    qApp->installNativeEventFilter(this); // no matter how often
+    applyExtent();
     window_.show();
     window_.raise();
     applyShapes();
@@ -79,6 +82,24 @@ void X11PanelWindow::setContentView(QWidget* view) {
     // At once, so that the first thing painted is the content in its place.
     window_.layout()->activate();
     view->show();
+}
+
+bool X11PanelWindow::nativeEventFilter(const QByteArray&, void* message, qintptr*) {
+    const auto& event = *static_cast<const xcb_generic_event_t*>(message);
+    return (event.response_type & ~0x80) == XCB_CONFIGURE_NOTIFY &&
+           reinterpret_cast<const xcb_configure_notify_event_t&>(event).window ==
+               window_.internalWinId();
+}
+
+void X11PanelWindow::applyExtent() {
+    const std::uint32_t values[] = {
+        static_cast<std::uint32_t>(extent_.x()), static_cast<std::uint32_t>(extent_.y()),
+        static_cast<std::uint32_t>(extent_.width()), static_cast<std::uint32_t>(extent_.height())};
+    xcb_configure_window(
+        qtConnection(), static_cast<xcb_window_t>(window_.winId()),
+        XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH |
+            XCB_CONFIG_WINDOW_HEIGHT,
+        values);
 }
 
 void X11PanelWindow::applyShapes() {

@@ -2,6 +2,7 @@
 
 #include "platform/PanelWindow.h"
 
+#include <QAbstractNativeEventFilter>
 #include <QWidget>
 #include <memory>
 
@@ -10,13 +11,19 @@ namespace velmora {
 class X11Connection;
 class X11StackKeeper;
 
+/// Where a panel is, from the top left. Qt counts in whole points, which at most scales do not end
+/// where the screen does.
+struct PanelFrame {
+    QRect pixels; ///< the window's extent on the server
+    QRect points; ///< the least one of whole points, in Qt's coordinates, that covers it
+};
+
 /// An override-redirect window: no window manager moves, covers or focuses it. Hiding empties its
 /// shape; it stays mapped, with or without a compositor.
-class X11PanelWindow : public PanelWindow {
+class X11PanelWindow : public PanelWindow, private QAbstractNativeEventFilter {
 public:
-    /// `frame` in Qt's coordinates (points, top-left origin). An empty one never appears: X knows
-    /// no window without an extent.
-    X11PanelWindow(X11Connection& connection, const QRect& frame);
+    /// An empty frame never appears: X knows no window without an extent.
+    X11PanelWindow(X11Connection& connection, const PanelFrame& frame);
     ~X11PanelWindow() override;
 
     void setLevel(int level) override;
@@ -30,11 +37,16 @@ public:
     void setContentView(QWidget* view) override;
 
 private:
+    /// Keeps from Qt what extent the window really has: it would leave out the point that the
+    /// screen's end cuts.
+    bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
+    void applyExtent();
     /// Gives a window on screen the shapes that its state asks for: empty ones, or its whole
     /// extent.
     void applyShapes();
 
     X11Connection& connection_;
+    QRect extent_; ///< pixels
     bool keptAbove_ = false;
     bool invisible_ = false;
     bool ignoresMouseEvents_ = false;

@@ -1,27 +1,10 @@
 #include "platform/x11/X11PanelWindows.h"
 
-#include "platform/x11/X11PanelWindow.h"
-
 #include <QGuiApplication>
 #include <QScreen>
 #include <cmath>
 
 namespace velmora {
-namespace {
-
-/// What rounding in pixel-to-point quotients leaves; far below a pixel.
-constexpr double kRounding = 0.01;
-
-int floorToPoint(double value) {
-    return static_cast<int>(std::floor(value + kRounding));
-}
-
-int ceilToPoint(double value) {
-    return static_cast<int>(std::ceil(value - kRounding));
-}
-
-} // namespace
-
 X11PanelWindows::X11PanelWindows(X11Connection& connection)
     : connection_(connection), screens_(connection) {}
 
@@ -30,20 +13,35 @@ X11PanelWindows::create(const QRectF& contentRect, [[maybe_unused]] unsigned sty
     // Every override-redirect window is a non-activating panel whose content fills it.
     const auto screen = screens_.mainScreen();
     const QScreen* const qtScreen = QGuiApplication::primaryScreen();
+    // Qt leaves the place of a screen in pixels.
     return std::make_unique<X11PanelWindow>(
-        connection_, coveringFrame(
+        connection_, panelFrame(
                          contentRect, screen ? screen->frame.height() : 0,
-                         qtScreen ? qtScreen->geometry().topLeft() : QPoint()));
+                         qtScreen ? qtScreen->geometry().topLeft() : QPoint(),
+                         qtScreen ? qtScreen->devicePixelRatio() : 1));
 }
 
-QRect coveringFrame(const QRectF& contentRect, double screenHeight, QPoint screenOrigin) {
+PanelFrame panelFrame(const QRectF& contentRect, double screenHeight, QPoint origin, double ratio) {
     if (contentRect.isEmpty())
         return {};
+    const auto pixel = [ratio](double points) {
+        return static_cast<int>(std::lround(points * ratio));
+    };
     const QPoint topLeft(
-        floorToPoint(contentRect.left()),
-        floorToPoint(screenHeight - (contentRect.y() + contentRect.height())));
-    const QPoint end(ceilToPoint(contentRect.right()), ceilToPoint(screenHeight - contentRect.y()));
-    return {screenOrigin + topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())};
+        pixel(contentRect.left()), pixel(screenHeight - (contentRect.y() + contentRect.height())));
+    const QPoint end(pixel(contentRect.right()), pixel(screenHeight - contentRect.y()));
+    // What a quotient leaves is far below a pixel.
+    const auto pointBefore = [ratio](int at) {
+        return static_cast<int>(std::floor(at / ratio + 0.01));
+    };
+    const auto pointAfter = [ratio](int at) {
+        return static_cast<int>(std::ceil(at / ratio - 0.01));
+    };
+    const QPoint first(pointBefore(topLeft.x()), pointBefore(topLeft.y()));
+    const QPoint last(pointAfter(end.x()), pointAfter(end.y()));
+    return {
+        .pixels = {origin + topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())},
+        .points = {origin + first, QSize(last.x() - first.x(), last.y() - first.y())}};
 }
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/PanelWindow.h"
+#include "platform/x11/X11PanelWindow.h"
 #include "platform/x11/X11Screens.h"
 
 namespace velmora {
@@ -17,9 +18,9 @@ private:
     X11Screens screens_;
 };
 
-/// The least frame of whole points, in Qt's coordinates (top-left origin), that covers
-/// `contentRect`, which counts from the lower-left corner of the primary screen. `screenOrigin` is
-/// where Qt has that screen's top-left corner. An empty rectangle stays empty.
-QRect coveringFrame(const QRectF& contentRect, double screenHeight, QPoint screenOrigin);
+/// The frame over `contentRect`, which counts in points from the lower-left corner of the primary
+/// screen. The server has that screen's top-left corner at `origin`; a point is `ratio` pixels. An
+/// empty rectangle stays empty.
+PanelFrame panelFrame(const QRectF& contentRect, double screenHeight, QPoint origin, double ratio);
 
 } // namespace velmora

@@ -20,7 +20,7 @@ struct X11Session::Services {
           appearance(connection),
           keyboard(connection),
           eventTaps(connection, keyboard),
-          keyboardEvents(connection, keyboard),
+          keyboardEvents(keyboard),
           panelWindows(connection),
           screens(connection),
           trayHost(connection),

@@ -4,17 +4,37 @@
 #include "platform/x11/WindowQueries.h"
 
 #include <algorithm>
+#include <array>
 #include <span>
 
 namespace velmora {
 namespace {
 
 /// The window types of what other programs pop up for a moment.
-std::vector<xcb_atom_t> transientTypes(X11Connection& connection) {
-    std::vector<xcb_atom_t> types;
-    for (const char* const name : {"DROPDOWN_MENU", "POPUP_MENU", "TOOLTIP", "COMBO", "DND"})
-        types.push_back(connection.atom(QByteArray("_NET_WM_WINDOW_TYPE_") + name));
-    return types;
+constexpr std::array transientTypes = {
+    "_NET_WM_WINDOW_TYPE_DROPDOWN_MENU", "_NET_WM_WINDOW_TYPE_POPUP_MENU",
+    "_NET_WM_WINDOW_TYPE_TOOLTIP", "_NET_WM_WINDOW_TYPE_COMBO", "_NET_WM_WINDOW_TYPE_DND"};
+
+/// The extent with the border, of an event or a reply that tells it.
+template<typename Told>
+QRect frameOf(const Told& told) {
+    return {
+        told.x, told.y, told.width + 2 * told.border_width, told.height + 2 * told.border_width};
+}
+
+QRect readFrame(X11Connection& connection, xcb_window_t window) {
+    const XcbOwned<xcb_get_geometry_reply_t> geometry(
+        xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
+    return geometry ? frameOf(*geometry) : QRect();
+}
+
+std::vector<xcb_window_t> readChildren(X11Connection& connection, xcb_window_t window) {
+    const XcbOwned<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
+    if (!tree)
+        return {};
+    const auto* const first = xcb_query_tree_children(tree.get());
+    return {first, first + xcb_query_tree_children_length(tree.get())};
 }
 
 /// The requests about one window, sent together so that all answers take one round trip.
@@ -22,32 +42,12 @@ struct WindowQuery {
     WindowQuery(X11Connection& connection, xcb_window_t queried)
         : window(queried),
           attributes(xcb_get_window_attributes(connection, queried)),
-          geometry(xcb_get_geometry(connection, queried)),
-          type(xcb_get_property(
-              connection, false, queried, connection.atom("_NET_WM_WINDOW_TYPE"), XCB_ATOM_ATOM, 0,
-              8)) {}
+          geometry(xcb_get_geometry(connection, queried)) {}
 
     xcb_window_t window;
     xcb_get_window_attributes_cookie_t attributes;
     xcb_get_geometry_cookie_t geometry;
-    xcb_get_property_cookie_t type;
 };
-
-/// The window's extent with its border.
-QRect frameOf(const xcb_get_geometry_reply_t& geometry) {
-    return {
-        geometry.x, geometry.y, geometry.width + 2 * geometry.border_width,
-        geometry.height + 2 * geometry.border_width};
-}
-
-bool hasTypeOf(const xcb_get_property_reply_t& property, const std::vector<xcb_atom_t>& types) {
-    if (property.format != 32)
-        return false;
-    const std::span values(
-        static_cast<const xcb_atom_t*>(xcb_get_property_value(&property)), property.value_len);
-    return std::find_first_of(values.begin(), values.end(), types.begin(), types.end()) !=
-           values.end();
-}
 
 } // namespace
 
@@ -58,8 +58,12 @@ X11StackKeeper::X11StackKeeper(X11Connection& connection, xcb_window_t window)
           connection.subscribe([this](const xcb_generic_event_t& event) { handleEvent(event); })) {
     clock_.start();
     checkTimer_.setSingleShot(true);
+    checkTimer_.setTimerType(Qt::PreciseTimer);
     checkTimer_.callOnTimeout([this] { check(false); });
     alsoSelectEvents(connection, connection.root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
+    frame_ = readFrame(connection, window);
+    // What came above before the events were heard.
+    scheduleCheck();
 }
 
 void X11StackKeeper::handleEvent(const xcb_generic_event_t& event) {
@@ -68,26 +72,46 @@ void X11StackKeeper::handleEvent(const xcb_generic_event_t& event) {
         // A new window begins on top, unmapped.
         above_.insert(reinterpret_cast<const xcb_create_notify_event_t&>(event).window);
         break;
+    case XCB_MAP_NOTIFY:
+        if (above_.contains(reinterpret_cast<const xcb_map_notify_event_t&>(event).window))
+            scheduleCheck();
+        break;
+    case XCB_UNMAP_NOTIFY:
+        // With a locker goes the reason to leave what is above it alone.
+        if (covering_.contains(reinterpret_cast<const xcb_unmap_notify_event_t&>(event).window))
+            scheduleCheck();
+        break;
     case XCB_DESTROY_NOTIFY:
         above_.erase(reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window);
         break;
-    case XCB_MAP_NOTIFY:
     case XCB_REPARENT_NOTIFY:
     case XCB_CIRCULATE_NOTIFY:
         scheduleCheck();
         break;
-    case XCB_CONFIGURE_NOTIFY: {
-        // What lies below the panel comes above it only by landing on the panel itself or on
-        // something above it; all else is a move or a restacking below.
-        const auto& configured = reinterpret_cast<const xcb_configure_notify_event_t&>(event);
-        if (configured.window == window_ || configured.above_sibling == window_ ||
-            above_.contains(configured.above_sibling) || above_.contains(configured.window))
-            scheduleCheck();
+    case XCB_CONFIGURE_NOTIFY:
+        handleConfigured(reinterpret_cast<const xcb_configure_notify_event_t&>(event));
         break;
-    }
     default:
         break;
     }
+}
+
+void X11StackKeeper::handleConfigured(const xcb_configure_notify_event_t& event) {
+    if (event.event != connection_.root())
+        return;
+    if (event.window == window_) {
+        frame_ = frameOf(event);
+        scheduleCheck();
+        return;
+    }
+    // What lies above the panel, or on something that does.
+    if (event.above_sibling != window_ && !above_.contains(event.above_sibling)) {
+        above_.erase(event.window);
+        return;
+    }
+    above_.insert(event.window);
+    if (frameOf(event).intersects(frame_) && !menus_.contains(event.window))
+        scheduleCheck();
 }
 
 void X11StackKeeper::scheduleCheck() {
@@ -96,34 +120,38 @@ void X11StackKeeper::scheduleCheck() {
 }
 
 void X11StackKeeper::check(bool evenIfRaisedLately) {
-    const std::vector<WindowAbove> above = readWindowsAbove();
-    // As a rule, and after each raise of our own: four answers less to wait for.
-    if (above.empty())
+    std::vector<WindowAbove> above;
+    menus_.clear();
+    for (const Covering& window : readCovering()) {
+        above.push_back({window.id, judge(window)});
+        if (above.back().cover == Cover::menu)
+            menus_.insert(window.id);
+    }
+    const std::vector<Restacking> steps = restackings(window_, above);
+    const bool mayRaise = evenIfRaisedLately || limiter_.delay(now()).count() == 0;
+    limiter_.looked(now());
+    if (steps.empty())
         return;
-    const std::vector<std::uint32_t> raises =
-        windowsToRaise(window_, readFrame(window_), readScreenSize().height(), above);
-    if (raises.empty())
-        return;
-    if (!evenIfRaisedLately && limiter_.delay(now()).count() > 0) {
+    if (!mayRaise) {
         scheduleCheck();
         return;
     }
-    for (const std::uint32_t window : raises) {
-        const std::uint32_t mode = XCB_STACK_MODE_ABOVE;
-        xcb_configure_window(connection_, window, XCB_CONFIG_WINDOW_STACK_MODE, &mode);
+    for (const Restacking& step : steps) {
+        const std::uint32_t values[] = {step.sibling, XCB_STACK_MODE_ABOVE};
+        const auto cookie = xcb_configure_window_checked(
+            connection_, step.window, XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE,
+            values);
+        // Either may be gone by now; its end is heard of.
+        xcb_discard_reply(connection_, cookie.sequence);
     }
     limiter_.raised(now());
     xcb_flush(connection_);
 }
 
-std::vector<WindowAbove> X11StackKeeper::readWindowsAbove() {
+std::vector<X11StackKeeper::Covering> X11StackKeeper::readCovering() {
     above_.clear();
-    const XcbOwned<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
-        connection_, xcb_query_tree(connection_, connection_.root()), nullptr));
-    if (!tree)
-        return {};
-    const std::span children(
-        xcb_query_tree_children(tree.get()), xcb_query_tree_children_length(tree.get()));
+    covering_.clear();
+    const std::vector<xcb_window_t> children = readChildren(connection_, connection_.root());
     auto child = std::find(children.begin(), children.end(), window_);
     if (child == children.end())
         return {};
@@ -132,41 +160,57 @@ std::vector<WindowAbove> X11StackKeeper::readWindowsAbove() {
         above_.insert(*child);
         queries.emplace_back(connection_, *child);
     }
-
-    // All windows of one client share the upper bits of their ids; Qt made the panel, too.
-    const std::uint32_t clientBits = ~xcb_get_setup(connection_)->resource_id_mask;
-    const std::vector<xcb_atom_t> types = transientTypes(connection_);
-    std::vector<WindowAbove> above;
+    std::vector<Covering> covering;
     for (const WindowQuery& query : queries) {
         const XcbOwned<xcb_get_window_attributes_reply_t> attributes(
             xcb_get_window_attributes_reply(connection_, query.attributes, nullptr));
         const XcbOwned<xcb_get_geometry_reply_t> geometry(
             xcb_get_geometry_reply(connection_, query.geometry, nullptr));
-        const XcbOwned<xcb_get_property_reply_t> type(
-            xcb_get_property_reply(connection_, query.type, nullptr));
-        if (!attributes || !geometry || !type || attributes->_class == XCB_WINDOW_CLASS_INPUT_ONLY)
+        if (!attributes || !geometry || attributes->_class == XCB_WINDOW_CLASS_INPUT_ONLY ||
+            attributes->map_state != XCB_MAP_STATE_VIEWABLE ||
+            !frameOf(*geometry).intersects(frame_))
             continue;
-        above.push_back(
-            {.id = query.window,
-             .frame = frameOf(*geometry),
-             .viewable = attributes->map_state == XCB_MAP_STATE_VIEWABLE,
-             .overrideRedirect = attributes->override_redirect != 0,
-             .ours = (query.window & clientBits) == (window_ & clientBits),
-             .transient = hasTypeOf(*type, types)});
+        covering_.insert(query.window);
+        covering.push_back({query.window, frameOf(*geometry), attributes->override_redirect != 0});
     }
-    return above;
+    return covering;
 }
 
-QSize X11StackKeeper::readScreenSize() const {
+Cover X11StackKeeper::judge(const Covering& window) {
+    if (!window.overrideRedirect)
+        return Cover::intruder;
+    // All windows of one client share the upper bits of their ids; Qt made the panel, too.
+    const std::uint32_t clientBits = ~xcb_get_setup(connection_)->resource_id_mask;
+    if ((window.id & clientBits) == (window_ & clientBits) || saysItIsTransient(window.id))
+        return Cover::menu;
+    return hidesTheScreen(window.frame) && !holdsAClient(window.id) ? Cover::locker
+                                                                    : Cover::intruder;
+}
+
+bool X11StackKeeper::saysItIsTransient(xcb_window_t window) {
+    const auto types = readProperty(connection_, window, "_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM);
+    return std::any_of(transientTypes.begin(), transientTypes.end(), [&](const char* name) {
+        return std::find(types.begin(), types.end(), connection_.atom(name)) != types.end();
+    });
+}
+
+bool X11StackKeeper::hidesTheScreen(const QRect& frame) const {
     // Not the root window, which spans all screens: a locker may have a window on each.
     const auto output = readPrimaryOutput(connection_);
-    return output ? output->size : readFrame(connection_.root()).size();
+    const QRect screen(
+        frame_.topLeft(),
+        output ? output->size : readFrame(connection_, connection_.root()).size());
+    return frame.contains(screen & frame_) && frame.height() >= screen.height();
 }
 
-QRect X11StackKeeper::readFrame(xcb_window_t window) const {
-    const XcbOwned<xcb_get_geometry_reply_t> geometry(
-        xcb_get_geometry_reply(connection_, xcb_get_geometry(connection_, window), nullptr));
-    return geometry ? frameOf(*geometry) : QRect();
+bool X11StackKeeper::holdsAClient(xcb_window_t window) {
+    // A window manager marks what it manages. Some put it into override-redirect frames.
+    const xcb_atom_t state = connection_.atom("WM_STATE");
+    const auto children = readChildren(connection_, window);
+    return !readProperty(connection_, window, "WM_STATE", state).empty() ||
+           std::any_of(children.begin(), children.end(), [this](xcb_window_t child) {
+               return holdsAClient(child);
+           });
 }
 
 } // namespace velmora

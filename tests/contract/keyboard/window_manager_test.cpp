@@ -1,8 +1,7 @@
 // Combinations that belong to a window manager: it opens its switcher at the press, and must close
 // it again after the release, whatever the user holds and however slow it is.
 
-#include "platform/KeyboardEvents.h"
-#include "platform/x11/X11Session.h"
+#include "Service.h"
 #include "support/Desktop.h"
 #include "support/Driver.h"
 #include "support/TestDisplay.h"
@@ -21,30 +20,14 @@ namespace {
 constexpr auto physical = Driver::Keyboard::Physical;
 constexpr uint8_t lock = 2, alt = 8, numLock = 16;
 
-/// Types Alt+Tab as the program does.
-class AltTab {
-public:
-    /// `whileDown` runs between the press and the release.
-    void type(const std::function<void()>& whileDown = [] {}) {
-        post(true);
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
-        whileDown();
-        post(false);
-    }
-
-private:
-    void post(bool keyDown) {
-        auto event = events_.createKeyboardEvent(*source_, 48, keyDown);
-        ASSERT_TRUE(event);
-        event->setFlags(kCGEventFlagMaskAlternate);
-        events_.post(EventTapLocation::sessionEventTap, *event);
-    }
-
-    std::unique_ptr<X11Session> session_ = X11Session::create();
-    KeyboardEvents& events_ = session_->keyboardEvents();
-    std::unique_ptr<EventSource> source_ =
-        events_.createEventSource(EventSourceState::combinedSessionState);
-};
+/// Types Alt+Tab as the program does. `whileDown` runs between the press and the release.
+void typeAltTab(
+    Service& service, const std::function<void()>& whileDown = [] {}) {
+    EXPECT_TRUE(service.post(48, true, kCGEventFlagMaskAlternate));
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    whileDown();
+    EXPECT_TRUE(service.post(48, false, kCGEventFlagMaskAlternate));
+}
 
 /// A display of its own; afterwards the usual one is back.
 class OwnDisplay : public testing::TestWithParam<const char*> {
@@ -87,7 +70,7 @@ TEST_P(WindowManager, SwitchesWindowsAndLeavesNoSwitcherOpen) {
     XClient client;
     Witness first;
     Witness second(QRect(600, 200, 300, 200));
-    AltTab altTab;
+    Service service;
     Driver driver;
     EXPECT_TRUE(waitFor([&] { return activeWindow(client) == second.window(); }));
     // Where the bar is. xfwm4 keeps the keyboard, after a user's own Alt+Tab too, while the pointer
@@ -104,7 +87,7 @@ TEST_P(WindowManager, SwitchesWindowsAndLeavesNoSwitcherOpen) {
             letManagerCatchUp(client);
             KeyboardState expected = keyboardState(client);
             const xcb_window_t active = activeWindow(client);
-            altTab.type([&] {
+            typeAltTab(service, [&] {
                 if (usersAlt != UsersAlt::LetGoBetweenPressAndRelease)
                     return;
                 driver.releaseKey("LALT", physical);
@@ -197,9 +180,9 @@ private:
 TEST_F(OwnDisplay, ASwitcherThatOpensLateIsClosed) {
     XClient client;
     SlowManager manager;
-    AltTab altTab;
+    Service service;
     for (const int standsStill : {0, 1200}) { // milliseconds
-        altTab.type();
+        typeAltTab(service);
         EXPECT_TRUE(waitFor([&] { return isKeyboardFree(client); }));
         QElapsedTimer timer;
         timer.start();
@@ -215,10 +198,10 @@ TEST_F(OwnDisplay, ASwitcherThatOpensLateIsClosed) {
 TEST_F(OwnDisplay, ASwitcherOfACombinationThatSeemedFreeIsClosed) {
     XClient client;
     SlowManager manager;
-    AltTab altTab;
+    Service service;
     // As when it reads the keyboard map anew just when the combination is typed.
     manager.leaveCombination();
-    altTab.type([&] {
+    typeAltTab(service, [&] {
         manager.takeCombination();
         manager.openSwitcher();
     });
@@ -230,7 +213,7 @@ TEST_F(OwnDisplay, ASwitcherOfACombinationThatSeemedFreeIsClosed) {
 
     // Who takes the keyboard after a combination that is nobody's is left alone.
     manager.leaveCombination();
-    altTab.type([&] { manager.openSwitcher(); });
+    typeAltTab(service, [&] { manager.openSwitcher(); });
     QElapsedTimer timer;
     timer.start();
     EXPECT_TRUE(waitFor([&] {

@@ -6,7 +6,6 @@
 #include "platform/x11/X11Screens.h"
 
 #include <QGuiApplication>
-#include <cmath>
 #include <xcb/randr.h>
 
 namespace velmora::test {
@@ -60,15 +59,21 @@ TEST_F(AnyScale, OutputPropertyComesBeforeTheRootWindows) {
 }
 
 TEST_F(AnyScale, StripIsCoveredToThePixel) {
-    X11PanelWindows windows(*connection);
+    X11PanelWindows panels(*connection);
     const QRectF frame = screens.mainScreen()->frame;
     for (const int pixels : {36, 32}) {
         const double height = pixels / ratio;
         const auto panel =
-            windows.create({0, frame.height() - height, frame.width(), height}, 0x8080);
+            panels.create({0, frame.height() - height, frame.width(), height}, 0x8080);
         panel->setOpaque(false);
         panel->orderFrontRegardless();
-        panel->setContentView(new GradientView);
+        auto* const view = new GradientView;
+        panel->setContentView(view);
+        const auto id = static_cast<xcb_window_t>(view->window()->winId());
+        const auto windows = topWindows(client);
+        const auto own = std::ranges::find(windows, id, &TopWindow::id);
+        ASSERT_NE(own, windows.end());
+        EXPECT_EQ(own->geometry, QRect(0, 0, displaySize.width(), pixels));
 
         const auto uncovered = [&] {
             int count = 0;
@@ -80,10 +85,49 @@ TEST_F(AnyScale, StripIsCoveredToThePixel) {
             return count;
         };
         EXPECT_TRUE(waitFor([&] { return uncovered() == 0; })) << uncovered();
-        // Less than a point more than asked for.
-        const int below = pixels + static_cast<int>(std::ceil(ratio));
-        EXPECT_FALSE(isGradient(pixel(client, {displaySize.width() / 2, below})));
+        EXPECT_FALSE(isGradient(pixel(client, {displaySize.width() / 2, pixels})));
     }
+}
+
+TEST_F(AnyScale, ALockerStaysAboveAndAnApplicationAsHighAsTheScreenDoesNot) {
+    X11PanelWindows panels(*connection);
+    const QRectF screen = screens.mainScreen()->frame;
+    const auto panel = panels.create({0, screen.height() - 24, screen.width(), 24}, 0x8080);
+    auto* const view = new GradientView;
+    panel->setContentView(view);
+    panel->setLevel(25);
+    panel->orderFrontRegardless();
+    const auto id = static_cast<xcb_window_t>(view->window()->winId());
+    const auto isAbovePanel = [&](const Popup& popup) {
+        return stackPosition(client, popup.id) > stackPosition(client, id);
+    };
+    Popup locker({{0, 0}, displaySize});
+    locker.addDescendant(false);
+    locker.map();
+    const auto putBelowLocker = [&](const Popup& popup) {
+        const uint32_t values[] = {locker.id, XCB_STACK_MODE_BELOW};
+        xcb_configure_window(
+            popup.client, popup.id, XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE,
+            values);
+    };
+    Popup frame({{0, 0}, displaySize});
+    frame.addDescendant(true);
+    putBelowLocker(frame);
+    frame.map();
+    EXPECT_TRUE(waitFor([&] { return !isAbovePanel(frame); }));
+    EXPECT_TRUE(isAbovePanel(locker));
+    // The dialogue of a locker lies above it.
+    Popup dialogue;
+    dialogue.map();
+    frame.raise();
+    Popup last;
+    putBelowLocker(last);
+    last.map();
+    EXPECT_TRUE(waitFor([&] { return !isAbovePanel(last); })) << "it has looked";
+    EXPECT_TRUE(isAbovePanel(frame) && isAbovePanel(dialogue) && isAbovePanel(locker));
+    xcb_unmap_window(locker.client, locker.id);
+    locker.client.sync();
+    EXPECT_TRUE(waitFor([&] { return !isAbovePanel(frame) && !isAbovePanel(dialogue); }));
 }
 
 } // namespace

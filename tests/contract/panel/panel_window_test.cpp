@@ -1,6 +1,7 @@
 #include "contract/panel/PanelProbe.h"
 #include "contract/panel/SessionTest.h"
 #include "platform/x11/X11PanelWindows.h"
+#include "platform/x11/X11StackKeeper.h"
 
 #include <QElapsedTimer>
 #include <QMenu>
@@ -12,35 +13,6 @@ namespace {
 
 constexpr int kHeight = 24;
 const QPoint kOnPanel(700, 12);
-
-/// An override-redirect window of another program over part of the panel, green.
-class Popup {
-public:
-    explicit Popup(const QByteArray& type = {}) : id(xcb_generate_id(client)) {
-        const uint32_t values[] = {0x00ff00, 1};
-        xcb_create_window(
-            client, XCB_COPY_FROM_PARENT, id, client.root(), 600, 0, 200, 100, 0,
-            XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-            XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT, values);
-        if (!type.isEmpty()) {
-            const xcb_atom_t atom = client.atom("_NET_WM_WINDOW_TYPE_" + type);
-            xcb_change_property(
-                client, XCB_PROP_MODE_REPLACE, id, client.atom("_NET_WM_WINDOW_TYPE"),
-                XCB_ATOM_ATOM, 32, 1, &atom);
-        }
-        xcb_map_window(client, id);
-        client.sync();
-    }
-
-    void raise() {
-        const uint32_t mode = XCB_STACK_MODE_ABOVE;
-        xcb_configure_window(client, id, XCB_CONFIG_WINDOW_STACK_MODE, &mode);
-        client.sync();
-    }
-
-    XClient client;
-    const xcb_window_t id;
-};
 
 class PanelWindowContract : public SessionTest {
 protected:
@@ -64,13 +36,18 @@ protected:
         driver.click();
     }
 
-    /// The place of `window`, or of the frame that it is in, among the root's children from the
-    /// lowest; -1 when it is not mapped.
-    int stackPosition(xcb_window_t window) const {
-        const auto all = topWindows(client);
-        const auto found =
-            std::find_if(all.begin(), all.end(), [&](const auto& top) { return top.id == window; });
-        return found != all.end() && found->mapped ? static_cast<int>(found - all.begin()) : -1;
+    int position(xcb_window_t window) const { return stackPosition(client, window); }
+
+    /// The child of the root that `window` is in.
+    xcb_window_t topOf(const Witness& window) const {
+        xcb_window_t top = window.window();
+        for (;;) {
+            const Reply<xcb_query_tree_reply_t> tree(
+                xcb_query_tree_reply(client, xcb_query_tree(client, top), nullptr));
+            if (!tree || tree->parent == client.root())
+                return top;
+            top = tree->parent;
+        }
     }
 
     void makeFullScreen(const Witness& window) {
@@ -96,6 +73,8 @@ protected:
                     XCB_CONFIG_WINDOW_HEIGHT | XCB_CONFIG_WINDOW_STACK_MODE,
                 values);
         }
+        // Asked first: a compositor may draw later what is in place.
+        ASSERT_TRUE(waitFor([&] { return position(panelId()) > position(topOf(window)); }));
         // White where the full-screen window shows, just below the panel.
         ASSERT_TRUE(waitFor([this] {
             return pixel(client, {3, kHeight + 1}) == 0xffffffff &&
@@ -135,7 +114,7 @@ TEST_P(PanelWindowContract, ShowsAndTakesClicksAboveAFullScreenWindowAsItIsSetAn
         EXPECT_TRUE(waitFor([this] { return panelShows(); }));
         panel->setAlphaValue(0.0);
         EXPECT_TRUE(waitFor([this] { return pixel(client, kOnPanel) == 0xffffffff; }));
-        EXPECT_GE(stackPosition(id), 0) << "still mapped";
+        EXPECT_GE(position(id), 0) << "still mapped";
         front.clear();
         clickOnPanel();
         EXPECT_TRUE(front.waitForInput(2));
@@ -148,22 +127,53 @@ TEST_P(PanelWindowContract, ShowsAndTakesClicksAboveAFullScreenWindowAsItIsSetAn
 }
 
 TEST_P(PanelWindowContract, StaysBelowMenusAndTooltips) {
-    const Popup tooltip("TOOLTIP");
-    EXPECT_TRUE(waitFor([&] { return pixel(client, kOnPanel) == 0xff00ff00; }));
+    Popup tooltip;
+    tooltip.setType("TOOLTIP");
+    tooltip.map();
     QMenu menu;
     menu.addAction(u"Hide"_s);
     menu.popup({300, 5});
     const auto menuId = static_cast<xcb_window_t>(menu.winId());
-    EXPECT_TRUE(waitFor([&] { return stackPosition(menuId) >= 0; }));
+    EXPECT_TRUE(waitFor([&] { return position(menuId) >= 0; }));
     // Something to be raised over, so that the menus must be kept above in turn.
-    const Popup popup;
-    EXPECT_TRUE(waitFor([&] { return stackPosition(panelId()) > stackPosition(popup.id); }));
-    EXPECT_TRUE(waitFor([&] { return stackPosition(menuId) > stackPosition(panelId()); }));
-    EXPECT_TRUE(waitFor([&] { return stackPosition(tooltip.id) > stackPosition(panelId()); }));
+    Popup popup;
+    popup.map();
+    EXPECT_TRUE(waitFor([&] { return position(panelId()) > position(popup.id); }));
+    EXPECT_TRUE(waitFor([&] { return position(menuId) > position(panelId()); }));
+    EXPECT_TRUE(waitFor([&] { return position(tooltip.id) > position(panelId()); }));
+    EXPECT_TRUE(waitFor([&] { return pixel(client, kOnPanel) == 0xff00ff00; }));
+}
+
+TEST_P(PanelWindowContract, AsksNothingAboutAWindowThatMovesAboveIt) {
+    Popup tooltip;
+    tooltip.setType("TOOLTIP");
+    tooltip.map();
+    Popup beside({600, 40, 200, 100});
+    beside.map();
+    Popup popup;
+    const auto arrived = [&] {
+        // Above what is above: a panel that comes to lie over it has seen all before.
+        popup.raise();
+        popup.map();
+        return waitFor([&] { return position(panelId()) > position(popup.id); });
+    };
+    ASSERT_TRUE(arrived());
+    const auto requests = [this] { return xcb_no_operation(*connection).sequence; };
+    const auto before = requests();
+    for (int step = 0; step < 1000; ++step) {
+        tooltip.moveTo({step, 3});
+        beside.moveTo({step, 40 + step % 3});
+        if (step % 10 == 0)
+            QCoreApplication::processEvents();
+    }
+    xcb_unmap_window(popup.client, popup.id);
+    ASSERT_TRUE(arrived());
+    EXPECT_LT(requests() - before, 150U);
 }
 
 TEST_P(PanelWindowContract, LeavesAWarOverTheTop) {
     Popup rival;
+    rival.map();
     xcb_connection_t* const watch = rival.client;
     const uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(watch, client.root(), XCB_CW_EVENT_MASK, &mask);
@@ -190,12 +200,41 @@ TEST_P(PanelWindowContract, LeavesAWarOverTheTop) {
     panel->setAlphaValue(0.0);
     panel->setAlphaValue(1.0);
     client.sync();
-    EXPECT_GT(stackPosition(panelId()), stackPosition(rival.id));
+    EXPECT_GT(position(panelId()), position(rival.id));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Sessions, PanelWindowContract, testing::ValuesIn(sessions()),
-    [](const auto& session) { return QByteArray(session.param).replace('+', '_').toStdString(); });
+const auto sessionName = [](const auto& session) {
+    return QByteArray(session.param).replace('+', '_').toStdString();
+};
+
+INSTANTIATE_TEST_SUITE_P(Sessions, PanelWindowContract, testing::ValuesIn(sessions()), sessionName);
+INSTANTIATE_TEST_SUITE_P(Tiling, PanelWindowContract, testing::Values("i3"), sessionName);
+
+class TiledPanel : public PanelWindowContract {};
+
+TEST_P(TiledPanel, IsAboveAFullScreenWindowWhenTheManagerHasRestarted) {
+    Witness front;
+    makeFullScreen(front);
+    const xcb_window_t frame = topOf(front);
+    display->run(u"i3-msg"_s, {u"restart"_s});
+    EXPECT_TRUE(waitFor([&] {
+        const xcb_window_t now = topOf(front);
+        return now != frame && now != front.window() && position(panelId()) > position(now);
+    }));
+    EXPECT_TRUE(waitFor([this] { return panelShows(); }));
+}
+
+INSTANTIATE_TEST_SUITE_P(Tiling, TiledPanel, testing::Values("i3"), sessionName);
+
+TEST_F(DisplayTest, TheKeeperSeesWhatWasAboveBeforeItCame) {
+    Popup kept;
+    kept.map();
+    Popup above;
+    above.map();
+    const X11StackKeeper keeper(*connection, kept.id);
+    EXPECT_TRUE(
+        waitFor([&] { return stackPosition(client, kept.id) > stackPosition(client, above.id); }));
+}
 
 } // namespace
 } // namespace velmora::test

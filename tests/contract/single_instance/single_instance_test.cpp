@@ -1,14 +1,10 @@
 // Launches on one display, each with a connection of its own.
 
-#include "platform/Relaunch.h"
 #include "platform/x11/X11SingleInstance.h"
 #include "support/TestDisplay.h"
-#include "support/XClient.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QTemporaryDir>
 #include <array>
 #include <atomic>
 #include <gtest/gtest.h>
@@ -25,16 +21,6 @@ struct Launch {
     std::unique_ptr<X11Connection> connection = X11Connection::open();
     X11SingleInstance instance{*connection};
 };
-
-/// Whether a launch waits for the instance that has the place to go.
-bool isWaitedFor() {
-    const XClient client;
-    const Reply<xcb_get_selection_owner_reply_t> place(xcb_get_selection_owner_reply(
-        client, xcb_get_selection_owner(client, client.atom("_VELMORA_INSTANCE")), nullptr));
-    const Reply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
-        client, xcb_get_window_attributes(client, place->owner), nullptr));
-    return attributes && attributes->all_event_masks & XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-}
 
 TEST(SingleInstance, ASecondLaunchAsksTheFirstToComeForward) {
     Launch first;
@@ -85,36 +71,11 @@ TEST(SingleInstance, AnInstanceThatNeverGoesIsNotWaitedForForever) {
     EXPECT_FALSE(Launch().instance.claim()) << "the new one has the place";
 }
 
-/// Names the file that a relaunched instance of this program makes once it has the place.
-constexpr char relaunchMark[] = "VELMORA_TEST_RELAUNCH_MARK";
-
-TEST(Relaunch, HandsThePlaceOn) {
-    const QTemporaryDir folder;
-    const QString mark = folder.filePath(QStringLiteral("mark"));
-    auto old = std::make_unique<Launch>();
-    ASSERT_TRUE(old->instance.claim());
-    qputenv(relaunchMark, mark.toUtf8());
-    bool completed = false;
-    relaunch(old->instance, [&] { completed = true; });
-    qunsetenv(relaunchMark);
-    EXPECT_FALSE(completed) << "in a later turn";
-    EXPECT_TRUE(waitFor([&] { return completed; }));
-    EXPECT_TRUE(waitFor(isWaitedFor));
-    EXPECT_FALSE(QFile::exists(mark));
-    old.reset();
-    EXPECT_TRUE(waitFor([&] { return QFile::exists(mark); }));
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     const QCoreApplication application(argc, argv);
-    if (qEnvironmentVariableIsSet(relaunchMark)) {
-        Launch launch;
-        QFile mark(qEnvironmentVariable(relaunchMark));
-        return launch.instance.claim() && mark.open(QIODevice::WriteOnly) ? 0 : 1;
-    }
     const TestDisplay display;
     return RUN_ALL_TESTS();
 }

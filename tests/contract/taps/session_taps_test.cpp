@@ -1,10 +1,13 @@
 // Taps among locks, layouts, window managers and other programs.
 
 #include "World.h"
+#include "platform/x11/X11ChordGrab.h"
+#include "platform/x11/X11MouseButtonGrab.h"
 
 #include <QEvent>
 #include <QProcess>
 #include <xcb/xinput.h>
+#include <xcb/xtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
@@ -16,36 +19,20 @@ namespace {
 constexpr EventFlags option = kCGEventFlagMaskAlternate;
 
 TEST_F(TapsTest, TheChordFollowsItsKeyAndItsModifier) {
-    const auto pressed = [this](const char* modifier, const char* key) {
-        // Reads afresh where the keys are.
-        Driver hands;
-        const size_t before = tap.presses();
-        hands.tapChord(modifier, key);
-        return waitFor([&] { return tap.presses() > before; }, 100);
-    };
-    const auto setxkbmap = [](const QStringList& arguments) {
+    // Super and Alt change places; the arrow keys send other keycodes on older keyboards.
+    makeEnabled(TapInterest::Chord{123, option});
+    for (const auto& [arguments, modifier] :
+         {std::pair(QStringList{u"-option"_s, u"altwin:swap_alt_win"_s}, "LWIN"),
+          {{u"-option"_s}, "LALT"},
+          {{u"-keycodes"_s, u"xfree86"_s}, "LALT"},
+          {{u"-keycodes"_s, u"evdev"_s}, "LALT"}}) {
         EXPECT_EQ(QProcess::execute(u"setxkbmap"_s, arguments), 0);
-    };
-    makeEnabled(optionM);
-    EXPECT_TRUE(pressed("LALT", keyM.name));
-    EXPECT_FALSE(pressed("LWIN", keyM.name));
-    setxkbmap({u"-option"_s, u"altwin:swap_alt_win"_s});
-    EXPECT_TRUE(waitFor([&] { return pressed("LWIN", keyM.name); }));
-    EXPECT_FALSE(pressed("LALT", keyM.name));
-    setxkbmap({u"-option"_s});
-    EXPECT_TRUE(waitFor([&] { return pressed("LALT", keyM.name); }));
-    EXPECT_FALSE(pressed("LWIN", keyM.name));
-
-    // The arrow keys send other keycodes on older keyboards.
-    tap.tap->setInterest(TapInterest::Chord{123, option});
-    EXPECT_FALSE(pressed("LALT", keyM.name));
-    EXPECT_TRUE(pressed("LALT", "LEFT"));
-    const uint8_t usual = Driver().keycode("LEFT");
-    setxkbmap({u"-keycodes"_s, u"xfree86"_s});
-    EXPECT_NE(Driver().keycode("LEFT"), usual);
-    EXPECT_TRUE(waitFor([&] { return pressed("LALT", "LEFT"); }));
-    setxkbmap({u"-keycodes"_s, u"evdev"_s});
-    EXPECT_TRUE(waitFor([&] { return pressed("LALT", "LEFT"); }));
+        tap.events.clear();
+        EXPECT_TRUE(waitFor([&, held = modifier] {
+            Driver().tapChord(held, "LEFT"); // reads afresh where the keys are
+            return waitFor([&] { return tap.presses() > 0; }, 100);
+        })) << qPrintable(arguments.join(u' '));
+    }
 }
 
 TEST_F(TapsTest, AHeldChordRepeatsAndThePlainKeyIsFreeAgain) {
@@ -74,31 +61,21 @@ TEST_F(TapsTest, AHandlerThatIsSlowFreezesNobody) {
 }
 
 TEST_F(TapsTest, ATapWorksBesideAnotherProgramsLongerChord) {
-    // Twice: the first key after others on another keyboard changes the keyboard, and that alone
-    // makes the tap ask again.
-    for (int round = 0; round < 2; ++round) {
-        SCOPED_TRACE(round);
-        tap = {};
-        // Option+Shift+M of a window manager that uses XInput 2: ours is the rest.
-        std::optional<OtherProgram> program(std::in_place);
-        EXPECT_TRUE(waitFor([&] {
-            return program->takeChord(world.driver.keycode(keyM.name), XCB_MOD_MASK_SHIFT);
-        }));
-        makeEnabled(optionM);
-        EXPECT_TRUE(tap.tap->isEnabled());
+    // Option+Shift+M of a window manager that uses XInput 2: ours is the rest.
+    std::optional<OtherProgram> program(std::in_place);
+    EXPECT_TRUE(program->takeChord(world.driver.keycode(keyM.name), XCB_MOD_MASK_SHIFT));
+    makeEnabled(optionM);
+    type(keyM, option);
+    EXPECT_EQ(tap.presses(), 1U);
+    EXPECT_EQ(tap.refusals, 0);
+    // Ours, too, from the next press on, once that program is gone.
+    program.reset();
+    EXPECT_TRUE(waitFor([&] {
         type(keyM, option);
-        EXPECT_EQ(tap.presses(), 1U);
-        EXPECT_EQ(tap.refusals, 0);
-
-        // Ours, too, from the next press on, once that program is gone.
-        program.reset();
-        EXPECT_TRUE(waitFor([&] {
-            type(keyM, option);
-            const size_t before = tap.presses();
-            type(keyM, option | kCGEventFlagMaskShift);
-            return tap.presses() > before;
-        }));
-    }
+        const size_t before = tap.presses();
+        type(keyM, option | kCGEventFlagMaskShift);
+        return tap.presses() > before;
+    }));
 }
 
 TEST_F(TapsTest, AButtonWorksBesideAnotherProgramsUseOfItWithAModifier) {
@@ -149,34 +126,146 @@ TEST_F(TapsTest, CaptureChangesNoFocusAndGivesLayoutLetters) {
     EXPECT_TRUE(view.hasFocus());
 }
 
-TEST_F(TapsTest, KeysHeldWhileACaptureBeginsOrEndsAreNotStuck) {
-    QWidget& view = world.focusedView();
-    world.driver.pressKey("LALT");
-    makeEnabled(TapInterest::EveryKey{&view});
-    world.driver.releaseKey("LALT");
-    world.driver.pressKey("LWIN");
-    world.driver.pressKey(keyA.name);
-    tap.tap->setEnabled(false);
-    EXPECT_TRUE(waitFor([this] { return world.isKeyboardFree(); }, 100));
-    world.driver.releaseKey(keyA.name);
-    world.driver.releaseKey("LWIN");
-    EXPECT_FALSE(isAnythingDown(world.client));
-    EXPECT_EQ(keyboardState(world.client).modifiers, 0);
+/// A second user at the same screen: master devices of their own, and what XTEST types on there.
+class SecondUser {
+public:
+    SecondUser() {
+        struct {
+            uint16_t type = XCB_INPUT_HIERARCHY_CHANGE_TYPE_ADD_MASTER;
+            uint16_t length = 4;
+            uint16_t nameLength = 6;
+            uint8_t sendsCore = 1;
+            uint8_t isEnabled = 1;
+            char name[8] = "second";
+        } add;
+        Reply<xcb_input_xi_query_version_reply_t>(xcb_input_xi_query_version_reply(
+            client_, xcb_input_xi_query_version(client_, 2, 2), nullptr));
+        xcb_input_xi_change_hierarchy(
+            client_, 1, reinterpret_cast<const xcb_input_hierarchy_change_t*>(&add));
+        keyboard_ = device("second XTEST keyboard");
+        pointer_ = device("second XTEST pointer");
+    }
+    ~SecondUser() {
+        xcb_input_remove_master_t remove{};
+        remove.type = XCB_INPUT_HIERARCHY_CHANGE_TYPE_REMOVE_MASTER;
+        remove.len = sizeof remove / 4;
+        remove.deviceid = device("second pointer");
+        remove.return_mode = XCB_INPUT_CHANGE_MODE_FLOAT;
+        xcb_input_xi_change_hierarchy(
+            client_, 1, reinterpret_cast<const xcb_input_hierarchy_change_t*>(&remove));
+        client_.sync();
+    }
+    void key(uint8_t keycode, bool isDown) {
+        send(
+            isDown ? XCB_INPUT_DEVICE_KEY_PRESS : XCB_INPUT_DEVICE_KEY_RELEASE, keycode, keyboard_);
+    }
+    /// Pixels from the screen's top-left corner.
+    void move(int16_t x, int16_t y) {
+        xcb_input_xi_warp_pointer(
+            client_, 0, client_.root(), 0, 0, 0, 0, x << 16, y << 16, device("second pointer"));
+        client_.sync();
+    }
+    void button(uint8_t button, bool isDown) {
+        send(
+            isDown ? XCB_INPUT_DEVICE_BUTTON_PRESS : XCB_INPUT_DEVICE_BUTTON_RELEASE, button,
+            pointer_);
+    }
+
+private:
+    void send(int type, uint8_t detail, uint8_t device) {
+        const auto first = xcb_get_extension_data(client_, &xcb_input_id)->first_event;
+        xcb_test_fake_input(
+            client_, static_cast<uint8_t>(first + type), detail, 0, 0, 0, 0, device);
+        client_.sync();
+    }
+    uint8_t device(const QByteArray& name) const {
+        const Reply<xcb_input_xi_query_device_reply_t> reply(xcb_input_xi_query_device_reply(
+            client_, xcb_input_xi_query_device(client_, XCB_INPUT_DEVICE_ALL), nullptr));
+        for (auto info = xcb_input_xi_query_device_infos_iterator(reply.get()); info.rem;
+             xcb_input_xi_device_info_next(&info)) {
+            if (name == QByteArray(
+                            xcb_input_xi_device_info_name(info.data),
+                            xcb_input_xi_device_info_name_length(info.data)))
+                return static_cast<uint8_t>(info.data->deviceid);
+        }
+        qFatal("no %s", name.constData());
+    }
+
+    XClient client_;
+    uint8_t keyboard_ = 0, pointer_ = 0;
+};
+
+TEST_F(TapsTest, ASecondUsersKeyboardAndMouseCountAsWell) {
+    TapUnderTest buttons;
+    buttons.make(world.taps(), TapInterest::MouseButtons{{3}});
+    buttons.tap->setEnabled(true);
+    for (const bool isThereFirst : {false, true}) {
+        SCOPED_TRACE(isThereFirst);
+        std::optional<SecondUser> user;
+        if (isThereFirst)
+            user.emplace();
+        makeEnabled(optionM);
+        if (!isThereFirst)
+            user.emplace();
+        user->move(200, 300);
+        for (size_t press = 1; press <= 3; ++press) {
+            const uint8_t alt = world.driver.keycode("LALT");
+            const uint8_t m = world.driver.keycode(keyM.name);
+            user->key(alt, true);
+            user->key(m, true);
+            EXPECT_TRUE(waitFor([&] { return tap.presses() == press; }, 1000));
+            user->key(m, false);
+            user->key(alt, false);
+            world.witness.clear();
+            user->button(xButton(3), true);
+            EXPECT_TRUE(waitFor([&] { return buttons.presses() == press; }, 1000));
+            user->button(xButton(3), false);
+            EXPECT_TRUE(world.witness.waitForInput(1));
+            EXPECT_EQ(world.witness.events().at(0).type, XCB_BUTTON_RELEASE);
+        }
+        type(keyM, option);
+        EXPECT_EQ(tap.presses(), 4U);
+        world.click(3, buttons);
+        EXPECT_EQ(buttons.presses(), 4U);
+        tap.events.clear();
+        buttons.events.clear();
+    }
 }
 
-TEST_F(TapsTest, CaptureComesBeforeTheWindowManagersKeys) {
-    makeCapture();
-    ASSERT_TRUE(waitFor([this] { return !world.isKeyboardFree(); }));
-    for (const auto& [key, flags] :
-         {std::pair(keyTab, option),
-          {keyEscape, option},
-          {keyE, kCGEventFlagMaskCommand},
-          {keyTab, EventFlags(0)}}) {
-        tap.events.clear();
-        type(key, flags);
-        EXPECT_EQ(tap.presses(), 1U) << key.name;
+TEST_F(TapsTest, ATryThatIsRefusedCostsFewRequests) {
+    const auto connection = X11Connection::open();
+    const X11Keyboard keyboard(*connection);
+    X11ChordGrab chord(*connection, keyboard, *XInput::find(*connection), optionM, {});
+    X11MouseButtonGrab button(*connection, keyboard, TapInterest::MouseButtons{{3}}, {});
+    OtherProgram holder;
+    EXPECT_TRUE(holder.takeChord(world.driver.keycode(keyM.name)) && holder.takeButton(8));
+    for (const auto& [grab, limit] :
+         {std::pair<X11Grab*, unsigned>{&chord, 1}, std::pair<X11Grab*, unsigned>{&button, 40}}) {
+        EXPECT_FALSE(grab->obtain());
+        EXPECT_FALSE(grab->refusedName().isEmpty());
+        const unsigned before = xcb_no_operation(*connection).sequence;
+        EXPECT_FALSE(grab->obtain());
+        EXPECT_FALSE(grab->refusedName().isEmpty());
+        EXPECT_LE(xcb_no_operation(*connection).sequence - before - 1, limit);
     }
-    EXPECT_TRUE(world.focusedView().hasFocus());
+}
+
+TEST_F(TapsTest, NothingBreaksAsTheServerGoes) {
+    const QByteArray usual = qgetenv("DISPLAY");
+    QWidget& view = world.focusedView();
+    TestDisplay other;
+    const auto session = X11Session::create();
+    session->eventTaps();
+    other.kill();
+    // The first one finds out.
+    for (const EventTapInterest& interest :
+         {EventTapInterest(optionM), EventTapInterest(TapInterest::MouseButtons{{3}}),
+          EventTapInterest(TapInterest::EveryKey{&view})}) {
+        tap.make(session->eventTaps(), interest);
+        tap.tap->setEnabled(true);
+        tap.tap.reset();
+    }
+    qputenv("DISPLAY", usual);
 }
 
 } // namespace

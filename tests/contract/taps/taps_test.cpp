@@ -35,23 +35,6 @@ TEST_F(TapsTest, AChordIsTakenAndNothingElse) {
     EXPECT_EQ(world.reachedFront().size(), 3U);
 }
 
-TEST_F(TapsTest, OnlyWhileEnabledAndAlive) {
-    tap.make(world.taps(), optionM);
-    EXPECT_FALSE(tap.tap->isEnabled());
-    type(keyM, option);
-    tap.tap->setEnabled(true);
-    EXPECT_TRUE(tap.tap->isEnabled());
-    type(keyM, option);
-    tap.tap->setEnabled(false);
-    type(keyM, option);
-    tap.tap->setEnabled(true);
-    type(keyM, option);
-    tap.tap.reset();
-    type(keyM, option);
-    EXPECT_EQ(tap.presses(), 2U);
-    EXPECT_EQ(world.reachedFront().size(), 3U);
-}
-
 TEST_F(TapsTest, BoundButtonsAreTakenAndEditsFollowAtOnce) {
     makeEnabled(TapInterest::MouseButtons{{0, 1, 3, 4, -7, 251, 5000}});
     for (const std::int64_t number : {0, 2, 3, 4, 5})
@@ -128,20 +111,6 @@ TEST_F(TapsTest, CaptureTakesEveryKeyWithItsFlagsAndCharacters) {
     EXPECT_THAT(world.reachedFront(), IsEmpty());
 }
 
-TEST_F(TapsTest, CaptureEndsAtOnceWithTheTap) {
-    makeCapture();
-    EXPECT_FALSE(world.isKeyboardFree());
-    tap.tap->setEnabled(false);
-    EXPECT_TRUE(waitFor([this] { return world.isKeyboardFree(); }, 100));
-    tap.tap->setEnabled(true);
-    EXPECT_FALSE(world.isKeyboardFree());
-    tap.tap.reset();
-    EXPECT_TRUE(waitFor([this] { return world.isKeyboardFree(); }, 100));
-    type(keyA);
-    EXPECT_THAT(tap.events, IsEmpty());
-    EXPECT_THAT(world.reachedFront(), ElementsAre(0));
-}
-
 TEST_F(TapsTest, CaptureWaitsForTheKeyboardWithoutAReport) {
     QWidget& view = world.focusedView();
     std::optional<OtherProgram> holder(std::in_place);
@@ -153,6 +122,9 @@ TEST_F(TapsTest, CaptureWaitsForTheKeyboardWithoutAReport) {
     type(keyA);
     EXPECT_THAT(tap.pressed(), ElementsAre(0));
     EXPECT_EQ(tap.refusals, 0);
+    // It ends at once with the tap.
+    tap.tap.reset();
+    EXPECT_TRUE(waitFor([this] { return world.isKeyboardFree(); }, 100));
 }
 
 } // namespace

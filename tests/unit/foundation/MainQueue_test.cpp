@@ -1,58 +1,42 @@
 #include "foundation/MainQueue.h"
 
 #include "foundation/ActionMessages.h"
+#include "support/TestDisplay.h"
 
-#include <QCoreApplication>
-#include <QEventLoop>
-#include <QThread>
-#include <QTimer>
 #include <gmock/gmock.h>
 #include <thread>
 
 using namespace Qt::StringLiterals;
+using namespace velmora;
 
-namespace velmora {
-namespace {
-
-TEST(MainQueueTest, RunsLaterInOrderOnTheMainThread) {
+TEST(MainQueue, RunsLaterInOrderOnTheMainThread) {
     std::vector<int> order;
-    QEventLoop loop;
-    QThread* ranOn = nullptr;
-    std::thread other([&] {
-        MainQueue::submit([&] { order.push_back(1); });
+    const auto note = [&](int number) {
+        order.push_back(number);
+        EXPECT_EQ(QThread::currentThread(), qApp->thread());
+    };
+    std::thread([&] {
+        MainQueue::submit([&] { note(1); });
         MainQueue::submit([&] {
-            order.push_back(2);
-            // Submitted from within a task: a later turn.
-            MainQueue::submit([&] {
-                order.push_back(4);
-                loop.quit();
-            });
-            order.push_back(3);
-            ranOn = QThread::currentThread();
+            MainQueue::submit([&] { note(4); }); // from within a task: a later turn
+            note(2);
         });
-    });
-    other.join();
+        MainQueue::submit([&] { note(3); });
+    }).join();
     EXPECT_THAT(order, testing::IsEmpty());
-    QTimer::singleShot(10'000, &loop, &QEventLoop::quit);
-    loop.exec();
+    EXPECT_TRUE(test::waitFor([&] { return order.size() == 4; }));
     EXPECT_THAT(order, testing::ElementsAre(1, 2, 3, 4));
-    EXPECT_EQ(ranOn, QCoreApplication::instance()->thread());
 }
 
-TEST(ActionMessagesTest, AHandlerMayReplaceItselfWhileItRuns) {
+TEST(ActionMessages, AHandlerMayReplaceItselfWhileItRuns) {
     ActionMessages messages;
     QStringList answered;
     messages.send(u"showSettings"_s);
-    messages.setHandler(u"showSettings"_s, [&] {
-        const QString mine = u"first"_s;
+    messages.setHandler(u"showSettings"_s, [&, mine = u"first"_s] {
         messages.setHandler(u"showSettings"_s, [&] { answered << u"second"_s; });
         answered << mine;
     });
-    messages.send(u"showSettings"_s);
-    messages.send(u"showSettings"_s);
-    messages.send(u"quitApp"_s);
+    for (const QString& message : {u"showSettings"_s, u"showSettings"_s, u"quitApp"_s})
+        messages.send(message);
     EXPECT_EQ(answered, (QStringList{u"first"_s, u"second"_s}));
 }
-
-} // namespace
-} // namespace velmora

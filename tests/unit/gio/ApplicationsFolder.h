@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
-#include <QStringList>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -16,53 +15,46 @@ namespace velmora::test {
 class ApplicationsFolder {
 public:
     ApplicationsFolder() {
-        QDir().mkpath(path({}));
         write(
-            program(), QStringLiteral("#!/bin/sh\n"
-                                      "{ for argument; do echo \"arg $argument\"; done\n"
-                                      "echo \"cwd $PWD\"\n"
-                                      "echo \"via $VIA\"\n"
+            program(), QStringLiteral("#!/bin/sh\n{ printf 'arg %s\\n' \"$@\"\n"
+                                      "echo \"cwd $PWD\"; echo \"via $VIA\"\n"
                                       "set -- $(cat /proc/$$/stat); echo \"session $6\"\n"
                                       "} >'%1.new' && mv '%1.new' '%1'\n")
                            .arg(report()));
-        QFile::setPermissions(program(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QFile::setPermissions(program(), QFile::ReadOwner | QFile::ExeOwner);
     }
     ~ApplicationsFolder() {
         QDir(path({})).removeRecursively();
         QFile::remove(handlers());
     }
 
-    QString program() const { return files_.filePath(QStringLiteral("program")); }
-    QString report() const { return files_.filePath(QStringLiteral("report")); }
+    QString program() const { return file(QStringLiteral("program")); }
+    QString report() const { return file(QStringLiteral("report")); }
     /// A folder for the test's own files.
     QString file(const QString& name) const { return files_.filePath(name); }
 
-    /// Full path of the entry "<id>.desktop".
+    /// Full path of the entry "<id>.desktop", or of the folder.
     QString path(const QString& id) const {
-        const QString folder =
-            qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/applications");
-        return id.isEmpty() ? folder : folder + u'/' + id + QStringLiteral(".desktop");
+        return qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/applications") +
+               (id.isEmpty() ? id : u'/' + id + QStringLiteral(".desktop"));
     }
 
     /// Writes the entry `id`; `lines` beyond Type and Name, by default an Exec of the program.
-    QString add(const QString& id, const QStringList& lines = {}) const {
-        const QStringList exec{QStringLiteral("Exec=") + program()};
+    QString add(const QString& id, const QString& lines = {}) const {
         write(
-            path(id), QStringLiteral("[Desktop Entry]\nType=Application\nName=Test\n") +
-                          (lines.isEmpty() ? exec : lines).join(u'\n') + u'\n');
+            path(id), QStringLiteral("[Desktop Entry]\nType=Application\nName=Test\n%1\n")
+                          .arg(lines.isEmpty() ? QStringLiteral("Exec=") + program() : lines));
         return path(id);
     }
 
     /// Makes the entry `id` the default handler of `type`, and of nothing else.
     void setDefault(const QString& type, const QString& id) const {
-        QDir().mkpath(qEnvironmentVariable("XDG_CONFIG_HOME"));
         write(handlers(), QStringLiteral("[Default Applications]\n%1=%2.desktop\n").arg(type, id));
     }
 
     /// Waits for the program's next report and gives its lines.
     QStringList nextReport() const {
-        if (!waitFor([this] { return QFile::exists(report()); }))
-            ADD_FAILURE() << "the program was not started";
+        EXPECT_TRUE(waitFor([this] { return QFile::exists(report()); })) << "not started";
         QFile file(report());
         if (!file.open(QIODevice::ReadOnly))
             return {};
@@ -73,6 +65,7 @@ public:
 
     /// Writes the whole file at once, as editors of such files do.
     static void write(const QString& path, const QString& text) {
+        QDir().mkpath(QFileInfo(path).path());
         QSaveFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
         file.write(text.toUtf8());

@@ -2,9 +2,9 @@
 
 #include "overlay/ShortcutButtonView.h"
 #include "support/Mouse.h"
-#include "support/TestDisplay.h"
 
 #include <QWheelEvent>
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace velmora {
@@ -56,11 +56,9 @@ TEST_F(DraggableScrollTest, StartsDraggingBeyondFivePointsInAnyDirection) {
     press(100);
     drag(95);
     drag(93);
-    EXPECT_TRUE(strip.isDraggingMode());
     EXPECT_EQ(strip.offset(), 2) << "movement before the threshold is never scrolled";
     drag(97);
     EXPECT_EQ(strip.offset(), 0) << "once dragging, coming back close to the press still scrolls";
-
     press(100);
     send(Kind::leftMouseDragged, {103, 14});
     EXPECT_FALSE(strip.isDraggingMode()) << "3 across and 4 down are 5 points";
@@ -68,19 +66,28 @@ TEST_F(DraggableScrollTest, StartsDraggingBeyondFivePointsInAnyDirection) {
     EXPECT_TRUE(strip.isDraggingMode());
 }
 
-TEST_F(DraggableScrollTest, ContentFollowsThePointerAndStopsAtTheEnds) {
-    strip.scrollBy(-300);
+TEST_F(DraggableScrollTest, StaysBetweenItsEndsWhateverTheContent) {
+    for (const auto& [delta, offset] : {std::pair(-300.0, 300.0), {100.5, 199.5}, {-5000, 800}}) {
+        strip.scrollBy(delta);
+        EXPECT_EQ(strip.offset(), offset);
+        EXPECT_EQ(strip.documentView()->x(), -std::lround(offset));
+    }
+    strip.documentView()->resize(500, 24);
     EXPECT_EQ(strip.offset(), 300);
-    EXPECT_EQ(strip.documentView()->pos(), QPoint(-300, 0));
-    strip.scrollBy(100.5);
-    EXPECT_EQ(strip.offset(), 199.5);
-    strip.scrollBy(-5000);
-    EXPECT_EQ(strip.offset(), 800);
+    strip.resize(450, 24);
+    EXPECT_EQ(strip.offset(), 50);
     strip.scrollBy(5000);
     EXPECT_EQ(strip.offset(), 0);
+    setContentWidth(120);
+    strip.scrollBy(-50);
+    strip.startDeceleration(-20);
+    coastToRest();
+    EXPECT_EQ(strip.offset(), 0);
+    strip.setAlignment(DraggableNSScrollView::Alignment::trailing);
+    EXPECT_EQ(strip.documentView()->x(), 330);
 }
 
-TEST_F(DraggableScrollTest, CoastsWithTheMovementThatTheReleaseCarries) {
+TEST_F(DraggableScrollTest, CoastsWithTheMovementThatTheReleaseTells) {
     for (const double movement : {-10.0, 10.0, -1.0, 0.99, 0.0}) {
         strip.stopDeceleration();
         strip.scrollBy(5000);
@@ -93,41 +100,27 @@ TEST_F(DraggableScrollTest, CoastsWithTheMovementThatTheReleaseCarries) {
         EXPECT_FALSE(strip.isDraggingMode());
         EXPECT_EQ(strip.offset(), 420) << "the release itself scrolls nothing";
     }
-}
-
-TEST_F(DraggableScrollTest, SpeedDecaysByTwoPercentATick) {
-    strip.startDeceleration(-10);
-    strip.handleDecelerationStep();
-    EXPECT_DOUBLE_EQ(strip.currentVelocity(), -9.8);
-    EXPECT_DOUBLE_EQ(strip.offset(), 9.8);
-    strip.handleDecelerationStep();
-    EXPECT_DOUBLE_EQ(strip.offset(), 9.8 + 9.8 * 0.98);
-    coastToRest();
-    // 10 x 0.98^n stays at or above 0.5 up to n = 148; the tick that falls below does not move.
-    double travelled = 0;
-    double velocity = 10;
-    for (int tick = 1; tick <= 148; ++tick)
-        travelled += velocity *= 0.98;
-    EXPECT_NEAR(strip.offset(), travelled, 1e-9);
-    EXPECT_LT(std::abs(strip.currentVelocity()), 0.5);
-}
-
-TEST_F(DraggableScrollTest, CoastingStopsAtAnEnd) {
-    for (const double velocity : {-50.0, 50.0}) {
-        strip.startDeceleration(velocity);
-        coastToRest();
-        EXPECT_EQ(strip.offset(), velocity < 0 ? 800 : 0);
-        EXPECT_EQ(strip.currentVelocity(), 0);
-        EXPECT_FALSE(strip.isCoasting());
-    }
-}
-
-TEST_F(DraggableScrollTest, APressStopsCoasting) {
     strip.startDeceleration(-10);
     send(Kind::leftMouseDown, {-1, 10});
     EXPECT_TRUE(strip.isCoasting()) << "a press beside the strip is none of its business";
     press(10);
     EXPECT_FALSE(strip.isCoasting());
+}
+
+TEST_F(DraggableScrollTest, SlowsDownByTwoPercentATickAndStopsAtAnEnd) {
+    strip.startDeceleration(-10);
+    coastToRest();
+    // 10 x 0.98^n stays at or above 0.5 up to n = 148; the tick that falls below does not move.
+    double travelled = 0;
+    for (int tick = 1; tick <= 148; ++tick)
+        travelled += 10 * std::pow(0.98, tick);
+    EXPECT_NEAR(strip.offset(), travelled, 1e-9);
+    for (const double velocity : {-50.0, 50.0}) {
+        strip.startDeceleration(velocity);
+        coastToRest();
+        EXPECT_EQ(strip.offset(), velocity < 0 ? 800 : 0);
+        EXPECT_EQ(strip.currentVelocity(), 0);
+    }
 }
 
 TEST_F(DraggableScrollTest, EventsOfOtherWindowsOrOutsideChangeNothing) {
@@ -146,43 +139,20 @@ TEST_F(DraggableScrollTest, EventsOfOtherWindowsOrOutsideChangeNothing) {
     EXPECT_FALSE(strip.isDraggingMode());
 }
 
-TEST_F(DraggableScrollTest, NarrowContentStaysWhereItIs) {
-    setContentWidth(120);
-    strip.scrollBy(-50);
-    EXPECT_EQ(strip.offset(), 0);
-    strip.startDeceleration(-20);
-    coastToRest();
-    EXPECT_EQ(strip.offset(), 0);
-    strip.setAlignment(DraggableNSScrollView::Alignment::trailing);
-    EXPECT_EQ(strip.documentView()->x(), 80);
-    EXPECT_EQ(strip.offset(), 0);
-}
-
-TEST_F(DraggableScrollTest, StaysWithinContentThatShrinks) {
-    strip.scrollBy(-800);
-    strip.documentView()->resize(500, 24);
-    EXPECT_EQ(strip.offset(), 300);
-    strip.resize(450, 24);
-    EXPECT_EQ(strip.offset(), 50);
-}
-
 TEST_F(DraggableScrollTest, ScrollsWithWheelAndTouchpad) {
-    const auto wheel = [this](QPoint pixels, QPoint angle) {
+    const struct {
+        QPoint pixels, angle;
+        double offset;
+    } turns[] = {{{}, {0, -120}, 48}, {{}, {-120, 0}, 96}, {{-7, 3}, {-56, 24}, 103}};
+    strip.startDeceleration(-10);
+    for (const auto& [pixels, angle, offset] : turns) {
         QWheelEvent event(
             {10, 10}, {10, 10}, pixels, angle, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
             false);
         QCoreApplication::sendEvent(&strip, &event);
-    };
-    wheel({}, {0, -120});
-    const double notch = strip.offset();
-    EXPECT_GT(notch, 0);
-    wheel({}, {-120, 0});
-    EXPECT_EQ(strip.offset(), 2 * notch);
-    wheel({-7, 3}, {-56, 24});
-    EXPECT_EQ(strip.offset(), 2 * notch + 7);
-    strip.startDeceleration(-10);
-    wheel({}, {0, 120});
-    EXPECT_FALSE(strip.isCoasting());
+        EXPECT_EQ(strip.offset(), offset);
+        EXPECT_FALSE(strip.isCoasting());
+    }
 }
 
 TEST_F(DraggableScrollTest, HoverFollowsContentThatMovesUnderARestingPointer) {

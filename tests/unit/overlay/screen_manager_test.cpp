@@ -47,17 +47,5 @@ TEST(ScreenManagerTest, GeometryFollowsFromFrameAndTopInset) {
     }
 }
 
-/// Replaces what the composite queries are made of.
-class SubstitutedManager : public ScreenManager {
-public:
-    using ScreenManager::ScreenManager;
-
-    std::optional<Screen> getPrimaryScreen() const override { return screenOf(1000, 500, 10); }
-    QMarginsF getSafeInsets() const override { return {0, insetTop, 0, 0}; }
-    QRectF getNotchBounds() const override { return {100, 490, 200, 10}; }
-
-    double insetTop = 0;
-};
-
 } // namespace
 } // namespace velmora

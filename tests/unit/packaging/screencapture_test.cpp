@@ -12,95 +12,67 @@
 using namespace Qt::StringLiterals;
 using namespace velmora;
 
-namespace {
-
-class ScreencaptureTest : public testing::Test {
-protected:
-    ScreencaptureTest() {
-        for (const QString& tool : {u"mkdir"_s, u"mktemp"_s, u"rm"_s})
-            QFile::link(QStandardPaths::findExecutable(tool), folder.filePath(tool));
-    }
-
-    /// A tool that writes its name and arguments to "calls" and an image to its last argument.
-    void install(const QString& tool, const QString& image = u"image"_s) {
-        QFile file(folder.filePath(tool));
+TEST(Screencapture, UsesTheToolsThatAreThere) {
+    const QTemporaryDir folder;
+    for (const QString& tool : {u"mkdir"_s, u"mktemp"_s, u"rm"_s})
+        QFile::link(QStandardPaths::findExecutable(tool), folder.filePath(tool));
+    // A tool that writes its name and arguments to "calls" and an image to its last argument.
+    const auto install = [&](const char* tool, const char* image) {
+        QFile file(folder.filePath(QString::fromLatin1(tool)));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(
-            u"#!/bin/sh\necho %1 \"$@\" >>'%2'\nfor last; do :; done\nprintf '%3' >\"$last\"\n"_s
-                .arg(tool, folder.filePath(u"calls"_s), image)
-                .toUtf8());
+            QByteArray("#!/bin/sh\necho ") + tool +
+            " \"$@\" >>calls\n"
+            "for last; do :; done\nprintf '" +
+            image + "' >\"$last\"\n");
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-
-    /// Runs the command in the test's folder; gives its exit status.
-    int run(const QStringList& arguments) {
+    };
+    const struct {
+        const char* newTool;
+        const char* arguments;
+        int status;
+        const char* said; ///< a call, or the start of what it complains of; FOLDER is the test's
+    } cases[] = {
+        {"", "-i shot.png", 1, "screencapture: no screenshot tool"},
+        {"", "", 1, "screencapture: no file"},
+        {"", "-Z shot.png", 1, "screencapture: usage"},
+        // It would wait for a selection.
+        {"import", "-i shot.png", 0, "import -window root FOLDER/shot.png\n"},
+        {"", "-w shot.png", 0, "import -window root FOLDER/shot.png\n"},
+        {"scrot", "-c", 1, "nor xclip is installed"},
+        {"maim", "-i FOLDER/new/shot.png", 0, "maim -s FOLDER/new/shot.png\n"},
+        {"", "-xw relative.png", 0, "maim -s FOLDER/relative.png\n"},
+        {"", "relative.png", 0, "maim FOLDER/relative.png\n"},
+        {"xclip", "-ic", 0, "xclip -selection clipboard -t image/png -i /"},
+        // A desktop's own tool comes before the bare ones.
+        {"gnome-screenshot", "-i FOLDER/a.png", 0, "gnome-screenshot -a -f FOLDER/a.png\n"},
+        {"gnome-screenshot", "b.png", 1, "screencapture: nothing was captured"},
+    };
+    for (const auto& [newTool, arguments, status, said] : cases) {
+        if (*newTool)
+            install(newTool, QByteArrayView(said).endsWith("captured") ? "" : "image");
+        const auto resolved = [&](const char* text) {
+            return QString::fromLatin1(text).replace(u"FOLDER"_s, folder.path());
+        };
+        QFile calls(folder.filePath(u"calls"_s));
+        calls.remove();
         QProcess process;
         QProcessEnvironment environment;
         environment.insert(u"PATH"_s, folder.path());
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder.path());
-        process.start(Bundle::helperPath().value() + u"/screencapture"_s, arguments);
-        EXPECT_TRUE(process.waitForFinished());
-        errors = QString::fromUtf8(process.readAllStandardError());
-        return process.exitCode();
+        process.start(
+            Bundle::helperPath().value() + u"/screencapture"_s,
+            resolved(arguments).split(u' ', Qt::SkipEmptyParts));
+        ASSERT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitCode(), status) << arguments;
+        calls.open(QIODevice::ReadOnly);
+        const QString all = QString::fromUtf8(process.readAllStandardError() + calls.readAll());
+        EXPECT_TRUE(all.contains(resolved(said))) << qPrintable(all);
+        // A picture for the clipboard does not stay in a file.
+        const QString last = all.trimmed().section(u' ', -1);
+        EXPECT_TRUE(!all.contains(u"xclip -s"_s) || !QFile::exists(last.section(u'/', 0, -2)));
     }
-
-    QString calls() {
-        QFile file(folder.filePath(u"calls"_s));
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    }
-
-    QTemporaryDir folder;
-    QString errors;
-};
-
-} // namespace
-
-TEST_F(ScreencaptureTest, TakesWhatIsAskedForIntoTheFile) {
-    install(u"maim"_s);
-    const QString file = folder.filePath(u"new folder/shot.png"_s);
-    EXPECT_EQ(run({u"-i"_s, file}), 0) << qPrintable(errors);
-    EXPECT_TRUE(QFile::exists(file));
-    EXPECT_EQ(run({u"-xw"_s, u"relative.png"_s}), 0);
-    EXPECT_EQ(run({u"relative.png"_s}), 0);
-    const QString relative = folder.filePath(u"relative.png"_s);
-    EXPECT_EQ(calls(), u"maim -s %1\nmaim -s %2\nmaim %2\n"_s.arg(file, relative));
-
-    // A desktop's own tool comes before the bare ones.
-    install(u"gnome-screenshot"_s);
-    EXPECT_EQ(run({u"-i"_s, file}), 0);
-    EXPECT_TRUE(calls().endsWith(u"\ngnome-screenshot -a -f %1\n"_s.arg(file)));
-}
-
-TEST_F(ScreencaptureTest, NeverLetsImportWaitForASelection) {
-    install(u"import"_s);
-    const QString file = folder.filePath(u"shot.png"_s);
-    for (const QString& option : {u"-i"_s, u"-w"_s, u"-x"_s}) {
-        EXPECT_EQ(run({option, file}), 0) << qPrintable(errors);
-        EXPECT_TRUE(calls().endsWith(u"import -window root %1\n"_s.arg(file)));
-    }
-}
-
-TEST_F(ScreencaptureTest, PutsTheImageOnTheClipboard) {
-    install(u"scrot"_s);
-    EXPECT_EQ(run({u"-c"_s}), 1);
-    EXPECT_TRUE(errors.contains(u"xclip"_s));
-    install(u"xclip"_s);
-    EXPECT_EQ(run({u"-ic"_s}), 0) << qPrintable(errors);
-    EXPECT_TRUE(calls().contains(u"xclip -selection clipboard -t image/png -i /"_s));
-    // The temporary image is gone.
-    const QString temporary = calls().trimmed().section(u' ', -1);
-    EXPECT_FALSE(QFile::exists(temporary.section(u'/', 0, -2)));
-}
-
-TEST_F(ScreencaptureTest, FailsWithAMessage) {
-    EXPECT_EQ(run({u"-i"_s, u"shot.png"_s}), 1);
-    EXPECT_TRUE(errors.startsWith(u"screencapture: no screenshot tool"_s)) << qPrintable(errors);
-    install(u"import"_s, QString());
-    EXPECT_EQ(run({u"-i"_s, u"shot.png"_s}), 1);
-    EXPECT_EQ(errors, u"screencapture: nothing was captured\n"_s);
-    EXPECT_NE(run({}), 0);
-    EXPECT_NE(run({u"-Z"_s, u"shot.png"_s}), 0);
 }
 
 TEST(HelperPath, IsLastAndThereOnce) {

@@ -26,19 +26,14 @@ QStringList names(const AppListModel& model) {
 }
 
 TEST(AppListModel, OffersAllFromTheTwentyFirst) {
-    const struct {
-        int count;
-        int rows;
-        bool offered;
-    } cases[] = {{0, 0, false}, {1, 1, false}, {20, 20, false}, {21, 21, true}, {2000, 21, true}};
-    for (const auto& c : cases) {
+    for (const int count : {0, 1, 20, 21, 2000}) {
         AppListModel model({});
-        model.setApps(numbered(c.count));
-        EXPECT_EQ(model.rowCount(), c.rows) << c.count;
-        EXPECT_EQ(names(model).contains(u"(all)"_s), c.offered) << c.count;
+        model.setApps(numbered(count));
+        EXPECT_EQ(model.rowCount(), std::min(count, 21));
+        EXPECT_EQ(names(model).contains(u"(all)"_s), count > 20) << count;
         model.showAllApps();
-        EXPECT_EQ(model.rowCount(), c.count);
-        EXPECT_FALSE(names(model).contains(u"(all)"_s)) << c.count;
+        EXPECT_EQ(model.rowCount(), count);
+        EXPECT_FALSE(names(model).contains(u"(all)"_s)) << count;
     }
 }
 
@@ -54,22 +49,13 @@ TEST(AppListModel, SearchLooksThroughAllAndLeavesTheRuleAsItWas) {
     model.setSearchText({});
     EXPECT_EQ(model.rowCount(), 21);
     model.showAllApps();
-    model.setSearchText(u"nothing"_s);
-    EXPECT_EQ(model.rowCount(), 0);
-    model.setSearchText({});
     EXPECT_EQ(model.rowCount(), 30);
 }
 
 TEST(AppListModel, EveryCopyOfTheChoiceIsMarked) {
-    AppListModel model(u"org.b"_s);
-    model.setApps(SearchableApps(
-        {{u"B"_s, u"org.b"_s, u"/1"_s},
-         {u"B"_s, u"org.b"_s, u"/2"_s},
-         {u"C"_s, u"org.B"_s, u"/3"_s}}));
-    QList<bool> marks;
-    for (int row = 0; row < model.rowCount(); ++row)
-        marks.append(model.isSelected(*model.app(model.index(row))));
-    EXPECT_THAT(marks, testing::ElementsAre(true, true, false));
+    const AppListModel model(u"org.b"_s);
+    for (const QString& id : {u"org.b"_s, u"org.B"_s, u"org.bb"_s})
+        EXPECT_EQ(model.isSelected({u"B"_s, id, {}}), id == u"org.b"_s);
 }
 
 } // namespace

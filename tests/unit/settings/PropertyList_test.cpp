@@ -14,28 +14,21 @@ namespace {
 using Strings = QHash<QString, QString>;
 
 /// A binary list of {"CFBundleName": "Ä", "n": true, "CFBundleIdentifier": "org.x"}.
-QByteArray binaryList() {
-    QByteArray data = "bplist00";
-    QByteArray offsets;
-    const auto add = [&](const QByteArray& object) {
-        offsets += char(data.size());
-        data += object;
-    };
-    add(QByteArray("\xd3\x01\x02\x03\x04\x05\x06", 7)); // three keys, three values
-    add(QByteArray("\x5c"
-                   "CFBundleName"));
-    add(QByteArray("\x51n"));
-    add(QByteArray("\x5f\x10\x12"
-                   "CFBundleIdentifier"));
-    add(QByteArray("\x61\x00\xc4", 3));
-    add(QByteArray("\x09"));
-    add(QByteArray("\x55org.x"));
-    const char table = char(data.size());
-    data += offsets;
-    data += QByteArray(6, '\0') + '\x01' + '\x01';
-    data += QByteArray(7, '\0') + '\x07' + QByteArray(8, '\0') + QByteArray(7, '\0') + table;
-    return data;
-}
+const QByteArray binaryList = "bplist00" +
+                              QByteArray::fromHex("d3010203040506"
+                                                  "5c") +
+                              "CFBundleName" +
+                              QByteArray::fromHex("516e"
+                                                  "5f1012") +
+                              "CFBundleIdentifier" +
+                              QByteArray::fromHex("6100c4"
+                                                  "09"
+                                                  "556f72672e78"
+                                                  "080f1c1e333637"
+                                                  "0000000000000101"
+                                                  "0000000000000007"
+                                                  "0000000000000000"
+                                                  "000000000000003d");
 
 const QStringList wanted{u"CFBundleIdentifier"_s, u"CFBundleName"_s};
 
@@ -51,8 +44,8 @@ TEST(PropertyList, ReadsTheWantedTopLevelStrings) {
   <key>CFBundleIdentifier</key><string>org.x</string>
 </dict></plist>)";
     EXPECT_EQ(propertyListStrings(xml, wanted), expected);
-    EXPECT_EQ(propertyListStrings(binaryList(), wanted), expected);
-    EXPECT_EQ(propertyListStrings(binaryList(), {u"n"_s}), Strings()) << "no string";
+    EXPECT_EQ(propertyListStrings(binaryList, wanted), expected);
+    EXPECT_EQ(propertyListStrings(binaryList, {u"n"_s}), Strings()) << "no string";
     for (const char* text :
          {"", "x", "<plist/>", "<plist><array/></plist>", "<other><dict/></other>",
           "<plist><dict><key>CFBundleName</key><string>b</string>",
@@ -62,14 +55,13 @@ TEST(PropertyList, ReadsTheWantedTopLevelStrings) {
 
 // Run with the sanitizers: whatever a byte says, nothing outside the data is read.
 TEST(PropertyList, DamagedBinaryIsHarmless) {
-    const QByteArray whole = binaryList();
-    for (qsizetype i = 0; i < whole.size(); ++i) {
+    for (qsizetype i = 0; i < binaryList.size(); ++i) {
         for (const int value : {0x00, 0x01, 0x5f, 0x6f, 0x7f, 0xdf, 0xff}) {
-            QByteArray damaged = whole;
+            QByteArray damaged = binaryList;
             damaged[i] = char(value);
             propertyListStrings(damaged, wanted);
         }
-        EXPECT_EQ(propertyListStrings(whole.left(i), wanted), Strings());
+        EXPECT_EQ(propertyListStrings(binaryList.left(i), wanted), Strings());
     }
 }
 

@@ -92,10 +92,10 @@ TEST_F(SettingsWindowTest, IsMadeOnceAndDroppedWhenItCloses) {
 TEST_F(SettingsWindowTest, ComesBackWhereItWas) {
     const QString key = u"NSWindow Frame SettingsWindow"_s;
     window_.show();
-    window_.window()->move(300, 30);
+    window_.window()->move(100, 30);
     window_.window()->resize(640, 560);
     // At rest it is saved without being closed.
-    EXPECT_TRUE(waitFor([&] { return defaults_.data(key) == "300 30 640 560"; }));
+    EXPECT_TRUE(waitFor([&] { return defaults_.data(key) == "100 30 640 560 4 4"; }));
     window_.window()->resize(650, 560);
     window_.close();
     // Full screen and maximized are no frames of its own.
@@ -104,10 +104,10 @@ TEST_F(SettingsWindowTest, ComesBackWhereItWas) {
         window_.window()->setWindowState(state);
         EXPECT_TRUE(waitFor([&] { return window_.window()->size() != QSize(650, 560); }));
         window_.close();
-        EXPECT_EQ(defaults_.data(key), "300 30 650 560") << state;
+        EXPECT_EQ(defaults_.data(key), "100 30 650 560 4 4") << state;
     }
     window_.show();
-    EXPECT_EQ(window_.window()->pos(), QPoint(300, 30));
+    EXPECT_EQ(window_.window()->pos(), QPoint(100, 30));
     EXPECT_EQ(window_.window()->size(), QSize(650, 560));
     window_.close();
     defaults_.setData(key, "90000 90000 640 560");

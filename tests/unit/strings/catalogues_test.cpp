@@ -48,7 +48,10 @@ TEST(Catalogues, SayTheSameInEveryLanguage) {
         {u"action_desc_launch"_s, {u"%1"_s}},      {u"action_desc_open"_s, {u"%1"_s}},
         {u"action_desc_execute"_s, {u"%1"_s}},     {u"action_desc_key"_s, {u"%1"_s}},
         {u"mouse_click_btn_format"_s, {u"%1"_s}},  {u"picker_app_show_all"_s, {u"%1"_s}},
+        {u"trust_message_extensions"_s, {u"%1"_s}},
         {u"version_format"_s, {u"%1"_s, u"%2"_s}}, // the short version first
+        {u"settings_not_stored_format"_s, {u"%1"_s}},
+        {u"tos.not_stored_format"_s, {u"%1"_s}},
     };
     for (const QString& language :
          {u"en"_s, u"ja"_s, u"de"_s, u"fr"_s, u"es"_s, u"zh_CN"_s, u"ko"_s}) {

@@ -1,13 +1,12 @@
 // The decisions of the event taps, without a display.
 
-#include "foundation/Log.h"
 #include "platform/x11/ChordStates.h"
 #include "platform/x11/KeyLabels.h"
 #include "platform/x11/MouseButtonNumbers.h"
-#include "platform/x11/X11EventTap.h"
-#include "support/TestDisplay.h"
+#include "platform/x11/RetryPauses.h"
+#include "platform/x11/X11Grab.h"
 
-#include <QElapsedTimer>
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <limits>
 #include <xkbcommon/xkbcommon.h>
@@ -15,7 +14,6 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace velmora;
-using velmora::test::waitFor;
 
 namespace {
 
@@ -81,109 +79,18 @@ TEST(KeyLabels, NameWhatAKeyTypesWithModifiersButShiftIgnored) {
     EXPECT_EQ(KeyLabels().label(38, 0, false), u""_s);
 }
 
-/// A grab whose answers the test sets.
-struct ScriptedGrab final : X11Grab {
-    struct Script {
-        bool free = true;
-        int tries = 0;
-        int alive = 0;
-        X11Grab::Sink sink;
-    };
-    explicit ScriptedGrab(Script& newScript, Sink sink) : script(newScript) {
-        ++script.alive;
-        script.sink = std::move(sink);
+TEST(RetryPauses, GrowAndBeginAnew) {
+    RetryPauses pauses(X11Grab::usualPauses);
+    std::vector<std::chrono::milliseconds> seen;
+    for (int refusal = 0; refusal < 8; ++refusal) {
+        pauses.noteRefusal();
+        seen.push_back(pauses.next());
     }
-    ~ScriptedGrab() override { --script.alive; }
-    bool obtain() override {
-        ++script.tries;
-        return script.free;
-    }
-    bool adopt(const EventTapInterest& interest) override {
-        return std::holds_alternative<TapInterest::Chord>(interest);
-    }
-    QString refusedName() const override { return u"X"_s; }
-    std::span<const std::chrono::milliseconds> pauses() const override {
-        static constexpr std::chrono::milliseconds pauses[] = {20ms, 40ms};
-        return pauses;
-    }
-    bool waitsForItsTurn() const override { return false; }
-
-    Script& script;
-};
-
-class Tap : public testing::Test {
-protected:
-    void make(EventTaps::Handler handler) {
-        tap = std::make_unique<X11EventTap>(
-            [this](const auto&, X11Grab::Sink sink) {
-                return std::make_unique<ScriptedGrab>(script, std::move(sink));
-            },
-            eventMaskBit(EventType::keyDown), TapInterest::Chord{}, std::move(handler));
-    }
-    EventTaps::Handler reenabling() {
-        return [this](EventType type, const TapEvent& event) {
-            types.push_back(type);
-            if (type == EventType::tapDisabledByUserInput)
-                tap->setEnabled(true);
-            return std::optional(event);
-        };
-    }
-
-    ScriptedGrab::Script script;
-    std::unique_ptr<X11EventTap> tap;
-    std::vector<EventType> types;
-};
-
-TEST_F(Tap, AsksAgainAfterGrowingPausesWhileItsHandlerWantsIt) {
-    testing::internal::CaptureStdout();
-    make(reenabling());
-    script.free = false;
-    QElapsedTimer clock;
-    clock.start();
-    tap->setEnabled(true);
-    EXPECT_FALSE(tap->isEnabled());
-    EXPECT_TRUE(types.empty()) << "told only in a later turn";
-    ASSERT_TRUE(waitFor([this] { return script.tries == 3; }));
-    EXPECT_GE(clock.elapsed(), 55);
-    script.free = true;
-    ASSERT_TRUE(waitFor([this] { return script.tries == 4; }));
-    EXPECT_TRUE(tap->isEnabled());
-    EXPECT_THAT(types, testing::Each(EventType::tapDisabledByUserInput));
-    EXPECT_EQ(types.size(), 3U);
-    Log::flush();
-    EXPECT_EQ(
-        testing::internal::GetCapturedStdout(),
-        "X is held by another program; trying again\nX works again\n");
-}
-
-TEST_F(Tap, StaysOffWhenItsHandlerLeavesItOff) {
-    make([](EventType, const TapEvent& event) { return std::optional(event); });
-    script.free = false;
-    tap->setEnabled(true);
-    ASSERT_TRUE(waitFor([this] { return script.alive == 0; }));
-    EXPECT_FALSE(tap->isEnabled());
-    script.free = true;
-    tap->setEnabled(true);
-    EXPECT_TRUE(tap->isEnabled());
-    EXPECT_EQ(script.tries, 2) << "a fresh start asks at once";
-}
-
-TEST_F(Tap, MayBeDestroyedByItsHandler) {
-    make([this](EventType, const TapEvent&) -> std::optional<TapEvent> {
-        tap.reset();
-        return std::nullopt;
-    });
-    tap->setEnabled(true);
-    script.sink.event({.type = EventType::keyDown});
-    EXPECT_EQ(script.alive, 0);
-
-    make([this](EventType, const TapEvent& event) {
-        tap.reset();
-        return std::optional(event);
-    });
-    script.free = false;
-    tap->setEnabled(true);
-    EXPECT_TRUE(waitFor([this] { return script.alive == 0; }));
+    EXPECT_TRUE(std::ranges::is_sorted(seen));
+    EXPECT_LT(seen.front(), 1s);
+    EXPECT_EQ(seen.back(), 10s);
+    pauses.reset();
+    EXPECT_FALSE(pauses.isFailing());
 }
 
 } // namespace

@@ -23,24 +23,20 @@ double coverage(const QImage& image) {
 }
 
 TEST(SymbolTable, ReadsLayersAndSkipsWhatIsNotARow) {
-    const SymbolTable table = parseSymbolTable(
-        "# comment\twith tab\n\nbroken\nplain\tgear\n"
-        "mixed\tapp mirror-x clear-rect@6,5.5,10,10.5 clear-ellipse@1,2,3 gift-fill@-1,4,8\n");
+    const SymbolTable table = parseSymbolTable("# comment\twith tab\n\nbroken\nmixed\tapp mirror-x "
+                                               "clear-rect@6,5.5,10,10.5 gift@-1,4,8\n");
     using Kind = SymbolLayer::Kind;
-    ASSERT_EQ(table.size(), 2);
-    EXPECT_EQ(table[u"plain"_s], QList({SymbolLayer{Kind::drawing, u"gear"_s, {0, 0, 16, 16}}}));
+    ASSERT_EQ(table.size(), 1);
     EXPECT_EQ(
         table[u"mixed"_s], QList({
                                SymbolLayer{Kind::drawing, u"app"_s, {0, 0, 16, 16}},
                                SymbolLayer{Kind::mirrorHorizontally, {}, {0, 0, 16, 16}},
                                SymbolLayer{Kind::clearRectangle, {}, {6, 5.5, 10, 10.5}},
-                               SymbolLayer{Kind::clearEllipse, {}, {1, 2, 3, 3}},
-                               SymbolLayer{Kind::drawing, u"gift-fill"_s, {-1, 4, 8, 8}},
+                               SymbolLayer{Kind::drawing, u"gift"_s, {-1, 4, 8, 8}},
                            }));
 }
 
 TEST(Symbols, EveryNameOfTheTableDrawsSomethingOfItsOwn) {
-    ASSERT_TRUE(Symbols::contains(u"safari"_s));
     QFile file(u":/symbols/symbols.tsv"_s);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const SymbolTable table = parseSymbolTable(file.readAll());
@@ -53,15 +49,10 @@ TEST(Symbols, EveryNameOfTheTableDrawsSomethingOfItsOwn) {
 }
 
 TEST(Symbols, UnknownNamesDrawNothing) {
-    QImage canvas(20, 20, QImage::Format_ARGB32_Premultiplied);
-    canvas.fill(Qt::transparent);
-    QPainter painter(&canvas);
-    for (const QString& name : {u"appwindow.swiftui"_s, u"lassoaura"_s, u"Safari"_s, QString()}) {
+    for (const QString& name : {u"lassoaura"_s, u"Safari"_s, QString()}) {
         EXPECT_FALSE(Symbols::contains(name));
         EXPECT_TRUE(Symbols::pixmap(name, 14, 1, Qt::white).isNull());
-        Symbols::paint(painter, name, canvas.rect(), Qt::white);
     }
-    EXPECT_EQ(coverage(canvas), 0);
 }
 
 TEST(Symbols, PaintsOnWholeDevicePixels) {

@@ -74,27 +74,21 @@ TEST(VelocityTracker, TellsTheSpeedAtTheEndOfTheWay) {
         EXPECT_NEAR(mouse.release(1).x(), -8, 1.5) << "it turned round";
         mouse.rest(400);
         mouse.move(8, 50);
-        const double told = mouse.release(0).x();
-        EXPECT_GT(told, 5) << "it has just set off";
-        EXPECT_LE(told, 9);
+        EXPECT_NEAR(mouse.release(0).x(), 7, 2) << "it has just set off";
     }
 }
 
 TEST(VelocityTracker, StandsJumpsAndAClockThatWrapsAround) {
-    VelocityTracker tracker{};
+    VelocityTracker tracker;
     EXPECT_EQ(tracker.movement(1), QPointF()) << "a release without a press";
     tracker.press({0, 0}, 100);
     tracker.move({30, 4}, 100);
     EXPECT_EQ(tracker.movement(101), QPointF(30, 4)) << "no faster than the way itself";
-    tracker.press({0, 0}, 110);
-    EXPECT_EQ(tracker.movement(111), QPointF()) << "a press begins anew";
-
-    Mouse mouse{.rate = 125, .start = 0xffffffff - 60};
-    mouse.press();
-    mouse.move(8, 56);
-    EXPECT_NEAR(mouse.release(8).x(), 8, 0.5);
-    mouse.tracker.move({200, 7}, 3); // 64 milliseconds from the start
-    EXPECT_GT(mouse.tracker.movement(4).x(), 8);
+    tracker.press({0, 0}, 0xffffffff - 15);
+    EXPECT_EQ(tracker.movement(0xffffffff), QPointF()) << "a press begins anew";
+    tracker.move({8, 0}, 0xffffffff);
+    tracker.move({16, 0}, 16);
+    EXPECT_NEAR(tracker.movement(17).x(), 8, 0.5);
 }
 
 } // namespace

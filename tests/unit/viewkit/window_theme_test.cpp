@@ -37,16 +37,14 @@ TEST(WindowTheme, MenusAskForTheSchemeOnceAndFollowIt) {
     EXPECT_EQ(asked, 0);
     menu.popUp({});
     const QString dark = menu.styleSheet();
-    WindowTheme::setColorScheme(ColorScheme::light);
-    QCoreApplication::processEvents();
-    const QString light = menu.styleSheet();
-    EXPECT_NE(light, dark);
+    for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark, ColorScheme::light}) {
+        WindowTheme::setColorScheme(scheme);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(menu.styleSheet() == dark, scheme == ColorScheme::dark);
+    }
     menu.close();
-    WindowTheme::setColorScheme(ColorScheme::dark);
     menu.popUp({});
-    EXPECT_EQ(menu.styleSheet(), dark);
     EXPECT_EQ(asked, 1);
-    WindowTheme::setColorScheme(ColorScheme::light);
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "platform/x11/NotchedLaptops.h"
 #include "platform/x11/SafeAreaInsets.h"
 #include "platform/x11/X11Accessibility.h"
-#include "platform/x11/X11PanelWindows.h"
 
 #include <gtest/gtest.h>
 
@@ -47,26 +46,6 @@ TEST(NotchedLaptopsTest, NeedsTheMachineAndAModeWithTheNotchRows) {
     };
     for (const auto& [compatible, mode, height] : cases)
         EXPECT_EQ(knownCutoutHeight(compatible, mode), height) << compatible.constData();
-}
-
-TEST(CoveringFrameTest, TurnsAboutAndCoversPartOfAPointWhole) {
-    const struct {
-        QRectF content;
-        double screenHeight;
-        QPoint origin;
-        QRect frame;
-    } cases[] = {
-        {{0, 958, 1512, 24}, 982, {}, {0, 0, 1512, 24}},
-        {{0, 0, 10, 4}, 982, {}, {0, 978, 10, 4}},
-        {{0, 958, 1512, 24}, 982, {1920, 0}, {1920, 0, 1512, 24}},
-        // 1367 x 769 pixels at 1.5, a bar of 32 pixels.
-        {{0, 769 / 1.5 - 32 / 1.5, 1367 / 1.5, 32 / 1.5}, 769 / 1.5, {}, {0, 0, 912, 22}},
-        // 36 pixels at 1.2 are 30 points, not one more for what the division leaves.
-        {{0, 1080 / 1.2 - 36 / 1.2, 1920 / 1.2, 36 / 1.2}, 1080 / 1.2, {}, {0, 0, 1600, 30}},
-        {{0, -24, 0, 24}, 0, {}, {}},
-    };
-    for (const auto& [content, screenHeight, origin, frame] : cases)
-        EXPECT_EQ(coveringFrame(content, screenHeight, origin), frame);
 }
 
 TEST(AccessibilityTest, WaylandIsToldBySurestSignFirst) {

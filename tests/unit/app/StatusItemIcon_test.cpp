@@ -1,8 +1,4 @@
-#include "app/StatusBarController.h"
-
 #include "app/StatusItemIcon.h"
-#include "support/FakeTrayHost.h"
-#include "support/TestDisplay.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -12,13 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace velmora {
 namespace {
-
-TEST(StatusBarController, LooksForATrayEvenIfNothingIsEverPainted) {
-    test::FakeTrayHost trayHost;
-    StatusBarController controller(trayHost, [] {});
-    controller.setupStatusBar();
-    EXPECT_TRUE(test::waitFor([&] { return bool(trayHost.arrive); }, 5000));
-}
 
 TEST(StatusItemIcon, IsTheFilesPictureOrAnother) {
     const QTemporaryDir folder;
