@@ -17,7 +17,7 @@ demo_packages=(xvfb openbox xdotool imagemagick x11-utils fonts-noto-cjk)
 # For ./test.
 test_packages=(
     libgtest-dev libgmock-dev xvfb openbox xfwm4 i3-wm picom dbus x11-utils x11-xserver-utils x11-xkb-utils
-    fonts-noto-cjk trayer xfce4-panel at-spi2-core strace
+    fonts-noto-cjk trayer xfce4-panel strace
 )
 
 # For the benchmarks: what Velmora is compared with on the same display.

@@ -13,21 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace velmora::test {
-namespace {
-
-QString title(const XClient& client, xcb_window_t window) {
-    const auto cookie = xcb_get_property(
-        client, 0, window, client.atom("_NET_WM_NAME"), client.atom("UTF8_STRING"), 0, 100);
-    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(client, cookie, nullptr));
-    if (!reply)
-        return {};
-    return QString::fromUtf8(
-        static_cast<const char*>(xcb_get_property_value(reply.get())),
-        xcb_get_property_value_length(reply.get()));
-}
-
-} // namespace
-
 Session::Session(const Options& options) : options_(options) {
     display_ = std::make_unique<TestDisplay>(options.screen.width(), options.screen.height());
     if (!options.windowManager.isEmpty())
@@ -136,7 +121,7 @@ std::optional<TopWindow> Session::bar() {
     // A window manager's own say nothing about their process; menus and tool tips are narrow.
     for (const TopWindow& window : topWindows(*client_)) {
         if (window.overrideRedirect && window.mapped && window.processId != 0 &&
-            2 * window.geometry.width() >= options_.screen.width())
+            3 * window.geometry.width() >= options_.screen.width())
             return window;
     }
     return std::nullopt;
@@ -190,11 +175,21 @@ void Session::settle() {
     }
 }
 
+QString Session::activeTitle() {
+    const auto cookie = xcb_get_property(
+        *client_, 0, activeWindow(*client_), client_->atom("_NET_WM_NAME"),
+        client_->atom("UTF8_STRING"), 0, 100);
+    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(*client_, cookie, nullptr));
+    if (!reply)
+        return {};
+    return QString::fromUtf8(
+        static_cast<const char*>(xcb_get_property_value(reply.get())),
+        xcb_get_property_value_length(reply.get()));
+}
+
 bool Session::waitForSettings() {
     return waitFor([this] {
-        const xcb_window_t active = activeWindow(*client_);
-        return active && title(*client_, active) == u"Velmora 設定"_s &&
-               inputFocus(*client_) == active;
+        return activeTitle() == u"Velmora 設定"_s && inputFocus(*client_) == activeWindow(*client_);
     });
 }
 

@@ -80,6 +80,8 @@ public:
     /// happened by then does not happen any more. Needs the bar.
     void settle();
 
+    /// The title of the active window, empty without one.
+    QString activeTitle();
     /// Waits until the settings window is the active one and has the keyboard focus.
     bool waitForSettings();
 

@@ -17,8 +17,8 @@ TEST(Monitors, TheBarLiesOnThePrimaryOne) {
         QRect bar;
     };
     const Case cases[] = {
-        {"left", u"*left"_s, u"right"_s, {0, 0, 750, 24}},
-        {"right", u"left"_s, u"*right"_s, {750, 0, 750, 24}},
+        {"left", u"*left"_s, u"right"_s, {0, 0, 800, 24}},
+        {"right", u"left"_s, u"*right"_s, {800, 0, 700, 24}},
     };
     for (const Case& given : cases) {
         SCOPED_TRACE(given.description);
@@ -26,8 +26,8 @@ TEST(Monitors, TheBarLiesOnThePrimaryOne) {
         const auto add = [&](const QString& name, const QString& geometry, const QString& output) {
             session.display().run(u"xrandr"_s, {u"--setmonitor"_s, name, geometry, output});
         };
-        add(given.left, u"750/190x900/220+0+0"_s, u"screen"_s);
-        add(given.right, u"750/190x900/220+750+0"_s, u"none"_s);
+        add(given.left, u"800/200x900/220+0+0"_s, u"screen"_s);
+        add(given.right, u"700/180x900/220+800+0"_s, u"none"_s);
         session.launch();
         ASSERT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
         EXPECT_EQ(session.bar()->geometry, given.bar);

@@ -62,6 +62,15 @@ std::vector<TopWindow> topWindows(const XClient& client) {
     return windows;
 }
 
+QRect area(const XClient& client, xcb_window_t window) {
+    const Reply<xcb_translate_coordinates_reply_t> origin(xcb_translate_coordinates_reply(
+        client, xcb_translate_coordinates(client, window, client.root(), 0, 0), nullptr));
+    const Reply<xcb_get_geometry_reply_t> size(
+        xcb_get_geometry_reply(client, xcb_get_geometry(client, window), nullptr));
+    return origin && size ? QRect(origin->dst_x, origin->dst_y, size->width, size->height)
+                          : QRect();
+}
+
 QImage screenshot(const XClient& client, const QRect& area) {
     const QRect whole(0, 0, client.screen().width_in_pixels, client.screen().height_in_pixels);
     const QRect wanted = area.isEmpty() ? whole : area & whole;

@@ -27,6 +27,9 @@ struct TopWindow {
 /// The children of the root window, lowest first.
 std::vector<TopWindow> topWindows(const XClient& client);
 
+/// Where a window is on the screen, its frame left out. Pixels.
+QRect area(const XClient& client, xcb_window_t window);
+
 /// What the screen shows (all of it when `area` is empty). Pixels, top-left origin.
 QImage screenshot(const XClient& client, const QRect& area = {});
 QRgb pixel(const XClient& client, const QPoint& place);
