@@ -3,7 +3,6 @@
 
 #include "session/Session.h"
 
-#include <algorithm>
 #include <cmath>
 #include <gmock/gmock.h>
 #include <xcb/xinput.h>
@@ -188,24 +187,6 @@ TEST_F(Strip, AFlickCoastsAsFarOnAnyMouse) {
         EXPECT_GE(travelled, 0.7 * expected);
         EXPECT_LE(travelled, 1.3 * expected);
     }
-}
-
-TEST_F(Strip, ATouchStopsItAndIsAClick) {
-    const auto touchAButton = [&] {
-        hand.stroke(600, 500, 16, 250, 0);
-        const QImage released = picture();
-        EXPECT_TRUE(waitFor([&] { return picture() != released; }));
-        session.driver().click();
-        takeTurn();
-        const auto held = session.buttons();
-        EXPECT_TRUE(waitUntilStill());
-        EXPECT_EQ(session.buttons(), held);
-        return std::ranges::any_of(held, [&](const QRect& button) {
-            return button.marginsRemoved({4, 0, 4, 0}).contains(500, barMiddle);
-        });
-    };
-    EXPECT_TRUE(waitFor(touchAButton)); // not between two
-    EXPECT_TRUE(waitFor([&] { return !actions().isEmpty(); }));
 }
 
 } // namespace

@@ -101,13 +101,9 @@ TEST_F(IconPickerViewTest, EveryCellShowsSomething) {
         EXPECT_FALSE(cell->isSelected());
         const QImage image = cell->grab().toImage();
         const QRect inside = image.rect().marginsRemoved({12, 12, 12, 12});
-        const QRgb ground = image.pixel(12, 12);
-        int drawn = 0;
-        for (int y = inside.top(); y <= inside.bottom(); ++y) {
-            for (int x = inside.left(); x <= inside.right(); ++x)
-                drawn += image.pixel(x, y) != ground;
-        }
-        EXPECT_GT(drawn, 40) << qPrintable(cell->help());
+        QImage empty(inside.size(), image.format());
+        empty.fill(image.pixelColor(12, 12));
+        EXPECT_NE(image.copy(inside), empty) << qPrintable(cell->help());
     }
 }
 

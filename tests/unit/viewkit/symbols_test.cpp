@@ -22,20 +22,6 @@ double coverage(const QImage& image) {
     return double(drawn) / (image.width() * image.height());
 }
 
-TEST(SymbolTable, ReadsLayersAndSkipsWhatIsNotARow) {
-    const SymbolTable table = parseSymbolTable("# comment\twith tab\n\nbroken\nmixed\tapp mirror-x "
-                                               "clear-rect@6,5.5,10,10.5 gift@-1,4,8\n");
-    using Kind = SymbolLayer::Kind;
-    ASSERT_EQ(table.size(), 1);
-    EXPECT_EQ(
-        table[u"mixed"_s], QList({
-                               SymbolLayer{Kind::drawing, u"app"_s, {0, 0, 16, 16}},
-                               SymbolLayer{Kind::mirrorHorizontally, {}, {0, 0, 16, 16}},
-                               SymbolLayer{Kind::clearRectangle, {}, {6, 5.5, 10, 10.5}},
-                               SymbolLayer{Kind::drawing, u"gift"_s, {-1, 4, 8, 8}},
-                           }));
-}
-
 TEST(Symbols, EveryNameOfTheTableDrawsSomethingOfItsOwn) {
     QFile file(u":/symbols/symbols.tsv"_s);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));

@@ -1,4 +1,3 @@
-#include "viewkit/PopupMenu.h"
 #include "viewkit/WindowTheme.h"
 
 #include <QApplication>
@@ -24,27 +23,6 @@ TEST(WindowTheme, TheFirstWindowHasTheTextOfTheOthers) {
         view.show();
         EXPECT_EQ(QFontInfo(label->font()).pixelSize(), WindowTheme::fontSize) << window;
     }
-}
-
-TEST(WindowTheme, MenusAskForTheSchemeOnceAndFollowIt) {
-    int asked = 0;
-    WindowTheme::setSchemeSource([&] {
-        ++asked;
-        WindowTheme::setColorScheme(ColorScheme::dark);
-    });
-    PopupMenu menu;
-    menu.addItem(u"Item"_s, {}, [] {});
-    EXPECT_EQ(asked, 0);
-    menu.popUp({});
-    const QString dark = menu.styleSheet();
-    for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark, ColorScheme::light}) {
-        WindowTheme::setColorScheme(scheme);
-        QCoreApplication::processEvents();
-        EXPECT_EQ(menu.styleSheet() == dark, scheme == ColorScheme::dark);
-    }
-    menu.close();
-    menu.popUp({});
-    EXPECT_EQ(asked, 1);
 }
 
 } // namespace
