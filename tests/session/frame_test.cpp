@@ -30,6 +30,7 @@ QRect settingsFrame(Session& session) {
 
 QRect openSettings(Session& session) {
     const auto again = session.launchAnother();
+    EXPECT_TRUE(waitFor([&] { return !again->isRunning(); }));
     EXPECT_TRUE(session.waitForSettings());
     return settingsFrame(session);
 }
@@ -50,10 +51,15 @@ void addPanel(XClient& client, uint16_t height) {
     xcb_change_property(
         client, XCB_PROP_MODE_REPLACE, window, client.atom("_NET_WM_STRUT"), XCB_ATOM_CARDINAL, 32,
         4, strut);
-    xcb_map_window(client, window);
-    EXPECT_TRUE(waitFor([&] {
+    const auto makesRoom = [&] {
         const auto area = client.property(client.root(), "_NET_WORKAREA");
         return area.size() > 3 && area[3] == top;
+    };
+    // A window manager that is still starting may overlook the window.
+    EXPECT_TRUE(waitFor([&] {
+        xcb_unmap_window(client, window);
+        xcb_map_window(client, window);
+        return waitFor(makesRoom, 500);
     }));
 }
 
