@@ -2,13 +2,11 @@
 
 #include "platform/x11/ChordStates.h"
 #include "platform/x11/KeyLabels.h"
-#include "platform/x11/MouseButtonNumbers.h"
 #include "platform/x11/RetryPauses.h"
 #include "platform/x11/X11Grab.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
-#include <limits>
 #include <xkbcommon/xkbcommon.h>
 
 using namespace Qt::StringLiterals;
@@ -16,17 +14,6 @@ using namespace std::chrono_literals;
 using namespace velmora;
 
 namespace {
-
-TEST(MouseButtonNumbers, LeaveOutWheelsAndWhatXCannotExpress) {
-    using Limits = std::numeric_limits<std::int64_t>;
-    const std::pair<std::int64_t, int> cases[] = {{2, 2}, {3, 8}, {4, 9}, {5, 10}, {250, 255}};
-    for (const auto& [number, xButton] : cases) {
-        EXPECT_EQ(xButtonFromNumber(number), xButton);
-        EXPECT_EQ(numberFromXButton(static_cast<xcb_button_t>(xButton)), number);
-    }
-    for (const std::int64_t number : {Limits::min(), -1L, 0L, 1L, 251L, 256L + 3, Limits::max()})
-        EXPECT_FALSE(xButtonFromNumber(number)) << number;
-}
 
 TEST(ChordStates, OnlyLocksKeepAChordPlain) {
     const ModifierMap usual;
