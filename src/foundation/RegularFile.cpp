@@ -177,6 +177,15 @@ std::optional<FileContents> RegularFile::read(const QString& path, qint64 limit)
     return FileContents{bytes, FileState(status)};
 }
 
+std::optional<QByteArray> RegularFile::bytes(const QString& path, qint64 limit) {
+    try {
+        if (const auto contents = read(path, limit))
+            return contents->bytes;
+    } catch (const FileError&) { // nobody asks which
+    }
+    return {};
+}
+
 FileState RegularFile::replace(const QString& path, const QByteArray& bytes) {
     NewFile file(path);
     file.write(bytes);

@@ -33,8 +33,8 @@ struct FileContents {
     FileState state;
 };
 
-/// Regular files only, links followed: a pipe or a device would hold whoever reads it. All throw
-/// a FileError.
+/// Regular files only, links followed: a pipe or a device would hold whoever reads it. All but
+/// bytes() throw a FileError. Thread-safe.
 namespace RegularFile {
 
 /// Nothing when there is no such file.
@@ -42,6 +42,11 @@ std::optional<FileState> state(const QString& path);
 
 /// Nothing when there is no such file. Fails with EFBIG beyond `limit` bytes.
 std::optional<FileContents> read(const QString& path, qint64 limit);
+
+/// The bytes alone of a file of unknown origin; nothing when there is none to be read or it is
+/// larger than `limit`. On a mount whose server is gone even asking what lies there waits, so such
+/// files are read off the main thread.
+std::optional<QByteArray> bytes(const QString& path, qint64 limit);
 
 /// Writes `bytes` into a new file beside the old one, and that to the disk, before it takes the old
 /// one's place: at any moment there is one or the other, whole. A link stays one; mode and owner

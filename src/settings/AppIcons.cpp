@@ -1,12 +1,11 @@
 #include "settings/AppIcons.h"
 
 #include "foundation/MainQueue.h"
-#include "foundation/WholeFile.h"
+#include "foundation/RegularFile.h"
 #include "settings/AppInfo.h"
 
 #include <QBuffer>
 #include <QDir>
-#include <QFile>
 #include <QImageReader>
 #include <QPixmapCache>
 #include <QPointer>
@@ -38,7 +37,7 @@ bool isBlank(const QImage& picture) {
 
 /// The picture in the file at `path`, no larger than it has to be.
 QImage pictureInFile(const QString& path, double devicePixelRatio) {
-    auto bytes = wholeFile(QFile::encodeName(path), sizeLimit);
+    auto bytes = RegularFile::bytes(path, sizeLimit);
     if (!bytes)
         return {};
     QBuffer buffer(&*bytes);

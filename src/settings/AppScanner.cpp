@@ -1,6 +1,6 @@
 #include "settings/AppScanner.h"
 
-#include "foundation/WholeFile.h"
+#include "foundation/RegularFile.h"
 #include "platform/Platform.h"
 #include "settings/PropertyList.h"
 
@@ -42,7 +42,7 @@ fs::path informationDictionary(const fs::path& bundle) {
 
 std::optional<AppInfo> getAppInfo(const fs::path& bundle) {
     const auto bytes =
-        wholeFile(QByteArray::fromStdString(informationDictionary(bundle).native()), sizeLimit);
+        RegularFile::bytes(QFile::decodeName(informationDictionary(bundle).c_str()), sizeLimit);
     if (!bytes)
         return {};
     const QString identifierKey = u"CFBundleIdentifier"_s;

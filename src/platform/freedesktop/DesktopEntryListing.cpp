@@ -1,6 +1,6 @@
 #include "platform/freedesktop/DesktopEntryListing.h"
 
-#include "foundation/WholeFile.h"
+#include "foundation/RegularFile.h"
 #include "platform/freedesktop/DesktopEntryFile.h"
 
 #include <QFile>
@@ -82,7 +82,8 @@ private:
         if (seen_.contains(identifier))
             return;
         seen_.insert(identifier);
-        const auto text = wholeFile(QByteArray::fromStdString(path.native()), sizeLimit);
+        const QString location = QFile::decodeName(path.c_str());
+        const auto text = RegularFile::bytes(location, sizeLimit);
         if (!text)
             return;
         auto entry = DesktopEntryFile::parse(std::string_view(*text), listing_.languages);
@@ -92,7 +93,7 @@ private:
         result.append(
             {.identifier = identifier,
              .name = std::move(entry->name),
-             .location = QFile::decodeName(QByteArray::fromStdString(path.native())),
+             .location = location,
              .icon = std::move(entry->icon)});
     }
 
