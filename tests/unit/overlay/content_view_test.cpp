@@ -18,7 +18,6 @@
 #include <QTemporaryDir>
 #include <QToolTip>
 #include <gmock/gmock.h>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -78,8 +77,7 @@ protected:
         for (const QWidget* each : row) {
             result.append(inBar(*each).left() - end);
             end = inBar(*each).right() + 1;
-            EXPECT_GE(inBar(*each).top(), 0);
-            EXPECT_LE(inBar(*each).bottom(), view->height() - 1);
+            EXPECT_TRUE(view->rect().contains(inBar(*each)));
         }
         return result << view->width() - end;
     }
@@ -167,40 +165,37 @@ TEST_F(ContentViewTest, APressExecutesTheActionAsItIsNowUnlessItBecameADrag) {
     mouse.click(centre(*buttons(right)[0]) + QPointF(3, 4));
     mouse.press(centre(*button(0)));
     mouse.release(centre(*buttons(right)[0]));
-    EXPECT_THAT(executed, ElementsAre("changed", "B"));
-    executed.clear();
+    EXPECT_THAT(std::exchange(executed, {}), ElementsAre("changed", "B"));
 
     const QPointF at = centre(*button(1));
-    const QList<double> drags[] = {{-4, -6, -6}, {7, 0, 0}, {5.5}}; // only the release tells
-    for (const QList<double>& places : drags) {
+    for (const double farthest : {-6.0, 7.0}) {
         mouse.press(at);
-        for (const double x : places.first(places.size() - 1))
-            mouse.drag(at + QPointF(x, 0));
-        mouse.release(at + QPointF(places.last(), 0));
-        EXPECT_TRUE(executed.empty());
+        mouse.drag(at + QPointF(farthest, 0));
+        mouse.drag(at);
+        mouse.release(at);
     }
+    mouse.press(at);
+    mouse.release(at + QPointF(5.5, 0));
+    EXPECT_TRUE(executed.empty()) << "also when only the release tells";
     mouse.press(at);
     mouse.release(at + QPointF(3, 4));
     EXPECT_THAT(executed, ElementsAre("Button 0")) << "5 points are still a click";
 }
 
 TEST_F(ContentViewTest, TheMenuSendsItsMessages) {
-    std::vector<std::string> sent;
     show();
+    test::Mouse(*view).click(centre(*view->findChild<MenuButton*>()));
+    auto* menu = qobject_cast<PopupMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
     for (const auto& [item, name] :
-         {std::pair(0, "toggleOverlayMenu"), {2, "showSettings"}, {4, "quitApp"}}) {
-        ActionMessages::shared().setHandler(
-            QString::fromLatin1(name), [&sent, name = name] { sent.emplace_back(name); });
-        test::Mouse(*view).click(centre(*view->findChild<MenuButton*>()));
-        auto* menu = qobject_cast<PopupMenu*>(QApplication::activePopupWidget());
-        ASSERT_TRUE(menu);
-        menu->close();
+         {std::pair(0, u"toggleOverlayMenu"_s), {2, u"showSettings"_s}, {4, u"quitApp"_s}}) {
+        int sent = 0;
+        ActionMessages::shared().setHandler(name, [&sent] { ++sent; });
         menu->actions().value(item)->trigger();
-        QCoreApplication::sendPostedEvents(menu, QEvent::DeferredDelete);
-        ActionMessages::shared().setHandler(QString::fromLatin1(name), {});
-        EXPECT_EQ(sent.back(), name);
+        ActionMessages::shared().setHandler(name, {});
+        EXPECT_EQ(sent, 1) << item;
     }
-    EXPECT_EQ(sent.size(), 3U);
+    menu->close();
 }
 
 TEST_F(ContentViewTest, ACrowdedRowKeepsEveryButtonInside) {
@@ -228,7 +223,7 @@ TEST(ShortcutButtonView, TakesRoomOnlyForWhatItShowsAndSaysWhatItDoes) {
     EXPECT_EQ(width(u"W"_s.repeated(1000000), {}), 20 + 4096);
 
     ShortcutButtonView view(ShortcutButton({}, u"key"_s, OpenUrl{u"<b>x</b>"_s}));
-    auto* interface = QAccessible::queryAccessibleInterface(&view);
+    const auto* interface = QAccessible::queryAccessibleInterface(&view);
     EXPECT_EQ(interface->role(), QAccessible::Button);
     EXPECT_EQ(interface->text(QAccessible::Name), view.help());
     view.show();
@@ -239,16 +234,10 @@ TEST(ShortcutButtonView, TakesRoomOnlyForWhatItShowsAndSaysWhatItDoes) {
 }
 
 TEST(StandardLayout, ShortensTheLongestTitlesFirst) {
-    const std::pair<int, int> limits[] = {
-        {0, std::numeric_limits<int>::max()},
-        {20, 30}, // 50 -> 30
-        {21, 29}, // both 50 and 30 -> 29
-        {60, 10}, // 10 each
-        {90, 0},  // nothing left
-        {500, 0},
-    };
-    for (const auto& [excess, limit] : limits)
+    // The longest alone, the two longest, all three, and nothing left.
+    for (const auto& [excess, limit] : {std::pair(20, 30), {21, 29}, {60, 10}, {90, 0}, {500, 0}})
         EXPECT_EQ(titleWidthLimit({10, 50, 30}, excess), limit) << excess;
+    EXPECT_GE(titleWidthLimit({10, 50, 30}, 0), 50);
     EXPECT_EQ(titleWidthLimit({}, 5), 0);
 }
 

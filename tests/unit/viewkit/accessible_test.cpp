@@ -42,8 +42,6 @@ TEST(Accessible, AViewIsWhatItIsNowAndAWindowHoldsItsOpenMenu) {
     EXPECT_EQ(open->object(), &menu);
     EXPECT_EQ(of(window)->indexOfChild(open), 1);
     EXPECT_EQ(open->child(0)->text(QAccessible::Name), u"Item"_s);
-    QWidget other;
-    EXPECT_EQ(of(other)->childCount(), 0);
     menu.close();
     EXPECT_EQ(of(window)->childCount(), 1);
     view.setParent(nullptr);
@@ -51,7 +49,7 @@ TEST(Accessible, AViewIsWhatItIsNowAndAWindowHoldsItsOpenMenu) {
 
 TEST(Accessible, SelectingAnItemOfAPopUpButtonChoosesItPassingOverDoesNot) {
     PopUpButton button(u"Kind"_s);
-    button.addItems({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
+    button.addItems({u"a"_s, u"b"_s, u"c"_s});
     button.show();
     EXPECT_EQ(of(button)->child(0)->text(QAccessible::Name), u"Kind"_s);
     const auto expectToggled = [&](int row) {
@@ -65,14 +63,12 @@ TEST(Accessible, SelectingAnItemOfAPopUpButtonChoosesItPassingOverDoesNot) {
     expectToggled(1);
     button.showPopup();
     QTest::keyClick(button.view(), Qt::Key_Down);
-    QTest::keyClick(button.view(), Qt::Key_Down);
-    EXPECT_EQ(button.view()->currentIndex().row(), 3);
+    EXPECT_EQ(button.view()->currentIndex().row(), 2);
     QCoreApplication::processEvents();
     EXPECT_TRUE(button.view()->isVisible());
     button.hidePopup();
     QCoreApplication::processEvents();
     EXPECT_EQ(button.currentIndex(), 1);
-    expectToggled(3);
 }
 
 } // namespace

@@ -34,23 +34,20 @@ struct Mouse {
 TEST(VelocityTracker, TellsASteadySpeedAtAnyRateAndMomentOfTheRelease) {
     for (const int rate : {60, 125, 250, 500, 1000}) {
         for (const double speed : {8.0, -8.0, 3.0, 40.0}) {
-            for (int after = 0; after <= 1000.0 / rate; ++after) {
-                // As long as the window, much longer, and shorter.
-                for (const double duration : {50, 230, 34}) {
-                    Mouse mouse{.rate = rate};
-                    mouse.press();
-                    mouse.move(speed, duration);
-                    const QPointF told = mouse.release(after);
-                    EXPECT_NEAR(told.x(), speed, 0.6 + std::abs(speed) / 12)
+            // As long as the window, much longer, and shorter.
+            for (const double duration : {50, 230, 34}) {
+                Mouse mouse{.rate = rate};
+                mouse.press();
+                mouse.move(speed, duration);
+                for (int after = 0; after <= 1000.0 / rate; ++after)
+                    EXPECT_NEAR(mouse.release(after).x(), speed, 0.6 + std::abs(speed) / 12)
                         << rate << " Hz, after " << after << " ms of " << duration;
-                    EXPECT_EQ(told.y(), 0);
-                }
             }
         }
     }
 }
 
-TEST(VelocityTracker, ARestingHandHasNone) {
+TEST(VelocityTracker, TellsTheSpeedAtTheEndOfTheWay) {
     for (const int rate : {60, 125, 1000}) {
         Mouse mouse{.rate = rate};
         mouse.press();
@@ -62,13 +59,7 @@ TEST(VelocityTracker, ARestingHandHasNone) {
         mouse.tracker.move({mouse.x + 2, 7}, mouse.now());
         mouse.tracker.move({mouse.x + 3, 7}, mouse.now() + 1);
         EXPECT_LT(mouse.release(2).x(), 1) << "the finger on the button shook it";
-    }
-}
-
-TEST(VelocityTracker, TellsTheSpeedAtTheEndOfTheWay) {
-    for (const int rate : {60, 125, 1000}) {
-        Mouse mouse{.rate = rate};
-        mouse.press();
+        mouse.rest(500);
         mouse.move(40, 200);
         mouse.move(-8, 70);
         EXPECT_NEAR(mouse.release(1).x(), -8, 1.5) << "it turned round";

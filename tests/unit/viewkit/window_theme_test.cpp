@@ -12,7 +12,7 @@ namespace velmora {
 namespace {
 
 TEST(WindowTheme, TheFirstWindowHasTheTextOfTheOthers) {
-    QFont font = QApplication::font();
+    QFont font;
     font.setPixelSize(9);
     QApplication::setFont(font);
     for (int window = 0; window < 2; ++window) {
