@@ -13,34 +13,34 @@ HeldKeys::HeldKeys(QObject* parent) : QObject(parent) {
 
 bool HeldKeys::eventFilter(QObject* watched, QEvent* event) {
     // At the window: before any widget, and once however far up the event goes from there.
-    if (!watched->isWindowType() ||
+    if (!watched->isWindowType() || event == corrected_ ||
         (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease))
         return false;
     const auto& keyEvent = static_cast<const QKeyEvent&>(*event);
     const quint32 key = keyEvent.nativeScanCode();
     if (event->type() == QEvent::KeyRelease) {
-        if (!keyEvent.isAutoRepeat())
-            lastRelease_ = {key, keyEvent.timestamp(), places_.take(key)};
+        lastRelease_ = {key, keyEvent.timestamp(), places_.take(key)};
         return false;
     }
+    // The server repeats a key by a release and a press of the same time. Qt's own mark cannot be
+    // relied on: it needs both to be there when it looks at the first, and it stays when a release
+    // goes to a grab.
+    const Release release = std::exchange(lastRelease_, {});
+    const bool isRepeat =
+        release.time != 0 && release.time == keyEvent.timestamp() && release.key == key;
     QObject* popup = QApplication::activePopupWidget();
     QObject* place = popup ? popup : watched;
-    if (keyEvent.isAutoRepeat())
-        return !allows(keyEvent, place);
-
-    const Release release = std::exchange(lastRelease_, {});
-    const bool isPair =
-        release.time != 0 && release.time == keyEvent.timestamp() && release.key == key;
-    places_.insert(key, isPair ? release.place.data() : place);
-    if (!isPair)
+    places_.insert(key, isRepeat ? release.place.data() : place);
+    if (isRepeat && !allows(keyEvent, place))
+        return true;
+    if (isRepeat == keyEvent.isAutoRepeat())
         return false;
-    // The server repeats a key by a release and a press of the same time. Qt knows the two for a
-    // repeat only when both are there as it looks at the first.
-    QKeyEvent repeat(
+    QKeyEvent corrected(
         event->type(), keyEvent.key(), keyEvent.modifiers(), key, keyEvent.nativeVirtualKey(),
-        keyEvent.nativeModifiers(), keyEvent.text(), true);
-    repeat.setTimestamp(keyEvent.timestamp());
-    QApplication::sendEvent(watched, &repeat);
+        keyEvent.nativeModifiers(), keyEvent.text(), isRepeat);
+    corrected_ = &corrected;
+    QApplication::sendEvent(watched, &corrected);
+    corrected_ = nullptr;
     return true;
 }
 

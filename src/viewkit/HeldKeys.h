@@ -31,6 +31,7 @@ private:
 
     QHash<quint32, QPointer<QObject>> places_; ///< where each key went down, by scan code
     Release lastRelease_;
+    const QEvent* corrected_ = nullptr; ///< being sent on, with the mark that it should have
 };
 
 } // namespace velmora

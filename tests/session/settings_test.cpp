@@ -44,6 +44,10 @@ protected:
         return waitFor([&] { return session_.menu().has_value() == isOpen; });
     }
 
+    bool waitForKeyboard(bool isFree) {
+        return waitFor([&] { return isKeyboardFree(session_.client()) == isFree; });
+    }
+
     bool waitForFocus(xcb_window_t window) {
         return waitFor([&] { return inputFocus(session_.client()) == window; });
     }
@@ -127,10 +131,11 @@ TEST_F(SettingsTest, AHeldKeyActsOnceAndTheRecorderIsLeftByKeys) {
     session_.driver().pressKey("RTRN");
     waitForSheet(settings);
     // The recorder has the keyboard, and nobody else hears of the repeats: ten of them are time.
+    EXPECT_TRUE(waitForKeyboard(false));
     waitFor([] { return false; }, 250);
     session_.driver().releaseKey("RTRN");
     keys({"TAB", "TAB"});
-    EXPECT_TRUE(waitFor([&] { return isKeyboardFree(session_.client()); }));
+    EXPECT_TRUE(waitForKeyboard(true));
     hold("RTRN", settings);
     EXPECT_TRUE(storedText().contains(u"{\"modifiers\":[\"Command\"],\"key\":\"L\"}"_s))
         << qPrintable(storedText());
