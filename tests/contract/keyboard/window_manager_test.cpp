@@ -7,7 +7,7 @@
 #include "support/TestDisplay.h"
 #include "support/Witness.h"
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <functional>
 #include <gtest/gtest.h>
 #include <thread>
@@ -120,7 +120,6 @@ public:
         takeCombination();
     }
 
-    /// The combination is its own, or free for a moment.
     void takeCombination() {
         xcb_grab_key(
             client_, false, client_.root(), alt, tab_, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
@@ -177,48 +176,45 @@ private:
     bool hasSwitched_ = false;
 };
 
-TEST_F(OwnDisplay, ASwitcherThatOpensLateIsClosed) {
-    XClient client;
-    SlowManager manager;
-    Service service;
-    for (const int standsStill : {0, 1200}) { // milliseconds
-        typeAltTab(service);
-        EXPECT_TRUE(waitFor([&] { return isKeyboardFree(client); }));
-        QElapsedTimer timer;
-        timer.start();
-        EXPECT_TRUE(waitFor([&] { return timer.hasExpired(standsStill); }));
+/// A manager whose switcher opens when the combination is typed already.
+class LateSwitcher : public OwnDisplay {
+protected:
+    void expectClosed() {
         manager.work();
         EXPECT_FALSE(isKeyboardFree(client));
         EXPECT_TRUE(waitFor([&] { return manager.work(); }));
         EXPECT_TRUE(isKeyboardFree(client));
         EXPECT_FALSE(isAnythingDown(client));
     }
-}
 
-TEST_F(OwnDisplay, ASwitcherOfACombinationThatSeemedFreeIsClosed) {
     XClient client;
     SlowManager manager;
     Service service;
+};
+TEST_F(LateSwitcher, IsClosed) {
+    for (const int milliseconds : {0, 1200}) {
+        typeAltTab(service);
+        EXPECT_TRUE(waitFor([&] { return isKeyboardFree(client); }));
+        const QDeadlineTimer standsStill(milliseconds);
+        EXPECT_TRUE(waitFor([&] { return standsStill.hasExpired(); }));
+        expectClosed();
+    }
     // As when it reads the keyboard map anew just when the combination is typed.
     manager.leaveCombination();
     typeAltTab(service, [&] {
         manager.takeCombination();
         manager.openSwitcher();
     });
-    manager.work();
-    EXPECT_FALSE(isKeyboardFree(client));
-    EXPECT_TRUE(waitFor([&] { return manager.work(); }));
-    EXPECT_TRUE(isKeyboardFree(client));
-    EXPECT_FALSE(isAnythingDown(client));
+    expectClosed();
+}
 
-    // Who takes the keyboard after a combination that is nobody's is left alone.
+TEST_F(LateSwitcher, WhoTakesTheKeyboardAfterACombinationThatIsNobodysIsLeftAlone) {
     manager.leaveCombination();
     typeAltTab(service, [&] { manager.openSwitcher(); });
-    QElapsedTimer timer;
-    timer.start();
+    const QDeadlineTimer threeLooks(300);
     EXPECT_TRUE(waitFor([&] {
         EXPECT_FALSE(manager.work());
-        return timer.hasExpired(300); // three looks
+        return threeLooks.hasExpired();
     }));
     EXPECT_FALSE(isKeyboardFree(client));
 }

@@ -8,18 +8,11 @@
 namespace velmora::test {
 namespace {
 
-std::vector<QByteArray> modifierKeys(EventFlags flags) {
-    std::vector<QByteArray> keys;
-    for (const auto& [flag, key] :
-         {std::pair(kCGEventFlagMaskCommand, "LWIN"),
-          {kCGEventFlagMaskAlternate, "LALT"},
-          {kCGEventFlagMaskControl, "LCTL"},
-          {kCGEventFlagMaskShift, "LFSH"}}) {
-        if (flags & flag)
-            keys.emplace_back(key);
-    }
-    return keys;
-}
+constexpr std::pair<EventFlags, const char*> modifierKeys[] = {
+    {kCGEventFlagMaskCommand, "LWIN"},
+    {kCGEventFlagMaskAlternate, "LALT"},
+    {kCGEventFlagMaskControl, "LCTL"},
+    {kCGEventFlagMaskShift, "LFSH"}};
 
 } // namespace
 
@@ -105,7 +98,7 @@ bool OtherProgram::takePointer() {
 /// Writes down the keys that Qt itself hands to our window.
 class World::View : public QWidget {
 public:
-    std::vector<std::int64_t> keycodes;
+    std::vector<std::uint32_t> keycodes;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override { keycodes.push_back(event->nativeScanCode()); }
@@ -123,15 +116,15 @@ void World::waitForPress(size_t before, const TapUnderTest& tap) {
 }
 
 void World::type(const Key& key, EventFlags flags, const TapUnderTest& tap) {
-    const auto modifiers = modifierKeys(flags);
-    for (const QByteArray& modifier : modifiers)
-        driver.pressKey(modifier);
+    Driver hand; // lets go of the modifiers at the end
+    for (const auto& [flag, modifier] : modifierKeys) {
+        if (flags & flag)
+            hand.pressKey(modifier);
+    }
     const size_t before = arrived(tap);
     driver.pressKey(key.name);
     waitForPress(before, tap);
     driver.releaseKey(key.name);
-    for (const QByteArray& modifier : modifiers)
-        driver.releaseKey(modifier);
 }
 
 void World::click(std::int64_t number, const TapUnderTest& tap) {
@@ -154,25 +147,23 @@ bool World::isAnyButtonDown() const {
 }
 
 std::vector<std::int64_t> World::reachedFront() {
-    static const QHash<int, std::int64_t> codes = [this] {
-        QHash<int, std::int64_t> map;
-        for (const Key& key : {keyA, keyM, keyE, keyTab, keyEscape, keyF5, keypad1})
-            map.insert(driver.keycode(key.name), key.code);
-        return map;
-    }();
     static const QHash<int, std::int64_t> numbers{{1, 0}, {3, 1}, {2, 2}, {8, 3}, {9, 4}, {10, 5}};
     std::vector<std::int64_t> presses;
+    const auto addKey = [&](std::uint32_t keycode) {
+        for (const Key& key : {keyA, keyM, keyE, keyTab, keyEscape, keyF5, keypad1}) {
+            if (driver.keycode(key.name) == keycode)
+                presses.push_back(key.code);
+        }
+    };
     for (const Witness::Event& event : witness.events()) {
-        if (event.type == XCB_KEY_PRESS && codes.contains(event.detail))
-            presses.push_back(codes.value(event.detail));
+        if (event.type == XCB_KEY_PRESS)
+            addKey(event.detail);
         else if (event.type == XCB_BUTTON_PRESS)
             presses.push_back(numbers.value(event.detail));
     }
     if (view_) {
-        for (const std::int64_t keycode : view_->keycodes) {
-            if (codes.contains(static_cast<int>(keycode)))
-                presses.push_back(codes.value(static_cast<int>(keycode)));
-        }
+        for (const std::uint32_t keycode : view_->keycodes)
+            addKey(keycode);
     }
     return presses;
 }

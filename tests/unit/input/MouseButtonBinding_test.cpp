@@ -28,16 +28,14 @@ TEST(MouseButtonBindingTest, ButtonsAreNamedAndCountedFromOne) {
         EXPECT_EQ(MouseButtonBinding(number, OpenUrl{}).buttonDisplayName(), name);
 }
 
-/// The decoded list, or the error.
-std::variant<QList<MouseButtonBinding>, DecodingError> read(const QByteArray& json) {
-    return decodedList(json, readMouseButtonBinding);
-}
-
 TEST(MouseButtonBindingTest, ReadsIntegersOfAnySpellingAndNothingElse) {
     using Kind = DecodingError::Kind;
     const QByteArray element =
         R"({"extra":null,"id":"01234567-89ab-cdef-0123-456789ABCDEF","buttonNumber":3,)"
         R"("action":{"openURL":{"url":"u"},"comment":1}})";
+    const auto read = [](const QByteArray& elements) {
+        return decodedList('[' + elements + ']', readMouseButtonBinding);
+    };
     const std::pair<const char*, std::variant<std::int64_t, Kind>> cases[] = {
         {"3", 3},
         {"3.0", 3},
@@ -49,12 +47,11 @@ TEST(MouseButtonBindingTest, ReadsIntegersOfAnySpellingAndNothingElse) {
         {"1e300", Kind::dataCorrupted},
         {"\"3\"", Kind::typeMismatch},
         {"true", Kind::typeMismatch},
-        {"null", Kind::valueNotFound},
-    };
+        {"null", Kind::valueNotFound}};
     for (const auto& [number, outcome] : cases) {
         SCOPED_TRACE(number);
         const auto decoded =
-            read('[' + QByteArray(element).replace(":3,", ':' + QByteArray(number) + ',') + ']');
+            read(QByteArray(element).replace(":3,", ':' + QByteArray(number) + ','));
         if (const auto* error = std::get_if<DecodingError>(&decoded)) {
             EXPECT_EQ(outcome, decltype(outcome)(error->kind));
             EXPECT_EQ(error->codingPath.join(u'/'), u"Index 0/buttonNumber"_s);
@@ -64,8 +61,8 @@ TEST(MouseButtonBindingTest, ReadsIntegersOfAnySpellingAndNothingElse) {
     }
     // One bad element fails the list.
     for (const QByteArray member : {"id", "buttonNumber", "action"}) {
-        const QByteArray bad = QByteArray(element).replace(member + '"', member + "X\"");
-        const auto decoded = read('[' + element + ',' + bad + ']');
+        const auto decoded =
+            read(element + ',' + QByteArray(element).replace(member + '"', member + "X\""));
         const auto* error = std::get_if<DecodingError>(&decoded);
         ASSERT_TRUE(error) << member.constData();
         EXPECT_EQ(error->codingPath, (QStringList{u"Index 1"_s, QString::fromLatin1(member)}));

@@ -107,7 +107,7 @@ TEST_F(MouseButtonManagerTest, OperationsAnnounceChangeAndSave) {
 }
 
 TEST_F(MouseButtonManagerTest, AnEditCountsFromTheNextPress) {
-    // The second and later bindings of a button, and left and right, are never asked for.
+    // Left and right are never asked for, another button once.
     MouseButtonManager& manager = start({bound(1, u"l"_s), bound(-1, u"n"_s)});
     manager.startMonitoring();
     manager.startMonitoring();

@@ -35,33 +35,20 @@ TEST(KeyLabels, NameWhatAKeyTypesWithModifiersButShiftIgnored) {
         &xkb_keymap_unref);
     ASSERT_TRUE(keymap);
     const KeyLabels labels(keymap.get());
-    struct Case {
-        const char* key;
-        unsigned group;
-        bool shift;
-        QString label;
+    const auto keycode = [&](const char* name) {
+        return static_cast<xcb_keycode_t>(xkb_keymap_key_by_name(keymap.get(), name));
     };
-    for (const Case& c : std::vector<Case>{
-             {"AC01", 0, false, u"a"_s},
-             {"AC01", 0, true, u"A"_s},
-             {"AE01", 1, false, u"&"_s},
-             {"AC01", 2, false, u"ф"_s},
-             {"AC01", 7, false, u"a"_s},
-             {"AD11", 1, true, u"¨"_s},
-             {"KP1", 0, true, u"1"_s},
-             {"FK05", 0, true, u"F5"_s},
-             {"KPEN", 0, false, u"Enter"_s},
-             {"AE13", 3, false, u"\\"_s},
-         }) {
-        const auto keycode =
-            static_cast<xcb_keycode_t>(xkb_keymap_key_by_name(keymap.get(), c.key));
-        EXPECT_EQ(labels.label(keycode, c.group, c.shift), c.label) << c.key << c.group;
-        EXPECT_FALSE(labels.isModifier(keycode, c.group)) << c.key;
+    const std::tuple<const char*, unsigned, bool, QString> cases[] = {
+        {"AC01", 0, false, u"a"_s}, {"AC01", 0, true, u"A"_s},  {"AE01", 1, false, u"&"_s},
+        {"AC01", 2, false, u"ф"_s}, {"AC01", 7, false, u"a"_s}, {"AD11", 1, true, u"¨"_s},
+        {"KP1", 0, true, u"1"_s},   {"FK05", 0, true, u"F5"_s}, {"KPEN", 0, false, u"Enter"_s},
+        {"AE13", 3, false, u"\\"_s}};
+    for (const auto& [key, group, shift, label] : cases) {
+        EXPECT_EQ(labels.label(keycode(key), group, shift), label) << key << group;
+        EXPECT_FALSE(labels.isModifier(keycode(key), group)) << key;
     }
     for (const char* key : {"LFSH", "RTSH", "LCTL", "LALT", "RALT", "LWIN", "CAPS", "NMLK"})
-        EXPECT_TRUE(labels.isModifier(
-            static_cast<xcb_keycode_t>(xkb_keymap_key_by_name(keymap.get(), key)), 1))
-            << key;
+        EXPECT_TRUE(labels.isModifier(keycode(key), 1)) << key;
     EXPECT_EQ(labels.label(0, 0, false), u""_s);
     EXPECT_EQ(KeyLabels().label(38, 0, false), u""_s);
 }
