@@ -25,14 +25,12 @@ protected:
         QDir().mkpath(QFileInfo(file).path());
         QFile plist(file);
         ASSERT_TRUE(plist.open(QIODevice::WriteOnly));
-        const auto text = [](const char* key, const QByteArray& value) {
-            return value.isEmpty()
-                       ? value
-                       : QByteArray("<key>") + key + "</key><string>" + value + "</string>";
-        };
-        plist.write(
-            "<plist><dict>" + text("CFBundleName", name) + text("CFBundleIdentifier", identifier) +
-            "</dict></plist>");
+        plist.write("<plist><dict>");
+        if (!name.isEmpty())
+            plist.write("<key>CFBundleName</key><string>" + name + "</string>");
+        if (!identifier.isEmpty())
+            plist.write("<key>CFBundleIdentifier</key><string>" + identifier + "</string>");
+        plist.write("</dict></plist>");
     }
 
     AppScanner scanner(const QList<InstalledApplication>& installed = {}) const {
@@ -66,12 +64,11 @@ TEST_F(AppScannerTest, FindsApplicationsInOrdinaryFolders) {
         bundle(path, "no", "org.no");
     bundle(u"Applications/NoName.app"_s, "", "org.no");
     bundle(u"Applications/NoIdentifier.app"_s, "no", "");
-    const auto link = [this](const QString& target, const QString& path) {
+    for (const auto& [target, path] :
+         {std::pair(u"elsewhere/Linked.app"_s, u"Applications/Linked.app"_s),
+          {u"elsewhere/folder"_s, u"Applications/folder"_s},
+          {u""_s, u"Applications/loop"_s}})
         ASSERT_TRUE(QFile::link(root_.filePath(target), root_.filePath(path)));
-    };
-    link(u"elsewhere/Linked.app"_s, u"Applications/Linked.app"_s);
-    link(u"elsewhere/folder"_s, u"Applications/folder"_s);
-    link(QString(), u"Applications/loop"_s);
     QDir(root_.path()).mkpath(u"Applications/Pipe.app"_s);
     const QString pipe = root_.filePath(u"Applications/Pipe.app/Info.plist"_s);
     ASSERT_EQ(::mkfifo(pipe.toUtf8().constData(), 0600), 0);

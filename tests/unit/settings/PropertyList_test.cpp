@@ -14,21 +14,11 @@ namespace {
 using Strings = QHash<QString, QString>;
 
 /// A binary list of {"CFBundleName": "Ä", "n": true, "CFBundleIdentifier": "org.x"}.
-const QByteArray binaryList = "bplist00" +
-                              QByteArray::fromHex("d3010203040506"
-                                                  "5c") +
-                              "CFBundleName" +
-                              QByteArray::fromHex("516e"
-                                                  "5f1012") +
-                              "CFBundleIdentifier" +
-                              QByteArray::fromHex("6100c4"
-                                                  "09"
-                                                  "556f72672e78"
-                                                  "080f1c1e333637"
-                                                  "0000000000000101"
-                                                  "0000000000000007"
-                                                  "0000000000000000"
-                                                  "000000000000003d");
+const QByteArray binaryList =
+    "bplist00" + QByteArray::fromHex("d30102030405065c") + "CFBundleName" +
+    QByteArray::fromHex("516e5f1012") + "CFBundleIdentifier" +
+    QByteArray::fromHex("6100c409556f72672e78080f1c1e3336370000000000000101"
+                        "00000000000000070000000000000000000000000000003d");
 
 const QStringList wanted{u"CFBundleIdentifier"_s, u"CFBundleName"_s};
 
@@ -73,13 +63,12 @@ TEST(PropertyList, TakesNoLongerThanItIsLong) {
         return QByteArray(reinterpret_cast<const char*>(&value), sizeof value);
     };
     const QByteArray objects = "bplist00\x6f\x12" + number(100'000) + QByteArray(200'000, 'a');
-    const QByteArray dictionary = "\xdf\x12" + number(count / 2);
-    const QByteArray table = number(8) + number(quint32(objects.size()));
-    const QByteArray references(qsizetype(count) * 4, '\0'); // all to object 0
-    const QByteArray binary =
-        objects + dictionary + references + table + QByteArray(6, '\0') + "\x04\x04" +
-        QByteArray(4, '\0') + number(2) + QByteArray(4, '\0') + number(1) + QByteArray(4, '\0') +
-        number(quint32(objects.size() + dictionary.size() + references.size()));
+    const QByteArray dictionary = // all of its references are to object 0
+        "\xdf\x12" + number(count / 2) + QByteArray(qsizetype(count) * 4, '\0');
+    const QByteArray binary = objects + dictionary + number(8) + number(quint32(objects.size())) +
+                              QByteArray(6, '\0') + "\x04\x04" + number(0) + number(2) + number(0) +
+                              number(1) + number(0) +
+                              number(quint32(objects.size() + dictionary.size()));
     QByteArray xml = "<plist";
     for (int i = 0; xml.size() < 1'000'000; ++i)
         xml += " a" + QByteArray::number(i) + "=''";

@@ -71,9 +71,7 @@ protected:
     }
 
     void chooseInMenu(int row, const QString& item) {
-        const QPoint place = rowCentre(row);
-        QContextMenuEvent event(
-            QContextMenuEvent::Mouse, place, list().viewport()->mapToGlobal(place));
+        QContextMenuEvent event(QContextMenuEvent::Mouse, rowCentre(row), {});
         QApplication::sendEvent(list().viewport(), &event);
         auto* menu = list().window()->findChild<PopupMenu*>();
         ASSERT_TRUE(menu);
@@ -92,10 +90,9 @@ protected:
 };
 
 TEST_F(SettingsListsTest, TheSelectionIsARecordAndGoesOnlyWithIt) {
-    EXPECT_FALSE(button(u"edit"_s)->isEnabled());
-    EXPECT_FALSE(button(u"delete"_s)->isEnabled());
+    EXPECT_FALSE(button(u"edit"_s)->isEnabled() || button(u"delete"_s)->isEnabled());
     clickRow(2);
-    EXPECT_TRUE(button(u"edit"_s)->isEnabled());
+    EXPECT_TRUE(button(u"edit"_s)->isEnabled() && button(u"delete"_s)->isEnabled());
     ShortcutButton changed = store_.shortcuts().at(2);
     changed.title = u"C"_s;
     store_.updateShortcut(2, changed);
@@ -165,7 +162,17 @@ TEST_F(SettingsListsTest, EditorsWorkOnTheStore) {
 
 TEST_F(SettingsListsTest, RowsMoveByDragAndByKey) {
     const int height = RecordRowDelegate::rowHeight();
-    const auto drag = [&](int row, int y) {
+    const struct {
+        int row, y;
+        QString expected;
+        bool isCalledOff = false;
+    } drags[] = {
+        {0, 3 * height, u"bcade"_s},       {4, -50, u"ebcad"_s}, {0, 400, u"bcade"_s},
+        {1, height + 2, u"bcade"_s}, // onto its own place
+        {1, 4 * height, u"bcade"_s, true},
+    };
+    for (const auto& [row, y, expected, isCalledOff] : drags) {
+        const QString dragged = shown().mid(row, 1);
         QTest::mousePress(list().viewport(), Qt::LeftButton, {}, rowCentre(row));
         // QTest::mouseMove() has no buttons down.
         for (const QPoint& place : {rowCentre(row) + QPoint(0, 30), QPoint(100, y)}) {
@@ -174,29 +181,12 @@ TEST_F(SettingsListsTest, RowsMoveByDragAndByKey) {
                 Qt::LeftButton, {});
             QApplication::sendEvent(list().viewport(), &move);
         }
-    };
-    const auto drop = [&](int y) {
+        if (isCalledOff)
+            press(Qt::Key_Escape);
         QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, {100, y});
-        return shown();
-    };
-    const struct {
-        int row, y;
-        QString expected;
-    } drags[] = {
-        {0, 3 * height, u"bcade"_s},
-        {4, -50, u"ebcad"_s},
-        {0, 400, u"bcade"_s},
-        {1, height + 2, u"bcade"_s}, // onto its own place
-    };
-    for (const auto& [row, y, expected] : drags) {
-        const QString dragged = shown().mid(row, 1);
-        drag(row, y);
-        EXPECT_EQ(drop(y), expected) << row;
-        EXPECT_EQ(selectedRow(), dragged);
+        EXPECT_EQ(shown(), expected) << row;
+        EXPECT_TRUE(isCalledOff || selectedRow() == dragged) << row;
     }
-    drag(1, 4 * height);
-    press(Qt::Key_Escape);
-    EXPECT_EQ(drop(4 * height), u"bcade"_s) << "called off";
 
     clickRow(4);
     for (int i = 0; i < 6; ++i)
@@ -214,13 +204,12 @@ TEST_F(SettingsListsTest, RowsMoveByDragAndByKey) {
     EXPECT_EQ(shown(), u"bcda"_s);
 }
 
-TEST_F(SettingsListsTest, MouseBindingsCannotBeMovedAndAddingReplaces) {
+TEST_F(SettingsListsTest, MouseBindingsCannotBeMoved) {
     test::FakeAccessibility accessibility;
     MouseButtonManager manager(defaults_, taps_, accessibility, [](const ShortcutAction&) {});
-    manager.addBinding({2, OpenUrl{u"x:"_s}});
-    manager.addBinding({4, OpenUrl{u"y:"_s}});
+    for (const int number : {2, 4})
+        manager.addBinding({number, OpenUrl{u"x:"_s}});
     MouseSettingsView view(manager, taps_);
-    view.resize(600, 500);
     view.show();
     RecordListView& rows = *view.findChild<RecordListView*>();
     rows.setCurrentIndex(rows.model()->index(1, 0));

@@ -20,7 +20,6 @@
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
-#include <QScreen>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -85,8 +84,6 @@ TEST_F(SettingsWindowTest, IsMadeOnceAndDroppedWhenItCloses) {
 
     window_.show();
     EXPECT_EQ(tabs().currentIndex(), 0);
-    window_.close();
-    window_.close();
 }
 
 TEST_F(SettingsWindowTest, ComesBackWhereItWas) {
@@ -109,12 +106,6 @@ TEST_F(SettingsWindowTest, ComesBackWhereItWas) {
     window_.show();
     EXPECT_EQ(window_.window()->pos(), QPoint(100, 30));
     EXPECT_EQ(window_.window()->size(), QSize(650, 560));
-    window_.close();
-    defaults_.setData(key, "90000 90000 640 560");
-    window_.show();
-    const QRect screen = window_.window()->screen()->availableGeometry();
-    const QRect place(window_.window()->pos(), window_.window()->size());
-    EXPECT_TRUE(screen.contains(place)) << place.x() << ' ' << place.y();
 }
 
 TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
@@ -127,7 +118,6 @@ TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
     QWidget& window = *window_.window();
     QApplication::setActiveWindow(&window);
     const auto* bar = window.findChild<MainMenuBar*>();
-    EXPECT_EQ(bar->actions()[0]->text(), u"Velmora"_s);
     EXPECT_EQ(bar->actions()[0]->menu()->actions()[0]->text(), u"Tom && Jerry"_s);
     // Alt alone is the hot key's: the window never sees the M.
     QTest::keyClick(&window, Qt::Key_Alt);
@@ -162,8 +152,7 @@ TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
     QApplication::setActiveWindow(sheet);
     QTest::keyClick(sheet, Qt::Key_T, Qt::ControlModifier);
     EXPECT_EQ(sent, 2);
-    ActionMessages::shared().setHandler(u"testMessage:"_s, [] {});
-    window_.close();
+    ActionMessages::shared().setHandler(u"testMessage:"_s, {});
 }
 
 } // namespace

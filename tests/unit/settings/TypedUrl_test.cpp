@@ -1,50 +1,24 @@
 #include "settings/TypedUrl.h"
 
+#include <QStringList>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
 
-namespace {
-
 TEST(TypedUrl, CompletesAHostNameAndNothingElse) {
-    const QString hosts[] = {u"debian.org"_s,     u"debian.org/path?x"_s, u"localhost"_s,
-                             u"localhost:8080"_s, u"Debian.ORG:80/"_s,    u"192.168.0.1"_s,
-                             u"[::1]:8080/a"_s,   u"bücher.de#x"_s,       u"a-b.co.uk?x"_s,
-                             u"xn--p1ai.рф"_s};
-    for (const QString& host : hosts)
-        EXPECT_EQ(typedUrl(host), u"https://"_s + host) << host.toStdString();
-    EXPECT_EQ(typedUrl(u" debian.org\t"_s), u"https://debian.org"_s);
+    const QString hosts = u"debian.org debian.org/path?x localhost localhost:8080 Debian.ORG:80/ "
+                          "192.168.0.1 [::1]:8080/a bücher.de#x a-b.co.uk?x xn--p1ai.рф"_s;
+    for (const QString& host : hosts.split(u' '))
+        EXPECT_EQ(typedUrl(host + u'\t'), u"https://"_s + host) << host.toStdString();
 
-    const QString urls[] = {
-        u"https://debian.org/a%20b"_s,
-        u"HTTP://localhost"_s,
-        u"mailto:a@debian.org"_s,
-        u"file:///tmp/a"_s,
-        u"tel:911"_s,
-        u"x:"_s,
-        u"org.example.app:/back"_s,
-        u"spotify:track:1"_s};
-    for (const QString& url : urls)
-        EXPECT_EQ(typedUrl(url + u' '), url) << url.toStdString();
+    const QString urls = u"https://debian.org/a%20b HTTP://localhost mailto:a@debian.org "
+                         "file:///tmp/a tel:911 x: org.example.app:/back spotify:track:1"_s;
+    for (const QString& url : urls.split(u' '))
+        EXPECT_EQ(typedUrl(u' ' + url), url) << url.toStdString();
 
-    const QString others[] = {u""_s,
-                              u" "_s,
-                              u"debian"_s,
-                              u"two words"_s,
-                              u"debian.org/a b"_s,
-                              u"/etc"_s,
-                              u"//a.org"_s,
-                              u"a@debian.org"_s,
-                              u"debian.org:99999"_s,
-                              u"https://"_s,
-                              u"http:a.org"_s,
-                              u"1.5"_s,
-                              u"a..org"_s,
-                              u"localhost2"_s,
-                              u"://x"_s};
-    for (const QString& other : others)
+    const QString others = u"| |debian|two words|debian.org/a b|/etc|//a.org|a@debian.org|"
+                           "debian.org:99999|https://|http:a.org|1.5|a..org|localhost2|://x"_s;
+    for (const QString& other : others.split(u'|'))
         EXPECT_EQ(typedUrl(other), std::nullopt) << other.toStdString();
 }
-
-} // namespace
