@@ -1,11 +1,17 @@
-// Light and dark windows after the theme that a desktop names in XSETTINGS.
+// Light and dark windows: as the desktop's settings service says, or after the theme that XSETTINGS
+// name.
 
 #include "session/Session.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QDBusVirtualObject>
 #include <QtEndian>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace velmora;
 using namespace velmora::test;
 
 namespace {
@@ -61,22 +67,67 @@ private:
     xcb_window_t window_;
 };
 
+/// The desktop's settings service, on the session's bus, with a colour scheme that the test sets.
+class SettingsPortal : public QDBusVirtualObject {
+public:
+    enum Scheme : quint32 { NoPreference, Dark, Light, Unknown };
+
+    SettingsPortal(const QString& busAddress, Scheme scheme)
+        : bus_(QDBusConnection::connectToBus(busAddress, u"portal"_s)), scheme_(scheme) {
+        EXPECT_TRUE(bus_.registerVirtualObject(path_, this));
+        EXPECT_TRUE(bus_.registerService(u"org.freedesktop.portal.Desktop"_s));
+    }
+    ~SettingsPortal() override { QDBusConnection::disconnectFromBus(u"portal"_s); }
+
+    void set(Scheme scheme) {
+        scheme_ = scheme;
+        auto signal = QDBusMessage::createSignal(path_, interface_, u"SettingChanged"_s);
+        signal << u"org.freedesktop.appearance"_s << u"color-scheme"_s << value();
+        bus_.send(signal);
+    }
+
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+        if (message.interface() != interface_ || message.member() != u"Read"_s)
+            return false;
+        // In a variant of its own, as the first version of the interface has it.
+        return bus.send(message.createReply(QVariant::fromValue(QDBusVariant(value()))));
+    }
+
+private:
+    QVariant value() const {
+        return QVariant::fromValue(QDBusVariant(QVariant::fromValue(quint32(scheme_))));
+    }
+
+    const QString path_ = u"/org/freedesktop/portal/desktop"_s;
+    const QString interface_ = u"org.freedesktop.portal.Settings"_s;
+    QDBusConnection bus_;
+    Scheme scheme_;
+};
+
+void showSettings(Session& session) {
+    session.launch();
+    EXPECT_TRUE(session.launchAnother()->waitForFinished());
+    ASSERT_TRUE(session.waitForSettings());
+}
+
+/// Whether the settings are dark, or light, in a moment. The desktop behind them is black.
+bool shows(Session& session, bool dark) {
+    return waitFor([&] {
+        const QPoint centre = screenshot(session.client()).rect().center();
+        const int gray = qGray(pixel(session.client(), centre + QPoint(50, 50)));
+        return (gray < 100) == dark && gray > 20;
+    });
+}
+
 } // namespace
 
 TEST(Appearance, FollowsTheThemeThatTheDesktopNames) {
     Session session;
     auto manager = std::make_unique<Manager>();
     manager->publish(settings("Greybird-dark"));
-    session.launch();
-    EXPECT_TRUE(session.launchAnother()->waitForFinished());
-    ASSERT_TRUE(session.waitForSettings());
-    const auto becomes = [&](bool dark) {
-        return waitFor([&] {
-            const QPoint centre = screenshot(session.client()).rect().center();
-            const QImage part = screenshot(session.client(), {centre.x(), centre.y(), 100, 100});
-            return (qGray(part.pixel(50, 50)) < 100) == dark && qGray(part.pixel(50, 50)) > 20;
-        });
-    };
+    showSettings(session);
+    const auto becomes = [&](bool dark) { return shows(session, dark); };
     EXPECT_TRUE(becomes(true)) << "from the start";
     const struct {
         QByteArray settings;
@@ -102,4 +153,32 @@ TEST(Appearance, FollowsTheThemeThatTheDesktopNames) {
     manager = std::make_unique<Manager>();
     manager->publish(settings("Arc-Dark"));
     EXPECT_TRUE(becomes(true)) << "another came";
+}
+
+TEST(Appearance, ThePortalComesBeforeTheTheme) {
+    using enum SettingsPortal::Scheme;
+    for (const auto first : {Dark, Light}) {
+        Session session({.hasBus = true});
+        SettingsPortal portal(session.busAddress(), first);
+        const Manager manager;
+        const auto nameTheme = [&](bool dark) {
+            manager.publish(settings(dark ? "Arc-Dark" : "Arc"));
+        };
+        nameTheme(first == Light);
+        showSettings(session);
+        EXPECT_TRUE(shows(session, first == Dark)) << "from the start";
+        const struct {
+            SettingsPortal::Scheme scheme;
+            bool theme, dark;
+        } cases[] = {
+            {Light, true, false},       {Dark, false, true},  {NoPreference, false, false},
+            {NoPreference, true, true}, {Light, true, false}, {Unknown, true, true},
+            {Dark, false, true},
+        };
+        for (const auto& [scheme, theme, dark] : cases) {
+            nameTheme(theme);
+            portal.set(scheme);
+            EXPECT_TRUE(shows(session, dark)) << scheme << theme;
+        }
+    }
 }

@@ -16,23 +16,20 @@ TEST(Bar, LiesOverTheMenuBarStripToThePixel) {
     const struct {
         QSize screen;
         int topInset;
-        QString dpi;
-        QString scale;
+        QString environment, dpi;
         int height;
     } cases[] = {
-        {{1512, 982}, 0, {}, {}, 24},
-        {{3024, 1964}, 64, {}, u"2"_s, 64},
-        {{1920, 1080}, 0, u"100"_s, {}, 25},
-        {{1366, 768}, 47, {}, u"1.5"_s, 47},
+        {{1512, 982}, 0, u"QT_SCALE_FACTOR"_s, {}, 24},
+        {{3024, 1964}, 64, u"QT_SCALE_FACTOR=2"_s, {}, 64},
+        {{1920, 1080}, 0, u"QT_SCALE_FACTOR"_s, u"100"_s, 25},
+        {{1366, 768}, 47, u"QT_SCALE_FACTOR=1.5"_s, {}, 47},
     };
     for (const auto& given : cases) {
         SCOPED_TRACE(given.height);
         Session session(
             {.screen = given.screen,
              .topInset = given.topInset,
-             .environment = given.scale.isEmpty()
-                                ? QStringList()
-                                : QStringList{u"QT_SCALE_FACTOR="_s + given.scale}});
+             .environment = {given.environment}});
         if (!given.dpi.isEmpty())
             session.display().run(
                 u"xprop"_s, {u"-root"_s, u"-f"_s, u"RESOURCE_MANAGER"_s, u"8s"_s, u"-set"_s,
@@ -60,27 +57,19 @@ TEST(Bar, ComesUpOverXWhateverQtIsToldAndPassesThatOn) {
 }
 
 TEST(Bar, EndsWithALineWhereItCannotStart) {
-    const struct {
-        QStringList environment;
-        QString before; // in a shell
-        QString line;
-    } cases[] = {
-        {{u"DISPLAY"_s}, {}, u"Velmora ends: it needs an X11 display"_s},
-        {{}, u"ulimit -n 9"_s, u"Velmora ends: too few files"_s},
-        {{}, u"ulimit -n 14"_s, u"Velmora ends: too few files"_s},
+    const std::pair<QString, QString> cases[] = {
+        {u"unset DISPLAY"_s, u"Velmora ends: it needs an X11 display"_s},
+        {u"ulimit -n 9"_s, u"Velmora ends: too few files"_s},
+        {u"ulimit -n 14"_s, u"Velmora ends: too few files"_s},
     };
-    for (const auto& given : cases) {
-        SCOPED_TRACE(given.line.toStdString());
-        const QString command = given.before + u"\nexec "_s + Session::buildTreeProgram();
-        Session session(
-            {.program = u"/bin/sh"_s,
-             .arguments = {u"-c"_s, command},
-             .environment = given.environment});
+    for (const auto& [before, line] : cases) {
+        SCOPED_TRACE(before.toStdString());
+        const QString command = before + u"; exec "_s + Session::buildTreeProgram();
+        Session session({.program = u"/bin/sh"_s, .arguments = {u"-c"_s, command}});
         session.launch(Session::Launch::WithoutWaiting);
         session.program().expectStatus(EXIT_FAILURE);
         EXPECT_TRUE(waitFor([&] { return !session.program().isRunning(); }));
-        EXPECT_EQ(session.log().filter(given.line).size(), 1)
-            << session.log().join(u'\n').toStdString();
+        EXPECT_EQ(session.log().filter(line).size(), 1) << session.log().join(u'\n').toStdString();
     }
 }
 

@@ -6,9 +6,7 @@
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
-#include <QFile>
-#include <gmock/gmock.h>
-#include <stdexcept>
+#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
@@ -39,36 +37,25 @@ constexpr auto xfcePanel = R"(<?xml version="1.0" encoding="UTF-8"?>
 
 enum class Kind { Embedding, Describing };
 
-/// A session with a bus of its own, a tray of some kind, and the program.
+/// A session with a tray of some kind, and the program.
 class Tray : public testing::TestWithParam<Kind> {
 protected:
     Tray() {
         session.writeFile(u".config/xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml"_s, xfcePanel);
-        // What it starts, the panel's settings service, finds this home and this display.
-        bus_.setProcessEnvironment(session.environment());
-        bus_.start(
-            u"dbus-daemon"_s,
-            {u"--session"_s, u"--nofork"_s, u"--print-address"_s, u"--address="_s + busAddress_});
-        if (!waitFor([this] { return bus_.canReadLine(); }))
-            throw std::runtime_error("no bus");
-    }
-    ~Tray() override {
-        end(tray_);
-        session.program().end();
-        end(bus_);
     }
 
     void startTray() {
-        tray_.setProcessEnvironment(session.environment());
-        if (GetParam() == Kind::Embedding)
-            tray_.start(
-                u"trayer"_s, {u"--edge"_s, u"bottom"_s, u"--align"_s, u"left"_s, u"--expand"_s,
-                              u"true"_s, u"--widthtype"_s, u"percent"_s, u"--width"_s, u"100"_s});
-        else
-            tray_.start(u"xfce4-panel"_s, QStringList{});
-        ASSERT_TRUE(tray_.waitForStarted());
+        const QStringList alongTheBottom{u"--edge"_s,   u"bottom"_s, u"--align"_s,     u"left"_s,
+                                         u"--expand"_s, u"true"_s,   u"--widthtype"_s, u"percent"_s,
+                                         u"--width"_s,  u"100"_s};
+        tray_ = GetParam() == Kind::Embedding
+                    ? &session.display().start(u"trayer"_s, alongTheBottom, session.environment())
+                    : &session.display().start(u"xfce4-panel"_s, {}, session.environment());
     }
-    void endTray() { end(tray_); }
+    void endTray() {
+        tray_->terminate();
+        ASSERT_TRUE(tray_->waitForFinished());
+    }
 
     /// Where the icon is: its ground is the only blue of the lower half of the screen.
     std::optional<QPoint> item() {
@@ -115,30 +102,13 @@ protected:
                 1000);
         });
     }
-    bool waitForNoMenu() {
-        return waitFor([this] { return !menu() && isKeyboardFree(session.client()); });
-    }
-
-private:
-    QTemporaryDir busFolder_;
-    const QString busAddress_ = u"unix:path="_s + busFolder_.path() + u"/bus"_s;
-
-protected:
     Session session{
         {.screen = {1000, 700},
          .windowManager = GetParam() == Kind::Embedding ? u"openbox"_s : u"xfwm4"_s,
-         .environment = {u"DBUS_SESSION_BUS_ADDRESS="_s + busAddress_}}};
+         .hasBus = true}};
 
 private:
-    static void end(QProcess& process) {
-        process.terminate();
-        if (!process.waitForFinished(5000))
-            process.kill();
-        process.waitForFinished(5000);
-    }
-
-    QProcess bus_;
-    QProcess tray_;
+    QProcess* tray_ = nullptr;
 };
 
 TEST_P(Tray, HasTheItemWheneverItComes) {
@@ -157,24 +127,21 @@ TEST_P(Tray, HasAMenuForPointerAndKeys) {
     session.launch();
     ASSERT_TRUE(waitForItem());
     for (const uint8_t button : {1, 3}) {
-        SCOPED_TRACE(int(button));
-        ASSERT_TRUE(openMenu(button));
-        const QRect place = menu()->geometry;
-        session.driver().move(place.left() + 60, place.top() + 18);
-        session.driver().click();
-        EXPECT_TRUE(waitFor([this] { return !session.isBarShown(); }))
-            << "the first entry hides the bar";
-        EXPECT_TRUE(waitForNoMenu());
-
-        ASSERT_TRUE(openMenu(button));
-        session.driver().tapKey("DOWN");
-        session.driver().tapKey("RTRN");
-        EXPECT_TRUE(waitFor([this] { return session.isBarShown(); })) << "and shows it again";
-        EXPECT_TRUE(waitForNoMenu());
-
-        ASSERT_TRUE(openMenu(button));
-        session.driver().tapKey("ESC");
-        EXPECT_TRUE(waitForNoMenu());
+        for (const QByteArray by : {"pointer", "DOWN RTRN", "ESC"}) {
+            SCOPED_TRACE(by.toStdString() + char('0' + button));
+            ASSERT_TRUE(openMenu(button));
+            const QRect place = menu()->geometry;
+            if (by == "pointer") {
+                session.driver().move(place.left() + 60, place.top() + 18);
+                session.driver().click();
+            } else {
+                for (const QByteArray& key : by.split(' '))
+                    session.driver().tapKey(key);
+            }
+            // The first entry hides the bar and shows it again.
+            EXPECT_TRUE(waitFor([&] { return session.isBarShown() == (by != "pointer"); }));
+            EXPECT_TRUE(waitFor([this] { return !menu() && isKeyboardFree(session.client()); }));
+        }
     }
     ASSERT_TRUE(openMenu(1));
     session.driver().tapChord("LCTL", "AD01"); // Ctrl+Q
@@ -221,14 +188,8 @@ public:
 };
 
 TEST(TrayOnTheBus, IsWaitedForUntilItHasAHost) {
-    const QTemporaryDir folder;
-    const QString address = u"unix:path="_s + folder.path() + u"/bus"_s;
-    Session session({.environment = {u"DBUS_SESSION_BUS_ADDRESS="_s + address}});
-    QProcess& daemon = session.display().start(
-        u"dbus-daemon"_s,
-        {u"--session"_s, u"--nofork"_s, u"--print-address"_s, u"--address="_s + address});
-    ASSERT_TRUE(waitFor([&] { return daemon.canReadLine(); }));
-    QDBusConnection bus = QDBusConnection::connectToBus(address, u"desktop"_s);
+    Session session({.hasBus = true});
+    QDBusConnection bus = QDBusConnection::connectToBus(session.busAddress(), u"desktop"_s);
     TrayList list;
     ASSERT_TRUE(bus.registerVirtualObject(list.path, &list) && bus.registerService(list.service));
     session.launch();
