@@ -13,13 +13,11 @@ public:
     bool createsKeyDown = true;
     bool createsKeyUp = true;
 
-    int sourcesAsked = 0;
     std::vector<KeyboardEvent> posted;
 
     void prepare() override {}
 
     std::unique_ptr<EventSource> createEventSource(EventSourceState) override {
-        ++sourcesAsked;
         return hasSource ? std::make_unique<EventSource>() : nullptr;
     }
 

@@ -19,16 +19,11 @@ TEST(KeyNames, FindsCodesByName) {
     for (const QChar character : u"ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789"_s)
         codes.insert(KeyNames::keyCode(character).value());
     EXPECT_EQ(codes.size(), 36U);
-    EXPECT_EQ(*codes.rbegin(), 46); // M
-}
-
-TEST(KeyNames, EveryPositionNamesTheKeyThatHasItsCode) {
-    int named = 0;
+    int positions = 0; // the others by the layout
     for (int code = 0; code < 0x10000; ++code)
         if (const auto name = KeyNames::nameOfPosition(static_cast<KeyCode>(code))) {
-            ++named;
+            ++positions;
             EXPECT_EQ(KeyNames::keyCode(*name), code) << qPrintable(*name);
         }
-    EXPECT_EQ(named, 23);
-    EXPECT_FALSE(KeyNames::nameOfPosition(0)) << "letters are named by the layout";
+    EXPECT_EQ(positions, 23);
 }

@@ -1,12 +1,10 @@
 #include "foundation/MainQueue.h"
 
-#include "foundation/ActionMessages.h"
 #include "support/TestDisplay.h"
 
 #include <gmock/gmock.h>
 #include <thread>
 
-using namespace Qt::StringLiterals;
 using namespace velmora;
 
 TEST(MainQueue, RunsLaterInOrderOnTheMainThread) {
@@ -26,17 +24,4 @@ TEST(MainQueue, RunsLaterInOrderOnTheMainThread) {
     EXPECT_THAT(order, testing::IsEmpty());
     EXPECT_TRUE(test::waitFor([&] { return order.size() == 4; }));
     EXPECT_THAT(order, testing::ElementsAre(1, 2, 3, 4));
-}
-
-TEST(ActionMessages, AHandlerMayReplaceItselfWhileItRuns) {
-    ActionMessages messages;
-    QStringList answered;
-    messages.send(u"showSettings"_s);
-    messages.setHandler(u"showSettings"_s, [&, mine = u"first"_s] {
-        messages.setHandler(u"showSettings"_s, [&] { answered << u"second"_s; });
-        answered << mine;
-    });
-    for (const QString& message : {u"showSettings"_s, u"showSettings"_s, u"quitApp"_s})
-        messages.send(message);
-    EXPECT_EQ(answered, (QStringList{u"first"_s, u"second"_s}));
 }

@@ -14,7 +14,6 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -42,8 +41,7 @@ protected:
 
     static void put(const QString& file, const QByteArray& bytes) {
         QFile opened(file);
-        ASSERT_TRUE(opened.open(QIODevice::WriteOnly));
-        ASSERT_EQ(opened.write(bytes), bytes.size());
+        ASSERT_TRUE(opened.open(QIODevice::WriteOnly) && opened.write(bytes) == bytes.size());
     }
 
     /// What the file on disk holds, as QSettings reads it: under another name, for it shares what
@@ -84,16 +82,13 @@ protected:
 
 /// Runs `body` in a child process, whose failed expectations are the test's.
 void inChild(const std::function<void()>& body) {
-    const pid_t child = ::fork();
-    if (child == 0) {
+    const auto run = [&] {
         ::alarm(20);
         body();
         std::fflush(stdout);
         ::_exit(testing::Test::HasFailure());
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
+    };
+    EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(UserDefaultsTest, KeepsBytesInTheFormOfQSettings) {

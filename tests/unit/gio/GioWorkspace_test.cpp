@@ -1,13 +1,9 @@
 #include "platform/gio/GioWorkspace.h"
 
-#include "platform/EitherAppearance.h"
-#include "platform/gio/GioAppearance.h"
-
 #include "ApplicationsFolder.h"
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
-#include <QDBusVariant>
 #include <QUrl>
 #include <QVariantMap>
 #include <sys/wait.h>
@@ -152,21 +148,6 @@ public Q_SLOTS:
     void Activate(const QVariantMap&) { ++activations; }
 };
 
-/// A desktop portal that knows the colour scheme.
-class Portal : public QDBusAbstractAdaptor {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-public:
-    explicit Portal(QObject* parent) : QDBusAbstractAdaptor(parent) {}
-    uint scheme = 1;
-public Q_SLOTS:
-    QDBusVariant Read(const QString&, const QString&) {
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(scheme)));
-    }
-Q_SIGNALS:
-    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
-};
-
 /// A session bus of its own, with `object` on it.
 class Bus {
 public:
@@ -216,36 +197,6 @@ TEST_F(GioWorkspaceTest, ActivatesOverTheBus) {
     bus.end();
     EXPECT_EQ(open(present), std::nullopt);
     folder.nextReport();
-}
-
-TEST(EitherAppearance, ThePortalsPreferenceComesFirst) {
-    QObject object;
-    auto* portal = new Portal(&object);
-    const Bus bus(
-        u"org.freedesktop.portal.Desktop"_s, u"/org/freedesktop/portal/desktop"_s, object);
-    struct : Appearance {
-        void observe(Handler handler) override { tell = std::move(handler); }
-        Handler tell;
-    } theme;
-    auto& gio = *new GioAppearance; // never destroyed, nor what observes it
-    auto& either = *new EitherAppearance(gio, theme);
-    static std::optional<bool> told;
-    either.observe([](std::optional<bool> prefersDark) { told = prefersDark; });
-    theme.tell({});
-    const auto becomes = [](std::optional<bool> expected) {
-        return waitFor([&] { return told == expected; });
-    };
-    EXPECT_TRUE(becomes(true));
-    // The portal's number, what the theme prefers (n for nothing), and what comes of it.
-    for (const QByteArray step : {"2df", "0dd", "0nn", "1nd", "7dd", "2nl"}) {
-        const auto meaning = [&](qsizetype i) {
-            return step[i] == 'n' ? std::nullopt : std::optional(step[i] == 'd');
-        };
-        theme.tell(meaning(1));
-        Q_EMIT portal->SettingChanged(
-            u"org.freedesktop.appearance"_s, u"color-scheme"_s, QDBusVariant(uint(step[0] - '0')));
-        EXPECT_TRUE(becomes(meaning(2))) << step.constData();
-    }
 }
 
 #include "GioWorkspace_test.moc"
