@@ -1,6 +1,8 @@
 // Taps among locks, layouts, window managers and other programs.
 
 #include "World.h"
+#include "platform/x11/X11ChordGrab.h"
+#include "platform/x11/X11MouseButtonGrab.h"
 
 #include <QApplication>
 #include <QProcess>
@@ -30,6 +32,35 @@ TEST_F(TapsTest, TheChordFollowsItsKeyAndItsModifier) {
             Driver().tapChord(held, "LEFT"); // reads afresh where the keys are
             return waitFor([&] { return tap.presses() > 0; }, 100);
         })) << qPrintable(arguments.join(u' '));
+    }
+}
+
+TEST_F(TapsTest, AHeldChordRepeats) {
+    EXPECT_EQ(QProcess::execute(u"xset"_s, {u"r"_s, u"rate"_s, u"100"_s, u"50"_s}), 0);
+    makeEnabled(optionM);
+    world.driver.pressKey("LALT");
+    world.driver.pressKey(keyM.name);
+    EXPECT_TRUE(waitFor([this] { return tap.presses() >= 4; }));
+    world.driver.releaseKey(keyM.name);
+    world.driver.releaseKey("LALT");
+    EXPECT_EQ(QProcess::execute(u"xset"_s, {u"r"_s, u"rate"_s}), 0);
+}
+
+TEST_F(TapsTest, ATryThatIsRefusedCostsFewRequests) {
+    const auto connection = X11Connection::open();
+    const X11Keyboard keyboard(*connection);
+    X11ChordGrab chord(*connection, keyboard, *XInput::find(*connection), optionM, {});
+    X11MouseButtonGrab button(*connection, keyboard, TapInterest::MouseButtons{{3}}, {});
+    OtherProgram holder;
+    EXPECT_TRUE(holder.takeChord(world.driver.keycode(keyM.name)) && holder.takeButton(8));
+    for (const auto& [grab, limit] :
+         {std::pair<X11Grab*, unsigned>{&chord, 1}, std::pair<X11Grab*, unsigned>{&button, 40}}) {
+        EXPECT_FALSE(grab->obtain());
+        EXPECT_FALSE(grab->refusedName().isEmpty());
+        const unsigned before = xcb_no_operation(*connection).sequence;
+        EXPECT_FALSE(grab->obtain());
+        EXPECT_FALSE(grab->refusedName().isEmpty());
+        EXPECT_LE(xcb_no_operation(*connection).sequence - before - 1, limit);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QWidget>
 #include <QWindow>
 #include <gtest/gtest.h>
 
