@@ -167,7 +167,7 @@ private:
                 continue;
             eventfd_t ignored = 0;
             ::eventfd_read(wake_.get(), &ignored);
-            const auto* next = &watched[1];
+            const auto* next = watched.data() + 1;
             for (Child& child : children_) {
                 const bool ended = child.ended && (next++)->revents;
                 const bool readable = child.output && (next++)->revents;
