@@ -12,7 +12,7 @@ inline constexpr EventFlags kCGEventFlagMaskControl = 0x40000;
 inline constexpr EventFlags kCGEventFlagMaskAlternate = 0x80000; ///< Option; Alt (Mod1) here
 inline constexpr EventFlags kCGEventFlagMaskCommand = 0x100000;  ///< Command; Super (Mod4) here
 
-/// The code of a key's position, numbered as on the ANSI keyboard of the given vocabulary
+/// The code of a key's position, numbered as AppKit numbers those of the ANSI keyboard
 /// (A = 0, M = 46, Return = 36, …), whatever the layout types there.
 using KeyCode = std::uint16_t;
 

@@ -14,7 +14,7 @@
 
 namespace velmora {
 
-/// What happened, numbered as in the given vocabulary.
+/// What happened, numbered as in AppKit.
 enum class EventType : std::uint32_t {
     keyDown = 10,
     flagsChanged = 12,

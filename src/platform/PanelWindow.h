@@ -9,8 +9,8 @@ class QWidget;
 namespace velmora {
 
 /// A borderless window over the session's other windows that never takes the keyboard focus.
-/// Created unmapped; visible from orderFrontRegardless() until it is destroyed. The numbers are the
-/// given vocabulary's; each platform gives them their effect.
+/// Created unmapped; visible from orderFrontRegardless() until it is destroyed. The numbers are
+/// AppKit's; each platform gives them their effect.
 class PanelWindow {
 public:
     virtual ~PanelWindow() = default;
