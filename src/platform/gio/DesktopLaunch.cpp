@@ -64,9 +64,8 @@ std::variant<Entry, QString> inTerminal(const Entry& entry) {
     return changed;
 }
 
-/// Asks the session bus to activate the application and waits for the answer. Gives nothing where
-/// the bus has gone, which GIO may not have noticed before: then there is nobody to ask.
-std::optional<Failure> activate(const Entry& entry, GList* urls) {
+/// Asks the session bus to activate the application and waits for the answer.
+Failure activate(const Entry& entry, GList* urls) {
     // Answers arrive through the thread's default context, whoever runs the main thread's.
     const GioPointer<GMainContext> mainContext(g_main_context_new());
     g_main_context_push_thread_default(mainContext.get());
@@ -82,12 +81,9 @@ std::optional<Failure> activate(const Entry& entry, GList* urls) {
         g_main_context_iteration(mainContext.get(), TRUE);
     g_main_context_pop_thread_default(mainContext.get());
     GioError error;
-    if (!g_app_info_launch_uris_finish(G_APP_INFO(entry.get()), result.get(), error.out())) {
-        if (error.isConnectionClosed())
-            return std::nullopt;
-        return std::optional<Failure>(std::in_place, error.message());
-    }
-    return std::optional<Failure>(std::in_place, std::nullopt);
+    if (!g_app_info_launch_uris_finish(G_APP_INFO(entry.get()), result.get(), error.out()))
+        return error.message();
+    return std::nullopt;
 }
 
 Failure launch(Entry entry, GList* urls) {
@@ -96,11 +92,8 @@ Failure launch(Entry entry, GList* urls) {
     const GioPointer<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
     if (bus)
         g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
-    if (bus &&
-        g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE)) {
-        if (const auto answer = activate(entry, urls))
-            return *answer;
-    }
+    if (bus && g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE))
+        return activate(entry, urls);
 
     if (g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_TERMINAL)) {
         auto changed = inTerminal(entry);
