@@ -2,7 +2,7 @@
 // exec to the painted bar beside a minimal Qt Widgets window, private memory, wake-ups while idle,
 // and the time from a click to the start of the child it runs beside the shell's own start.
 
-#include "input/MouseButtonBinding.h"
+#include "model/MouseButtonBinding.h"
 #include "model/StoredForm.h"
 #include "support/Desktop.h"
 #include "support/Driver.h"

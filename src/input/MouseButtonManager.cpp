@@ -23,13 +23,13 @@ MouseButtonManager& MouseButtonManager::shared() {
 MouseButtonManager::MouseButtonManager(
     UserDefaults& defaults, EventTaps& eventTaps, Accessibility& accessibility, Execute execute,
     std::chrono::milliseconds retryPeriod)
-    : storage_(defaults, u"SavedMouseBindings"_s, readMouseButtonBinding),
+    : bindings_(
+          defaults, u"SavedMouseBindings"_s, readMouseButtonBinding,
+          [this] { Q_EMIT bindingsWillChange(); }),
       eventTaps_(eventTaps),
       accessibility_(accessibility),
       execute_(std::move(execute)),
-      trustPoll_(accessibility, retryPeriod) {
-    loadBindings();
-}
+      trustPoll_(accessibility, retryPeriod) {}
 
 void MouseButtonManager::startMonitoring() {
     if (eventTap_)
@@ -60,8 +60,8 @@ MouseButtonManager::handleMouseEvent(EventType type, const TapEvent& event) {
     if (type != EventType::otherMouseDown)
         return event;
     const auto binding =
-        std::ranges::find(bindings_, event.buttonNumber, &MouseButtonBinding::buttonNumber);
-    if (binding == bindings_.cend())
+        std::ranges::find(bindings(), event.buttonNumber, &MouseButtonBinding::buttonNumber);
+    if (binding == bindings().cend())
         return event;
     // A copy: the binding may be edited or removed before its turn comes.
     MainQueue::submit([execute = execute_, action = binding->action] { execute(action); });
@@ -69,54 +69,33 @@ MouseButtonManager::handleMouseEvent(EventType type, const TapEvent& event) {
 }
 
 void MouseButtonManager::addBinding(const MouseButtonBinding& binding) {
-    QList<MouseButtonBinding> bindings = bindings_;
     const auto same =
-        std::ranges::find(bindings, binding.buttonNumber, &MouseButtonBinding::buttonNumber);
-    if (same == bindings.end())
-        bindings.append(binding);
+        std::ranges::find(bindings(), binding.buttonNumber, &MouseButtonBinding::buttonNumber);
+    if (same == bindings().cend())
+        bindings_.append(binding);
     else
-        *same = binding;
-    setBindings(std::move(bindings));
-    saveBindings();
+        bindings_.replace(same - bindings().cbegin(), binding);
+    watchBoundButtons();
 }
 
 void MouseButtonManager::removeBinding(qsizetype index) {
-    if (index < 0 || index >= bindings_.size())
-        return;
-    QList<MouseButtonBinding> bindings = bindings_;
-    bindings.removeAt(index);
-    setBindings(std::move(bindings));
-    saveBindings();
+    bindings_.remove(index);
+    watchBoundButtons();
 }
 
 void MouseButtonManager::updateBinding(qsizetype index, const MouseButtonBinding& binding) {
-    if (index < 0 || index >= bindings_.size())
-        return;
-    QList<MouseButtonBinding> bindings = bindings_;
-    bindings.replace(index, binding);
-    setBindings(std::move(bindings));
-    saveBindings();
+    bindings_.replace(index, binding);
+    watchBoundButtons();
 }
 
-void MouseButtonManager::saveBindings() {
-    storage_.save(bindings_);
-}
-
-void MouseButtonManager::loadBindings() {
-    if (auto stored = storage_.load())
-        setBindings(*std::move(stored));
-}
-
-void MouseButtonManager::setBindings(QList<MouseButtonBinding> bindings) {
-    Q_EMIT bindingsWillChange();
-    bindings_ = std::move(bindings);
+void MouseButtonManager::watchBoundButtons() {
     if (eventTap_)
         eventTap_->setInterest(boundButtons());
 }
 
 TapInterest::MouseButtons MouseButtonManager::boundButtons() const {
     TapInterest::MouseButtons wanted;
-    for (const MouseButtonBinding& binding : bindings_) {
+    for (const MouseButtonBinding& binding : bindings()) {
         const bool isExtraButton = binding.buttonNumber >= 2;
         if (isExtraButton && !wanted.buttonNumbers.contains(binding.buttonNumber))
             wanted.buttonNumbers.append(binding.buttonNumber);

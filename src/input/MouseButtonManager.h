@@ -1,11 +1,10 @@
 #pragma once
 
-#include "input/MouseButtonBinding.h"
 #include "input/TrustPoll.h"
-#include "model/ListStorage.h"
+#include "model/MouseButtonBinding.h"
+#include "model/StoredList.h"
 #include "platform/EventTap.h"
 
-#include <QList>
 #include <QObject>
 #include <functional>
 #include <memory>
@@ -33,7 +32,7 @@ public:
         std::chrono::milliseconds retryPeriod = TrustPoll::defaultPeriod);
 
     /// In display order; of several for one button the first is carried out.
-    const QList<MouseButtonBinding>& bindings() const { return bindings_; }
+    const QList<MouseButtonBinding>& bindings() const { return bindings_.records(); }
 
     /// Starts watching, as soon as the process is trusted. When the session then allows no tap, the
     /// bindings never fire. Nothing happens while watching.
@@ -55,16 +54,14 @@ Q_SIGNALS:
 
 private:
     std::optional<TapEvent> handleMouseEvent(EventType type, const TapEvent& event);
-    void saveBindings();
-    void loadBindings();
-    void setBindings(QList<MouseButtonBinding> bindings);
+    /// Asks for presses of the buttons that are bound now.
+    void watchBoundButtons();
     TapInterest::MouseButtons boundButtons() const;
 
-    ListStorage<MouseButtonBinding> storage_;
+    StoredList<MouseButtonBinding> bindings_;
     EventTaps& eventTaps_;
     Accessibility& accessibility_;
     const Execute execute_;
-    QList<MouseButtonBinding> bindings_;
     std::unique_ptr<EventTap> eventTap_;
     TrustPoll trustPoll_;
 };

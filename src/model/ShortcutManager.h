@@ -1,9 +1,8 @@
 #pragma once
 
-#include "model/ListStorage.h"
 #include "model/ShortcutButton.h"
+#include "model/StoredList.h"
 
-#include <QList>
 #include <QObject>
 
 namespace velmora {
@@ -23,7 +22,7 @@ public:
     const QString userDefaultsKey;
 
     /// The buttons in display order.
-    const QList<ShortcutButton>& shortcuts() const { return shortcuts_; }
+    const QList<ShortcutButton>& shortcuts() const { return shortcuts_.records(); }
 
     /// Appends.
     void addShortcut(const ShortcutButton& button);
@@ -42,11 +41,8 @@ Q_SIGNALS:
 
 private:
     void createDefaultShortcuts();
-    void loadShortcuts();
-    bool holds(qsizetype index) const;
 
-    ListStorage<ShortcutButton> storage_;
-    QList<ShortcutButton> shortcuts_;
+    StoredList<ShortcutButton> shortcuts_;
 };
 
 } // namespace velmora

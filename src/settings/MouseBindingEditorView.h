@@ -1,6 +1,6 @@
 #pragma once
 
-#include "input/MouseButtonBinding.h"
+#include "model/MouseButtonBinding.h"
 #include "settings/RecordEditor.h"
 
 namespace velmora {

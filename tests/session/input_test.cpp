@@ -1,6 +1,6 @@
 // The hot key and bound mouse buttons, pressed while another application is in front.
 
-#include "input/MouseButtonBinding.h"
+#include "model/MouseButtonBinding.h"
 #include "model/StoredForm.h"
 #include "session/Session.h"
 

@@ -1,4 +1,4 @@
-#include "model/ListStorage.h"
+#include "model/StoredList.h"
 
 #include "foundation/Log.h"
 

@@ -1,4 +1,4 @@
-#include "input/MouseButtonBinding.h"
+#include "model/MouseButtonBinding.h"
 
 #include "foundation/LocalizedString.h"
 
