@@ -7,8 +7,8 @@
 #include "overlay/ContentView.h"
 #include "platform/Platform.h"
 #include "platform/freedesktop/LateGio.h"
-#include "platform/x11/QtConnection.h"
-#include "platform/x11/X11Session.h"
+#include "platform/x11/base/QtConnection.h"
+#include "platform/x11/session/X11Session.h"
 #include "settings/AppPickerView.h"
 #include "settings/SettingsWindow.h"
 #include "support/FakeTrayHost.h"
@@ -138,7 +138,8 @@ void measureEdit(Application& application) {
         manager.addShortcut(
             {u"Button %1"_s.arg(manager.shortcuts().size()), u"star"_s,
              OpenUrl{u"https://example.org/"_s}});
-    ContentView bar(manager, [] { return false; }, [](const ShortcutAction&) {});
+    ContentView bar(
+        manager, [] { return false; }, [](const ShortcutAction&) {});
     bar.setGeometry(0, 0, 1512, 24);
     bar.show();
     SettingsWindow::shared().show();

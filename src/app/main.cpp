@@ -12,7 +12,7 @@
 #include "platform/freedesktop/LateGio.h"
 #include "platform/freedesktop/SessionBus.h"
 #include "platform/freedesktop/StatusNotifierTrayHost.h"
-#include "platform/x11/X11Session.h"
+#include "platform/x11/session/X11Session.h"
 
 #include <QApplication>
 #include <array>

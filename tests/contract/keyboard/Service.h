@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/KeyboardEvents.h"
-#include "platform/x11/X11Session.h"
+#include "platform/x11/session/X11Session.h"
 
 #include <gtest/gtest.h>
 #include <memory>

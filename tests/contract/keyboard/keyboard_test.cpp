@@ -2,7 +2,7 @@
 // is like afterwards.
 
 #include "Service.h"
-#include "platform/x11/KeyPositions.h"
+#include "platform/x11/keyboard/KeyPositions.h"
 #include "support/Desktop.h"
 #include "support/Driver.h"
 #include "support/TestDisplay.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/x11/X11Connection.h"
+#include "platform/x11/base/X11Connection.h"
 #include "support/Desktop.h"
 #include "support/Driver.h"
 #include "support/TestDisplay.h"

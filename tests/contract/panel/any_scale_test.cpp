@@ -2,8 +2,8 @@
 
 #include "contract/panel/PanelProbe.h"
 #include "contract/panel/SessionTest.h"
-#include "platform/x11/X11PanelWindows.h"
-#include "platform/x11/X11Screens.h"
+#include "platform/x11/panel/X11PanelWindows.h"
+#include "platform/x11/screens/X11Screens.h"
 
 #include <QGuiApplication>
 #include <xcb/randr.h>

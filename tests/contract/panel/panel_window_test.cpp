@@ -1,7 +1,7 @@
 #include "contract/panel/PanelProbe.h"
 #include "contract/panel/SessionTest.h"
-#include "platform/x11/X11PanelWindows.h"
-#include "platform/x11/X11StackKeeper.h"
+#include "platform/x11/panel/X11PanelWindows.h"
+#include "platform/x11/panel/X11StackKeeper.h"
 
 #include <QElapsedTimer>
 #include <QMenu>

@@ -1,5 +1,5 @@
 #include "contract/panel/SessionTest.h"
-#include "platform/x11/X11WindowActivation.h"
+#include "platform/x11/session/X11WindowActivation.h"
 
 #include <QGuiApplication>
 #include <QLineEdit>

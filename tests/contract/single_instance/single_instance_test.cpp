@@ -1,6 +1,6 @@
 // Launches on one display, each with a connection of its own.
 
-#include "platform/x11/X11SingleInstance.h"
+#include "platform/x11/session/X11SingleInstance.h"
 #include "support/TestDisplay.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/EventTap.h"
-#include "platform/x11/X11Session.h"
+#include "platform/x11/session/X11Session.h"
 #include "support/Desktop.h"
 #include "support/Driver.h"
 #include "support/TestDisplay.h"

@@ -2,8 +2,8 @@
 // between: once the hands are off, no key or button is down and nothing is taken.
 
 #include "World.h"
-#include "platform/x11/X11EventTaps.h"
-#include "platform/x11/X11Keyboard.h"
+#include "platform/x11/grants/X11EventTaps.h"
+#include "platform/x11/keyboard/X11Keyboard.h"
 #include "support/TestDisplay.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 // Taps among locks, layouts, window managers and other programs.
 
 #include "World.h"
-#include "platform/x11/X11ChordGrab.h"
-#include "platform/x11/X11MouseButtonGrab.h"
+#include "platform/x11/grants/X11ChordGrab.h"
+#include "platform/x11/grants/X11MouseButtonGrab.h"
 
 #include <QApplication>
 #include <QProcess>

@@ -1,9 +1,9 @@
 // The decisions of the event taps, without a display.
 
-#include "platform/x11/ChordStates.h"
-#include "platform/x11/KeyLabels.h"
-#include "platform/x11/RetryPauses.h"
-#include "platform/x11/X11Grab.h"
+#include "platform/x11/grants/ChordStates.h"
+#include "platform/x11/grants/RetryPauses.h"
+#include "platform/x11/grants/X11Grab.h"
+#include "platform/x11/keyboard/KeyLabels.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
-#include "platform/x11/NotchedLaptops.h"
-#include "platform/x11/SafeAreaInsets.h"
-#include "platform/x11/X11Accessibility.h"
+#include "platform/x11/screens/NotchedLaptops.h"
+#include "platform/x11/screens/SafeAreaInsets.h"
+#include "platform/x11/session/X11Accessibility.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/x11/PanelStacking.h"
+#include "platform/x11/panel/PanelStacking.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,136 @@
+#include "platform/x11/grants/X11ChordGrab.h"
+
+#include "platform/x11/grants/ChordStates.h"
+#include "platform/x11/keyboard/KeyLabels.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+
+X11ChordGrab::X11ChordGrab(
+    X11Connection& connection, const X11Keyboard& keyboard, const XInput& xinput,
+    const TapInterest::Chord& interest, Sink sink)
+    : connection_(connection),
+      keyboard_(keyboard),
+      xinput_(xinput),
+      wanted_(interest),
+      sink_(std::move(sink)) {
+    subscription_ = connection.subscribe([this](const auto& event) { handle(event); });
+    keyboard.observe(&context_, [this] {
+        name_.clear();
+        sink_.changed();
+    });
+}
+
+X11ChordGrab::~X11ChordGrab() {
+    ungrab(held_);
+    xcb_flush(connection_);
+}
+
+bool X11ChordGrab::obtain() {
+    const xcb_keycode_t keycode = keyboard_.positions().keycode(wanted_.keyCode).value_or(0);
+    const std::vector<std::uint32_t> states =
+        chordStates(keyboard_.modifiers(), wanted_.requiredFlags);
+    const auto isWanted = [&](std::uint32_t state) {
+        return std::ranges::binary_search(states, state);
+    };
+    std::set<std::uint32_t> dropped = held_;
+    if (keycode == keycode_)
+        std::erase_if(dropped, isWanted);
+    ungrab(dropped);
+    keycode_ = keycode;
+    if (keycode_ == 0)
+        return true;
+
+    std::vector<std::uint32_t> missing;
+    std::ranges::copy_if(states, std::back_inserter(missing), [this](std::uint32_t state) {
+        return !held_.contains(state);
+    });
+    grab(missing);
+    return std::ranges::all_of(states, [this](std::uint32_t state) {
+        return held_.contains(state) ||
+               !isPlainChord(keyboard_.modifiers(), wanted_.requiredFlags, state);
+    });
+}
+
+void X11ChordGrab::grab(const std::vector<std::uint32_t>& states) {
+    if (states.empty())
+        return;
+    constexpr std::uint32_t presses = XCB_INPUT_XI_EVENT_MASK_KEY_PRESS;
+    const auto cookie = xcb_input_xi_passive_grab_device(
+        connection_, XCB_CURRENT_TIME, connection_.root(), XCB_CURSOR_NONE, keycode_,
+        XCB_INPUT_DEVICE_ALL_MASTER, static_cast<std::uint16_t>(states.size()), 1,
+        XCB_INPUT_GRAB_TYPE_KEYCODE, XCB_INPUT_GRAB_MODE_22_ASYNC, XCB_INPUT_GRAB_MODE_22_ASYNC,
+        XCB_INPUT_GRAB_OWNER_NO_OWNER, &presses, states.data());
+    const XcbOwned<xcb_input_xi_passive_grab_device_reply_t> reply(
+        xcb_input_xi_passive_grab_device_reply(connection_, cookie, nullptr));
+    if (!reply)
+        return;
+    held_.insert(states.begin(), states.end());
+    // The reply lists the states that another client has.
+    const auto* refused = xcb_input_xi_passive_grab_device_modifiers(reply.get());
+    for (int i = 0; i < xcb_input_xi_passive_grab_device_modifiers_length(reply.get()); ++i)
+        held_.erase(refused[i].modifiers);
+}
+
+void X11ChordGrab::ungrab(const std::set<std::uint32_t>& states) {
+    if (states.empty())
+        return;
+    const std::vector<std::uint32_t> list(states.begin(), states.end());
+    xcb_input_xi_passive_ungrab_device(
+        connection_, connection_.root(), keycode_, XCB_INPUT_DEVICE_ALL_MASTER,
+        static_cast<std::uint16_t>(list.size()), XCB_INPUT_GRAB_TYPE_KEYCODE, list.data());
+    for (const std::uint32_t state : list)
+        held_.erase(state);
+}
+
+bool X11ChordGrab::adopt(const EventTapInterest& interest) {
+    const auto* chord = std::get_if<TapInterest::Chord>(&interest);
+    if (chord) {
+        wanted_ = *chord;
+        name_.clear();
+    }
+    return chord;
+}
+
+QString X11ChordGrab::refusedName() const {
+    if (!name_.isEmpty())
+        return name_;
+    const KeyLabels labels = KeyLabels::read(connection_);
+    QStringList parts;
+    for (const auto& [flag, name] :
+         {std::pair(kCGEventFlagMaskCommand, u"Command"_s),
+          std::pair(kCGEventFlagMaskAlternate, u"Option"_s),
+          std::pair(kCGEventFlagMaskControl, u"Control"_s),
+          std::pair(kCGEventFlagMaskShift, u"Shift"_s)}) {
+        if (wanted_.requiredFlags & flag)
+            parts << name;
+    }
+    parts << labels.label(keycode_, 0, false).toUpper();
+    return name_ = u"⌨️ "_s + parts.join(u'+');
+}
+
+std::span<const std::chrono::milliseconds> X11ChordGrab::pauses() const {
+    return usualPauses;
+}
+
+void X11ChordGrab::handle(const xcb_generic_event_t& event) {
+    const auto* press = xinput_.eventAs<xcb_input_key_press_event_t>(event, XCB_INPUT_KEY_PRESS);
+    if (!press || press->event != connection_.root() || press->detail != keycode_)
+        return;
+    // By the press's time: a grab that was made since stays.
+    xcb_input_xi_ungrab_device(connection_, press->time, press->deviceid);
+    xcb_flush(connection_);
+    // A longer chord that another program had may be free by now; no timer waits for that. Asked
+    // only once the press is delivered: the answer takes its time.
+    QMetaObject::invokeMethod(
+        &context_, [this] { obtain(); }, Qt::QueuedConnection);
+    sink_.event(
+        {.type = EventType::keyDown,
+         .keyCode = wanted_.keyCode,
+         .flags = keyboard_.modifiers().flags(static_cast<std::uint8_t>(press->mods.effective))});
+}
+
+} // namespace velmora

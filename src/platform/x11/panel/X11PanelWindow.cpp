@@ -1,0 +1,122 @@
+#include "platform/x11/panel/X11PanelWindow.h"
+
+#include "platform/x11/base/QtConnection.h"
+#include "platform/x11/panel/X11StackKeeper.h"
+
+#include <QApplication>
+#include <QVBoxLayout>
+#include <xcb/shape.h>
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+
+X11PanelWindow::X11PanelWindow(X11Connection& connection, const PanelFrame& frame)
+    : connection_(connection), extent_(frame.pixels) {
+    window_.setWindowFlags(
+        Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+        Qt::WindowDoesNotAcceptFocus | Qt::X11BypassWindowManagerHint);
+    window_.setWindowTitle(u"Velmora"_s); // for programs that list windows
+    window_.setAttribute(Qt::WA_ShowWithoutActivating);
+    window_.setGeometry(frame.points);
+    auto* const layout = new QVBoxLayout(&window_);
+    layout->setContentsMargins({});
+    // The frame is fixed: content that wants more room does not get it.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
+}
+
+X11PanelWindow::~X11PanelWindow() = default;
+
+void X11PanelWindow::setLevel(int level) {
+    // Level 0 is that of ordinary windows.
+    keptAbove_ = level > 0;
+}
+
+void X11PanelWindow::setCollectionBehavior(unsigned) {
+    // Window managers leave an override-redirect window on every workspace and beside full-screen
+    // windows; there is no other way to be.
+}
+
+void X11PanelWindow::setBackgroundColor(const QColor& color) {
+    QPalette palette = window_.palette();
+    palette.setColor(QPalette::Window, color);
+    window_.setPalette(palette);
+}
+
+void X11PanelWindow::setHasShadow(bool hasShadow) {
+    window_.setWindowFlag(Qt::NoDropShadowWindowHint, !hasShadow);
+}
+
+void X11PanelWindow::setOpaque(bool opaque) {
+    window_.setAttribute(Qt::WA_TranslucentBackground, !opaque);
+}
+
+void X11PanelWindow::setIgnoresMouseEvents(bool ignores) {
+    ignoresMouseEvents_ = ignores;
+    applyShapes();
+}
+
+void X11PanelWindow::setAlphaValue(double alpha) {
+    invisible_ = !(alpha > 0);
+    applyShapes();
+    if (!invisible_ && stackKeeper_)
+        stackKeeper_->raiseNow();
+}
+
+void X11PanelWindow::orderFrontRegardless() {
+    if (window_.size().isEmpty())
+        return;
+    qApp->installNativeEventFilter(this); // no matter how often
+    applyExtent();
+    window_.show();
+    window_.raise();
+    applyShapes();
+    syncQtConnection();
+    if (keptAbove_ && !stackKeeper_)
+        stackKeeper_ = std::make_unique<X11StackKeeper>(
+            connection_, static_cast<xcb_window_t>(window_.winId()));
+}
+
+void X11PanelWindow::setContentView(QWidget* view) {
+    window_.layout()->addWidget(view);
+    // At once, so that the first thing painted is the content in its place.
+    window_.layout()->activate();
+    view->show();
+}
+
+bool X11PanelWindow::nativeEventFilter(const QByteArray&, void* message, qintptr*) {
+    const auto& event = *static_cast<const xcb_generic_event_t*>(message);
+    return (event.response_type & ~0x80) == XCB_CONFIGURE_NOTIFY &&
+           reinterpret_cast<const xcb_configure_notify_event_t&>(event).window ==
+               window_.internalWinId();
+}
+
+void X11PanelWindow::applyExtent() {
+    const std::uint32_t values[] = {
+        static_cast<std::uint32_t>(extent_.x()), static_cast<std::uint32_t>(extent_.y()),
+        static_cast<std::uint32_t>(extent_.width()), static_cast<std::uint32_t>(extent_.height())};
+    xcb_configure_window(
+        qtConnection(), static_cast<xcb_window_t>(window_.winId()),
+        XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH |
+            XCB_CONFIG_WINDOW_HEIGHT,
+        values);
+}
+
+void X11PanelWindow::applyShapes() {
+    if (!window_.isVisible())
+        return;
+    const auto window = static_cast<xcb_window_t>(window_.winId());
+    const auto apply = [window](xcb_shape_kind_t kind, bool empty) {
+        if (empty)
+            xcb_shape_rectangles(
+                qtConnection(), XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, window, 0, 0, 0,
+                nullptr);
+        else
+            xcb_shape_mask(qtConnection(), XCB_SHAPE_SO_SET, kind, window, 0, 0, XCB_NONE);
+    };
+    apply(XCB_SHAPE_SK_BOUNDING, invisible_);
+    apply(XCB_SHAPE_SK_INPUT, ignoresMouseEvents_);
+    xcb_flush(qtConnection());
+}
+
+} // namespace velmora

@@ -1,0 +1,93 @@
+#include "platform/x11/session/X11Session.h"
+
+#include "platform/x11/grants/X11EventTaps.h"
+#include "platform/x11/keyboard/X11Keyboard.h"
+#include "platform/x11/panel/X11PanelWindows.h"
+#include "platform/x11/screens/X11Screens.h"
+#include "platform/x11/session/X11Accessibility.h"
+#include "platform/x11/session/X11Appearance.h"
+#include "platform/x11/session/X11SingleInstance.h"
+#include "platform/x11/session/X11TrayHost.h"
+#include "platform/x11/session/X11WindowActivation.h"
+#include "platform/x11/synthesis/X11KeyboardEvents.h"
+
+namespace velmora {
+
+/// Built when first asked for, by when the application object is there.
+struct X11Session::Services {
+    explicit Services(X11Connection& connection)
+        : accessibility(connection),
+          appearance(connection),
+          keyboard(connection),
+          eventTaps(connection, keyboard),
+          keyboardEvents(keyboard),
+          panelWindows(connection),
+          screens(connection),
+          trayHost(connection),
+          windowActivation(connection) {
+        connection.startDelivery();
+    }
+
+    X11Accessibility accessibility;
+    X11Appearance appearance;
+    X11Keyboard keyboard;
+    X11EventTaps eventTaps;
+    X11KeyboardEvents keyboardEvents;
+    X11PanelWindows panelWindows;
+    X11Screens screens;
+    X11TrayHost trayHost;
+    X11WindowActivation windowActivation;
+};
+
+std::unique_ptr<X11Session> X11Session::create() {
+    auto connection = X11Connection::open();
+    if (!connection)
+        return nullptr;
+    return std::unique_ptr<X11Session>(new X11Session(std::move(connection)));
+}
+
+X11Session::X11Session(std::unique_ptr<X11Connection> connection)
+    : connection_(std::move(connection)),
+      singleInstance_(std::make_unique<X11SingleInstance>(*connection_)) {}
+
+X11Session::~X11Session() = default;
+
+X11Session::Services& X11Session::services() {
+    if (!services_)
+        services_ = std::make_unique<Services>(*connection_);
+    return *services_;
+}
+
+Accessibility& X11Session::accessibility() {
+    return services().accessibility;
+}
+
+Appearance& X11Session::appearance() {
+    return services().appearance;
+}
+
+EventTaps& X11Session::eventTaps() {
+    return services().eventTaps;
+}
+
+KeyboardEvents& X11Session::keyboardEvents() {
+    return services().keyboardEvents;
+}
+
+PanelWindows& X11Session::panelWindows() {
+    return services().panelWindows;
+}
+
+Screens& X11Session::screens() {
+    return services().screens;
+}
+
+TrayHost& X11Session::trayHost() {
+    return services().trayHost;
+}
+
+WindowActivation& X11Session::windowActivation() {
+    return services().windowActivation;
+}
+
+} // namespace velmora
