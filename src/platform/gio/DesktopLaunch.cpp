@@ -40,32 +40,49 @@ QString whyUnusable(const QString& location) {
     return u"“%1” describes no application that can be started"_s.arg(location);
 }
 
+/// The same entry after `edit` has changed what its file says.
+template<typename Edit>
+std::variant<Entry, QString> edited(const Entry& entry, const Edit& edit) {
+    const GioPointer<GKeyFile> file(g_key_file_new());
+    const char* const path = g_desktop_app_info_get_filename(entry.get());
+    GioError error;
+    if (!g_key_file_load_from_file(file.get(), path, G_KEY_FILE_KEEP_TRANSLATIONS, error.out()))
+        return error.message();
+    edit(*file.get());
+    Entry changed(g_desktop_app_info_new_from_keyfile(file.get()));
+    if (!changed)
+        return whyUnusable(QString::fromUtf8(path));
+    return changed;
+}
+
 /// The same entry with its command run in the user's terminal emulator. GIO has a list of terminals
 /// of its own that lacks Debian's x-terminal-emulator and does not report that none is there.
 std::variant<Entry, QString> inTerminal(const Entry& entry) {
     const auto terminal = terminalCommand();
     if (!terminal)
         return u"No terminal emulator is installed"_s;
-    const GioPointer<GKeyFile> file(g_key_file_new());
-    GioError error;
-    if (!g_key_file_load_from_file(
-            file.get(), g_desktop_app_info_get_filename(entry.get()), G_KEY_FILE_KEEP_TRANSLATIONS,
-            error.out()))
-        return error.message();
     const char* command = g_app_info_get_commandline(G_APP_INFO(entry.get()));
-    g_key_file_set_string(
-        file.get(), G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_EXEC,
-        (*terminal + u' ' + QString::fromUtf8(command)).toUtf8().constData());
-    g_key_file_set_boolean(
-        file.get(), G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_TERMINAL, FALSE);
-    Entry changed(g_desktop_app_info_new_from_keyfile(file.get()));
-    if (!changed)
-        return whyUnusable(QString::fromUtf8(g_desktop_app_info_get_filename(entry.get())));
-    return changed;
+    const QString inside = *terminal + u' ' + QString::fromUtf8(command);
+    return edited(entry, [&](GKeyFile& file) {
+        g_key_file_set_string(
+            &file, G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_EXEC,
+            inside.toUtf8().constData());
+        g_key_file_set_boolean(
+            &file, G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_TERMINAL, FALSE);
+    });
 }
 
-/// Asks the session bus to activate the application and waits for the answer.
-Failure activate(const Entry& entry, GList* urls) {
+/// The same entry without the offer to be started over the bus.
+std::variant<Entry, QString> withoutBus(const Entry& entry) {
+    return edited(entry, [](GKeyFile& file) {
+        g_key_file_set_boolean(
+            &file, G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE, FALSE);
+    });
+}
+
+/// Asks the session bus to activate the application and waits for the answer. Gives nothing where
+/// the bus has gone, which GIO may not have noticed before: then there is nobody to ask.
+std::optional<Failure> activate(const Entry& entry, GList* urls) {
     // Answers arrive through the thread's default context, whoever runs the main thread's.
     const GioPointer<GMainContext> mainContext(g_main_context_new());
     g_main_context_push_thread_default(mainContext.get());
@@ -81,9 +98,11 @@ Failure activate(const Entry& entry, GList* urls) {
         g_main_context_iteration(mainContext.get(), TRUE);
     g_main_context_pop_thread_default(mainContext.get());
     GioError error;
-    if (!g_app_info_launch_uris_finish(G_APP_INFO(entry.get()), result.get(), error.out()))
-        return error.message();
-    return std::nullopt;
+    if (g_app_info_launch_uris_finish(G_APP_INFO(entry.get()), result.get(), error.out()))
+        return std::optional<Failure>(std::in_place, std::nullopt);
+    if (error.isConnectionClosed())
+        return std::nullopt;
+    return std::optional<Failure>(std::in_place, error.message());
 }
 
 Failure launch(Entry entry, GList* urls) {
@@ -92,8 +111,15 @@ Failure launch(Entry entry, GList* urls) {
     const GioPointer<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
     if (bus)
         g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
-    if (bus && g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE))
-        return activate(entry, urls);
+    if (bus &&
+        g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE)) {
+        if (const auto answer = activate(entry, urls))
+            return *answer;
+        auto changed = withoutBus(entry);
+        if (const auto* failure = std::get_if<QString>(&changed))
+            return *failure;
+        entry = std::get<Entry>(std::move(changed));
+    }
 
     if (g_desktop_app_info_get_boolean(entry.get(), G_KEY_FILE_DESKTOP_KEY_TERMINAL)) {
         auto changed = inTerminal(entry);

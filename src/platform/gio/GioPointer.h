@@ -31,6 +31,9 @@ public:
     ~GioError() { g_clear_error(&error_); }
     GError** out() { return &error_; }
     QString message() const { return error_ ? QString::fromUtf8(error_->message) : QString(); }
+    bool isConnectionClosed() const {
+        return g_error_matches(error_, G_IO_ERROR, G_IO_ERROR_CLOSED);
+    }
 
 private:
     GError* error_ = nullptr;
