@@ -2,8 +2,8 @@
 
 #include "foundation/Bundle.h"
 #include "foundation/LocalizedString.h"
-#include "settings/Headline.h"
 #include "settings/VersionLine.h"
+#include "viewkit/FormParts.h"
 #include "viewkit/Sheet.h"
 #include "viewkit/Theme.h"
 

@@ -2,9 +2,9 @@
 
 #include "foundation/LocalizedString.h"
 #include "input/KeyCaptureView.h"
-#include "settings/AppPickerView.h"
 #include "settings/FormGroup.h"
 #include "settings/TypedUrl.h"
+#include "settings/applications/AppPickerView.h"
 #include "viewkit/PopUpButton.h"
 #include "viewkit/Sheet.h"
 #include "viewkit/Theme.h"

@@ -1,7 +1,7 @@
 #include "settings/FormGroup.h"
 
 #include "foundation/LocalizedString.h"
-#include "settings/Headline.h"
+#include "viewkit/FormParts.h"
 #include "viewkit/Theme.h"
 
 #include <QHBoxLayout>

@@ -2,7 +2,7 @@
 
 #include "foundation/LocalizedString.h"
 #include "settings/IconButton.h"
-#include "settings/SheetParts.h"
+#include "viewkit/FormParts.h"
 #include "viewkit/Sheet.h"
 #include "viewkit/Theme.h"
 
@@ -79,7 +79,7 @@ IconPickerView::IconPickerView(
     auto* stack = new QVBoxLayout(this);
     stack->setContentsMargins(0, 0, 0, 0);
     stack->setSpacing(0);
-    stack->addWidget(sheetHeader(title, *this));
+    stack->addWidget(sheetHeader(title, localizedString("button_close"), *this));
     stack->addWidget(divider());
     stack->addWidget(scrollArea_, 1);
 }

@@ -4,8 +4,8 @@
 #include "input/KeyCaptureView.h"
 #include "settings/ActionForm.h"
 #include "settings/FormGroup.h"
-#include "settings/Headline.h"
 #include "viewkit/Alert.h"
+#include "viewkit/FormParts.h"
 #include "viewkit/Theme.h"
 
 #include <QHBoxLayout>

@@ -1,5 +1,7 @@
 #include "settings/RecordListModel.h"
 
+#include "viewkit/TwoLineRow.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -63,18 +65,6 @@ QVariant RecordListModel::data(const QModelIndex& index, int role) const {
     QStringList texts{singleLine(described.title), singleLine(described.detail), described.badge};
     texts.removeAll(QString());
     return texts.join(u", "_s);
-}
-
-QString singleLine(const QString& text) {
-    constexpr qsizetype enough = 500; // characters, wider than any window
-    QString line = text.left(enough);
-    for (QChar& character : line) {
-        if (character.category() == QChar::Other_Control ||
-            character.category() == QChar::Separator_Line ||
-            character.category() == QChar::Separator_Paragraph)
-            character = u' ';
-    }
-    return line;
 }
 
 } // namespace velmora

@@ -42,7 +42,4 @@ private:
     RecordSnapshot snapshot_;
 };
 
-/// `text` fit to be drawn on one line: line breaks become spaces, and a very long text is cut.
-QString singleLine(const QString& text);
-
 } // namespace velmora

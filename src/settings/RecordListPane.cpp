@@ -1,8 +1,8 @@
 #include "settings/RecordListPane.h"
 
 #include "foundation/LocalizedString.h"
-#include "settings/Headline.h"
 #include "settings/RecordListView.h"
+#include "viewkit/FormParts.h"
 #include "viewkit/Sheet.h"
 #include "viewkit/SymbolIcon.h"
 #include "viewkit/Symbols.h"

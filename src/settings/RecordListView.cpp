@@ -1,9 +1,9 @@
 #include "settings/RecordListView.h"
 
 #include "foundation/LocalizedString.h"
-#include "settings/EmptyHint.h"
 #include "settings/RecordListModel.h"
 #include "settings/RecordRowDelegate.h"
+#include "viewkit/FormParts.h"
 #include "viewkit/PopupMenu.h"
 
 #include <QApplication>

@@ -3,6 +3,7 @@
 #include "settings/RecordListModel.h"
 #include "viewkit/Symbols.h"
 #include "viewkit/Theme.h"
+#include "viewkit/TwoLineRow.h"
 #include "viewkit/WindowTheme.h"
 
 #include <QAbstractItemView>
@@ -14,23 +15,10 @@ namespace {
 constexpr int verticalPadding = 4;
 constexpr int horizontalPadding = 8;
 constexpr int symbolFrame = 24;
-constexpr int lineSpacing = 2;
 constexpr double selectionRadius = 6;
 constexpr double badgeRadius = 4;
 constexpr int badgeHorizontalPadding = 8;
 constexpr int badgeVerticalPadding = 2;
-
-QFont titleFont() {
-    return Theme::systemFont(13, QFont::Medium);
-}
-
-QFont detailFont() {
-    return Theme::systemFont(11);
-}
-
-int textHeight() {
-    return QFontMetrics(titleFont()).height() + lineSpacing + QFontMetrics(detailFont()).height();
-}
 
 /// The colours of one row.
 struct RowColours {
@@ -55,26 +43,13 @@ RowColours colours(const QStyleOptionViewItem& option) {
     return {Qt::transparent, text, secondary};
 }
 
-/// Draws `text` elided at the leading edge of `rect`, in whatever direction it reads.
-void drawLine(
-    QPainter& painter, const QRect& rect, const QFont& font, const QString& text,
-    Qt::LayoutDirection direction) {
-    const QFontMetrics metrics(font);
-    painter.setFont(font);
-    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
-    const auto edge = direction == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
-    painter.drawText(
-        rect, int(edge) | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine,
-        metrics.elidedText(singleLine(text), Qt::ElideRight, rect.width()));
-}
-
 } // namespace
 
 RecordRowDelegate::RecordRowDelegate(const RecordListModel& model, QObject* parent)
     : QStyledItemDelegate(parent), model_(model) {}
 
 int RecordRowDelegate::rowHeight() {
-    return qMax(symbolFrame, textHeight()) + 2 * verticalPadding;
+    return TwoLineRow::contentHeight(symbolFrame) + 2 * verticalPadding;
 }
 
 QSize RecordRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
@@ -85,9 +60,6 @@ void RecordRowDelegate::paint(
     QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const RecordRow row = model_.row(index);
     const RowColours colour = colours(option);
-    const auto placed = [&](const QRect& rect) {
-        return QStyle::visualRect(option.direction, option.rect, rect);
-    };
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     if (index == draggedIndex_)
@@ -105,39 +77,25 @@ void RecordRowDelegate::paint(
     painter->drawRoundedRect(
         QRectF(option.rect).adjusted(1.5, 1.5, -1.5, -1.5), selectionRadius, selectionRadius);
 
-    const QRect content = option.rect.adjusted(horizontalPadding, 0, -horizontalPadding, 0);
+    TwoLineRow layout(
+        option.rect.adjusted(horizontalPadding, 0, -horizontalPadding, 0), option.direction,
+        symbolFrame, Theme::defaultSpacing);
     const int symbolSide = Symbols::sideLength(WindowTheme::fontSize);
-    QRect symbol(0, 0, symbolSide, symbolSide);
-    symbol.moveCenter(QRect(content.left(), content.top(), symbolFrame, content.height()).center());
-    Symbols::paint(*painter, row.symbol, placed(symbol), colour.text);
-
-    int trailing = content.right() + 1;
+    Symbols::paint(*painter, row.symbol, layout.picture({symbolSide, symbolSide}), colour.text);
     if (!row.badge.isEmpty()) {
-        const QFontMetrics metrics(detailFont());
-        QRect badge(
-            0, 0, metrics.horizontalAdvance(row.badge) + 2 * badgeHorizontalPadding,
+        const QFontMetrics metrics(TwoLineRow::detailFont());
+        const QSize size(
+            metrics.horizontalAdvance(row.badge) + 2 * badgeHorizontalPadding,
             metrics.height() + 2 * badgeVerticalPadding);
-        badge.moveCenter(content.center());
-        badge.moveRight(content.right());
+        const QRect badge = layout.takeMark(size, Theme::defaultSpacing);
         painter->setPen(Qt::NoPen);
         painter->setBrush(Theme::withOpacity(colour.secondary, isSelected ? 0.2F : 0.1F));
-        painter->drawRoundedRect(placed(badge), badgeRadius, badgeRadius);
+        painter->drawRoundedRect(badge, badgeRadius, badgeRadius);
         painter->setPen(colour.secondary);
-        painter->setFont(detailFont());
-        painter->drawText(placed(badge), Qt::AlignCenter | Qt::TextSingleLine, row.badge);
-        trailing = badge.left() - Theme::defaultSpacing;
+        painter->setFont(TwoLineRow::detailFont());
+        painter->drawText(badge, Qt::AlignCenter | Qt::TextSingleLine, row.badge);
     }
-
-    const int leading = content.left() + symbolFrame + Theme::defaultSpacing;
-    QRect line(
-        leading, option.rect.center().y() - textHeight() / 2 + 1, trailing - leading,
-        QFontMetrics(titleFont()).height());
-    painter->setPen(colour.text);
-    drawLine(*painter, placed(line), titleFont(), row.title, option.direction);
-    line.translate(0, line.height() + lineSpacing);
-    line.setHeight(QFontMetrics(detailFont()).height());
-    painter->setPen(colour.secondary);
-    drawLine(*painter, placed(line), detailFont(), row.detail, option.direction);
+    layout.paintTexts(*painter, row.title, colour.text, row.detail, colour.secondary);
     painter->restore();
 }
 

@@ -1,8 +1,8 @@
 // Pictures of applications, of whatever a desktop entry names as one.
 
-#include "settings/AppIcons.h"
+#include "settings/applications/AppIcons.h"
 
-#include "settings/AppInfo.h"
+#include "settings/applications/AppInfo.h"
 #include "support/TestDisplay.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 // The rows of the application chooser: the first-20 rule, the search, and the marks.
 
-#include "settings/AppListModel.h"
+#include "settings/applications/AppListModel.h"
 
 #include <gtest/gtest.h>
 
@@ -42,4 +42,15 @@ TEST(AppListModel, EveryCopyOfTheChoiceIsMarked) {
     const AppListModel model(u"org.b"_s);
     for (const QString& id : {u"org.b"_s, u"org.B"_s, u"org.bb"_s})
         EXPECT_EQ(model.isSelected({u"B"_s, id, {}}), id == u"org.b"_s);
+}
+
+TEST(AppListModel, TheSearchIgnoresCaseOnly) {
+    const QString pairs = u"com.apple.Safari=safari Ärger=ÄR Ärger=a\u0308rger STRAẞE=strasse "
+                          "İstanbul=istanbul Işık=ışık Ｗｉｄｔｈ=width ﾒﾓ帳=メモ"_s;
+    const auto contains = [](const QString& text, const QString& search) {
+        return foldedForSearch(text).contains(foldedForSearch(search));
+    };
+    for (const QString& pair : pairs.split(u' '))
+        EXPECT_TRUE(contains(pair.section(u'=', 0, 0), pair.section(u'=', 1))) << qPrintable(pair);
+    EXPECT_FALSE(contains(u"Ärger"_s, u"arger"_s));
 }

@@ -1,7 +1,6 @@
 // The scan for applications on a temporary tree: what counts as one, and the order of the list.
 
-#include "settings/AppScanner.h"
-#include "settings/SearchText.h"
+#include "settings/applications/AppScanner.h"
 
 #include <QDir>
 #include <QFile>
@@ -105,17 +104,6 @@ TEST_F(AppScannerTest, OrdersAsTheLanguageDoes) {
     EXPECT_THAT(
         names(scanner(installed).getCommonApps()),
         ElementsAre(u"com.apple.iCal"_s, u"com.apple.Safari"_s));
-}
-
-TEST(SearchText, ContainmentIgnoresCaseOnly) {
-    const QString pairs = u"com.apple.Safari=safari Ärger=ÄR Ärger=a\u0308rger STRAẞE=strasse "
-                          "İstanbul=istanbul Işık=ışık Ｗｉｄｔｈ=width ﾒﾓ帳=メモ"_s;
-    const auto contains = [](const QString& text, const QString& search) {
-        return foldedForSearch(text).contains(foldedForSearch(search));
-    };
-    for (const QString& pair : pairs.split(u' '))
-        EXPECT_TRUE(contains(pair.section(u'=', 0, 0), pair.section(u'=', 1))) << qPrintable(pair);
-    EXPECT_FALSE(contains(u"Ärger"_s, u"arger"_s));
 }
 
 } // namespace

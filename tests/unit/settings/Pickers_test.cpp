@@ -1,9 +1,9 @@
 // The choosers of an application and of a symbol in their sheets: keys, picking and closing.
 
-#include "settings/AppListView.h"
-#include "settings/AppPickerView.h"
 #include "settings/IconButton.h"
 #include "settings/IconPickerView.h"
+#include "settings/applications/AppListView.h"
+#include "settings/applications/AppPickerView.h"
 #include "support/TestDisplay.h"
 #include "viewkit/PlainButton.h"
 #include "viewkit/Sheet.h"

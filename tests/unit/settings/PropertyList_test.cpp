@@ -1,6 +1,6 @@
 // Property lists in both forms, whole and damaged.
 
-#include "settings/PropertyList.h"
+#include "settings/applications/PropertyList.h"
 
 #include <QElapsedTimer>
 #include <QtEndian>

@@ -2,6 +2,8 @@
 
 #include "settings/RecordListModel.h"
 
+#include "viewkit/TwoLineRow.h"
+
 #include <QAbstractItemModelTester>
 #include <QPersistentModelIndex>
 #include <QRandomGenerator>

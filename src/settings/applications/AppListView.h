@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/AppIcons.h"
+#include "settings/applications/AppIcons.h"
 
 #include <QListView>
 #include <QPushButton>

@@ -1,8 +1,8 @@
-#include "settings/AppScanner.h"
+#include "settings/applications/AppScanner.h"
 
 #include "foundation/RegularFile.h"
 #include "platform/Platform.h"
-#include "settings/PropertyList.h"
+#include "settings/applications/PropertyList.h"
 
 #include <QCollator>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "settings/SearchField.h"
+#include "settings/applications/SearchField.h"
 
 #include "foundation/LocalizedString.h"
 #include "viewkit/PlainButton.h"

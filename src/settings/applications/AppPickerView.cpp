@@ -1,10 +1,10 @@
-#include "settings/AppPickerView.h"
+#include "settings/applications/AppPickerView.h"
 
 #include "foundation/LocalizedString.h"
 #include "foundation/MainQueue.h"
-#include "settings/AppListView.h"
-#include "settings/SearchField.h"
-#include "settings/SheetParts.h"
+#include "settings/applications/AppListView.h"
+#include "settings/applications/SearchField.h"
+#include "viewkit/FormParts.h"
 #include "viewkit/ProgressIndicator.h"
 #include "viewkit/Sheet.h"
 #include "viewkit/Theme.h"
@@ -52,7 +52,7 @@ AppPickerView::AppPickerView(
     auto* stack = new QVBoxLayout(this);
     stack->setContentsMargins(0, 0, 0, 0);
     stack->setSpacing(0);
-    stack->addWidget(sheetHeader(title, *this));
+    stack->addWidget(sheetHeader(title, localizedString("button_close"), *this));
     auto* searchRow = new QHBoxLayout;
     searchRow->setContentsMargins(Theme::defaultPadding, 0, Theme::defaultPadding, 0);
     searchRow->addWidget(searchField_);

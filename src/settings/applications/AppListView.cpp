@@ -1,24 +1,42 @@
-#include "settings/AppListView.h"
+#include "settings/applications/AppListView.h"
 
 #include "foundation/LocalizedString.h"
-#include "settings/AppListModel.h"
-#include "settings/AppRow.h"
-#include "settings/EmptyHint.h"
+#include "settings/applications/AppListModel.h"
+#include "viewkit/FormParts.h"
+#include "viewkit/Symbols.h"
+#include "viewkit/Theme.h"
+#include "viewkit/TwoLineRow.h"
 
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace velmora {
 namespace {
 
+constexpr int listPadding = 4; ///< above the first row and below the last
 constexpr int rowSpacing = 2;
-constexpr int verticalPadding = 4;
+constexpr int rowMargin = 8; ///< beside a row's box
+constexpr int horizontalPadding = 12;
+constexpr int verticalPadding = 8;
+constexpr int textSpacing = 12; ///< between picture, texts and mark
+constexpr double cornerRadius = 6;
+constexpr int fallbackSymbolSize = 24;
+constexpr int checkmarkSize = 13;
 /// How long looking up icons may hold the main thread before it lets events in.
 constexpr int sliceMilliseconds = 5;
+
+int rowHeight() {
+    return TwoLineRow::contentHeight(AppIcons::side) + 2 * verticalPadding + rowSpacing;
+}
+
+QSize square(int side) {
+    return {side, side};
+}
 
 } // namespace
 
@@ -32,15 +50,9 @@ public:
         const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
         const bool current = index == view_.currentIndex();
         if (const AppInfo* app = view_.model_.app(index)) {
-            const AppRow row{
-                .app = *app,
-                .isSelected = view_.model_.isSelected(*app),
-                .icon = view_.icon(*app),
-                .isHovered = hovered,
-                .isCurrent = current};
-            row.paint(
-                *painter, option.rect.adjusted(0, rowSpacing / 2, 0, -rowSpacing / 2),
-                view_.palette());
+            const QRect box =
+                option.rect.adjusted(rowMargin, rowSpacing / 2, -rowMargin, -rowSpacing / 2);
+            paintApp(*painter, box, option.direction, *app, hovered, current);
         } else {
             paintButton(*painter, option, index.data().toString(), hovered, current);
         }
@@ -48,10 +60,43 @@ public:
     }
 
     QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
-        return {AppIcons::side, AppRow::height() + rowSpacing};
+        return {AppIcons::side, rowHeight()};
     }
 
 private:
+    void paintApp(
+        QPainter& painter, const QRect& box, Qt::LayoutDirection direction, const AppInfo& app,
+        bool hovered, bool current) const {
+        const QPalette& palette = view_.palette();
+        const QColor accent = palette.color(QPalette::Highlight);
+        const QColor text = palette.color(QPalette::WindowText);
+        const bool isSelected = view_.model_.isSelected(app);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(current ? QPen(accent, 2) : QPen(Qt::NoPen));
+        painter.setBrush(
+            isSelected ? Theme::withOpacity(accent, 0.1F)
+                       : Theme::withOpacity(Qt::gray, hovered ? 0.12F : 0));
+        painter.drawRoundedRect(box.adjusted(1, 1, -1, -1), cornerRadius, cornerRadius);
+
+        TwoLineRow row(
+            box.adjusted(horizontalPadding, 0, -horizontalPadding, 0), direction, AppIcons::side,
+            textSpacing);
+        const QPixmap icon = view_.icon(app);
+        if (icon.isNull()) {
+            const int side = Symbols::sideLength(fallbackSymbolSize);
+            Symbols::paint(painter, u"app"_s, row.picture(square(side)), text);
+        } else {
+            // An icon that comes smaller is centred rather than blown up.
+            painter.drawPixmap(row.picture(icon.deviceIndependentSize().toSize()), icon);
+        }
+        if (isSelected) {
+            const int side = Symbols::sideLength(checkmarkSize);
+            Symbols::paint(painter, u"checkmark"_s, row.takeMark(square(side), textSpacing), accent);
+        }
+        row.paintTexts(
+            painter, app.name, text, app.bundleId, palette.color(QPalette::PlaceholderText));
+    }
+
     void paintButton(
         QPainter& painter, const QStyleOptionViewItem& option, const QString& title, bool hovered,
         bool focused) const {
@@ -83,7 +128,7 @@ AppListView::AppListView(AppListModel& model) : model_(model), buttonLook_(this)
     setItemDelegate(new Delegate(*this));
     itemDelegate()->setParent(this);
     setFrameShape(QFrame::NoFrame);
-    setViewportMargins(0, verticalPadding - rowSpacing / 2, 0, verticalPadding - rowSpacing / 2);
+    setViewportMargins(0, listPadding - rowSpacing / 2, 0, listPadding - rowSpacing / 2);
     viewport()->setAutoFillBackground(false);
     setUniformItemSizes(true);
     setVerticalScrollMode(ScrollPerPixel);
@@ -109,7 +154,7 @@ AppListView::AppListView(AppListModel& model) : model_(model), buttonLook_(this)
 
 bool AppListView::moveCurrent(int key) {
     const int rows = model_.rowCount();
-    const int page = qMax(1, viewport()->height() / (AppRow::height() + rowSpacing) - 1);
+    const int page = qMax(1, viewport()->height() / rowHeight() - 1);
     int step = 0;
     switch (key) {
     case Qt::Key_Up:

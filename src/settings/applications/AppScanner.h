@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Workspace.h"
-#include "settings/AppInfo.h"
+#include "settings/applications/AppInfo.h"
 
 #include <QList>
 #include <filesystem>

@@ -23,7 +23,10 @@ struct AppInfo {
 
     /// The application's icon as the theme has it, null when the theme has none; a picture in a
     /// file of its own is AppIcons' to read. Main thread only; opens no picture.
-    QIcon getIcon() const;
+    QIcon getIcon() const {
+        // A name with a slash would lead out of the theme's folders.
+        return iconName.isEmpty() || iconName.contains(u'/') ? QIcon() : QIcon::fromTheme(iconName);
+    }
 
     bool operator==(const AppInfo& other) const { return bundleId == other.bundleId; }
 };

@@ -1,4 +1,4 @@
-#include "settings/PropertyList.h"
+#include "settings/applications/PropertyList.h"
 
 #include <QXmlStreamReader>
 #include <QtEndian>

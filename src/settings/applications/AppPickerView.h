@@ -1,7 +1,7 @@
 #pragma once
 
-#include "settings/AppListModel.h"
-#include "settings/AppScanner.h"
+#include "settings/applications/AppListModel.h"
+#include "settings/applications/AppScanner.h"
 
 #include <QWidget>
 #include <functional>

@@ -1,11 +1,17 @@
 #pragma once
 
-#include "settings/AppInfo.h"
+#include "settings/applications/AppInfo.h"
 
 #include <QAbstractListModel>
 #include <QList>
 
 namespace velmora {
+
+/// `text` in a form in which containment ignores case and compatibility forms (full-width letters,
+/// ligatures, ß and ss), but not diacritics: ä stays apart from a. The four letters i (I, i, İ, ı)
+/// are one, so that a search works whichever pair the user's language holds for upper and lower
+/// case.
+QString foldedForSearch(const QString& text);
 
 /// The result of a scan with what searching it needs, both made off the main thread.
 struct SearchableApps {

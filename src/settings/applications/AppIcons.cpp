@@ -1,8 +1,8 @@
-#include "settings/AppIcons.h"
+#include "settings/applications/AppIcons.h"
 
 #include "foundation/MainQueue.h"
 #include "foundation/RegularFile.h"
-#include "settings/AppInfo.h"
+#include "settings/applications/AppInfo.h"
 
 #include <QBuffer>
 #include <QDir>
