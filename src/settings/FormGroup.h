@@ -29,6 +29,10 @@ public:
     /// Width in points of the pickers.
     static constexpr int pickerWidth = 200;
 
+Q_SIGNALS:
+    /// For those who fill the group: what it holds has changed.
+    void changed();
+
 private:
     QVBoxLayout* rows_;
 };

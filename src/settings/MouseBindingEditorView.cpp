@@ -1,16 +1,12 @@
 #include "settings/MouseBindingEditorView.h"
 
 #include "foundation/LocalizedString.h"
-#include "input/KeyCaptureNSView.h"
-#include "input/KeyCaptureView.h"
-#include "settings/ActionForm.h"
 #include "settings/FormGroup.h"
 #include "viewkit/PopUpButton.h"
 
 namespace velmora {
 namespace {
 
-constexpr QSize editorSize(500, 400);
 constexpr std::int64_t firstOffered = 2;
 constexpr std::int64_t initialButton = 3;
 
@@ -32,41 +28,34 @@ PopUpButton* makeButtonPicker(const std::optional<MouseButtonBinding>& binding) 
     return picker;
 }
 
-FormGroup* makeButtonGroup(PopUpButton* picker) {
+RecordEditor::Kind makeKind(
+    const std::optional<MouseButtonBinding>& binding,
+    std::function<void(const MouseButtonBinding&)> onSave) {
+    PopUpButton* picker = makeButtonPicker(binding);
     auto* group = new FormGroup(localizedString("mouse_button"));
-    group->addRow(localizedString("mouse_btn_label"), {picker}, nullptr);
-    return group;
+    group->addRow(picker->accessibleName(), {picker}, nullptr);
+    return {
+        .heading = localizedString(binding ? "mouse_edit_title" : "mouse_add_title"),
+        .group = group,
+        .firstControl = picker,
+        .actionHeading = localizedString("mouse_action_label"),
+        .action = binding ? std::optional(binding->action) : std::nullopt,
+        .size = {500, 400},
+        .recordsReturn = false,
+        .isComplete = [] { return true; },
+        .save =
+            [picker, onSave = std::move(onSave),
+             id = binding ? binding->id() : QUuid::createUuid()](const ShortcutAction& action) {
+                onSave({picker->currentData().toLongLong(), action, id});
+            }};
 }
 
 } // namespace
 
 MouseBindingEditorView::MouseBindingEditorView(
-    std::optional<MouseButtonBinding> binding,
+    const std::optional<MouseButtonBinding>& binding,
     std::function<void(const MouseButtonBinding&)> onSave, std::function<void()> onCancel,
     EventTaps& eventTaps)
-    : MouseBindingEditorView(
-          makeButtonPicker(binding), binding, std::move(onSave), std::move(onCancel), eventTaps) {}
-
-MouseBindingEditorView::MouseBindingEditorView(
-    PopUpButton* buttonPicker, std::optional<MouseButtonBinding> binding,
-    std::function<void(const MouseButtonBinding&)> onSave, std::function<void()> onCancel,
-    EventTaps& eventTaps)
-    : RecordEditor(
-          {.heading = localizedString(binding ? "mouse_edit_title" : "mouse_add_title"),
-           .actionHeading = localizedString("mouse_action_label")},
-          makeButtonGroup(buttonPicker), binding ? std::optional(binding->action) : std::nullopt,
-          eventTaps, std::move(onCancel)),
-      buttonPicker_(buttonPicker),
-      binding_(std::move(binding)),
-      onSave_(std::move(onSave)) {
-    actionForm().keyCapture().view().onDefaultKey = [this] { requestSave(); };
-    finish(editorSize, buttonPicker_);
-}
-
-void MouseBindingEditorView::save() {
-    onSave_(MouseButtonBinding(
-        buttonPicker_->currentData().toLongLong(), actionForm().fields().action(),
-        binding_ ? binding_->id() : QUuid::createUuid()));
-}
+    : RecordEditor(makeKind(binding, std::move(onSave)), std::move(onCancel), eventTaps) {}
 
 } // namespace velmora

@@ -5,8 +5,6 @@
 
 namespace velmora {
 
-class PopUpButton;
-
 /// The form that makes a new mouse binding or changes one.
 class MouseBindingEditorView : public RecordEditor {
     Q_OBJECT
@@ -16,22 +14,9 @@ public:
     /// `binding` is the record to edit, none to add one. `onSave` receives the finished record.
     /// `eventTaps` outlives the editor.
     MouseBindingEditorView(
-        std::optional<MouseButtonBinding> binding,
+        const std::optional<MouseButtonBinding>& binding,
         std::function<void(const MouseButtonBinding&)> onSave, std::function<void()> onCancel,
         EventTaps& eventTaps);
-
-protected:
-    void save() override;
-
-private:
-    MouseBindingEditorView(
-        PopUpButton* buttonPicker, std::optional<MouseButtonBinding> binding,
-        std::function<void(const MouseButtonBinding&)> onSave, std::function<void()> onCancel,
-        EventTaps& eventTaps);
-
-    PopUpButton* const buttonPicker_; ///< item data: the button's number
-    const std::optional<MouseButtonBinding> binding_;
-    const std::function<void(const MouseButtonBinding&)> onSave_;
 };
 
 } // namespace velmora

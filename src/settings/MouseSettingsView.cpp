@@ -13,19 +13,12 @@ using namespace Qt::StringLiterals;
 namespace velmora {
 namespace {
 
-RecordSnapshot snapshot(const QList<MouseButtonBinding>& bindings) {
-    QList<QUuid> ids;
-    ids.reserve(bindings.size());
-    for (const MouseButtonBinding& binding : bindings)
-        ids.append(binding.id());
-    return {.ids = ids, .row = [bindings](qsizetype position) {
-                const MouseButtonBinding& binding = bindings.at(position);
-                return RecordRow{
-                    .symbol = u"computermouse"_s,
-                    .title = binding.buttonDisplayName(),
-                    .detail = displayName(binding.action),
-                    .badge = {}};
-            }};
+RecordRow describe(const MouseButtonBinding& binding) {
+    return {
+        .symbol = u"computermouse"_s,
+        .title = binding.buttonDisplayName(),
+        .detail = displayName(binding.action),
+        .badge = {}};
 }
 
 } // namespace
@@ -34,7 +27,7 @@ MouseSettingsView::MouseSettingsView(MouseButtonManager& mouseManager, EventTaps
     MouseButtonManager& store = mouseManager;
     auto* pane = new RecordListPane(
         localizedString("mouse_settings_title"),
-        {.snapshot = [&store] { return snapshot(store.bindings()); },
+        {.snapshot = [&store] { return snapshot(store.bindings(), describe); },
          .remove = [&store](qsizetype index) { store.removeBinding(index); },
          .makeEditor = [&store, &eventTaps](qsizetype index, std::function<void()> close)
              -> std::unique_ptr<QWidget> {

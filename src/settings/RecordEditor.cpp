@@ -1,6 +1,7 @@
 #include "settings/RecordEditor.h"
 
 #include "foundation/LocalizedString.h"
+#include "input/KeyCaptureNSView.h"
 #include "input/KeyCaptureView.h"
 #include "settings/ActionForm.h"
 #include "settings/FormGroup.h"
@@ -25,48 +26,31 @@ constexpr int groupSpacing = 16;
 
 } // namespace
 
-RecordEditor::RecordEditor(
-    const Texts& texts, FormGroup* firstGroup, const std::optional<ShortcutAction>& action,
-    EventTaps& eventTaps, std::function<void()> onCancel)
-    : onCancel_(std::move(onCancel)) {
+RecordEditor::RecordEditor(Kind kind, std::function<void()> onCancel, EventTaps& eventTaps)
+    : kind_(std::move(kind)),
+      onCancel_(std::move(onCancel)),
+      actionForm_(new ActionForm(
+          kind_.actionHeading, kind_.action ? ActionFields(*kind_.action) : ActionFields(),
+          eventTaps)),
+      scrollArea_(new QScrollArea),
+      save_(new QPushButton(localizedString("button_save"))) {
     constexpr int padding = Theme::defaultPadding;
-    setWindowTitle(texts.heading);
-    QLabel* heading = headline(texts.heading);
+    setWindowTitle(kind_.heading);
+    QLabel* heading = headline(kind_.heading);
     heading->setAlignment(Qt::AlignCenter);
-
-    actionForm_ = new ActionForm(
-        texts.actionHeading, action ? ActionFields(*action) : ActionFields(), eventTaps);
-    connect(actionForm_, &ActionForm::fieldsChanged, this, &RecordEditor::updateSaveButton);
-    auto* form = new QWidget;
-    auto* groups = new QVBoxLayout(form);
-    groups->setContentsMargins(padding, 0, padding, 0);
-    groups->setSpacing(groupSpacing);
-    groups->addWidget(firstGroup);
-    groups->addWidget(actionForm_);
-    groups->addStretch();
-    scrollArea_ = new QScrollArea;
     scrollArea_->setFrameShape(QFrame::NoFrame);
     scrollArea_->setFocusPolicy(Qt::NoFocus);
     scrollArea_->setWidgetResizable(true);
     scrollArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scrollArea_->viewport()->setAutoFillBackground(false);
+    QWidget* form = makeForm();
     scrollArea_->setWidget(form);
     form->setAutoFillBackground(false);
-    scrollArea_->setAccessibleName(texts.heading);
-    // The scroll bar takes its room from the margin: the form's lines stay where they are.
-    connect(
-        scrollArea_->verticalScrollBar(), &QScrollBar::rangeChanged, groups,
-        [this, groups](int, int maximum) {
-            const int bar = maximum > 0 ? scrollArea_->verticalScrollBar()->sizeHint().width() : 0;
-            groups->setContentsMargins(padding, 0, padding - bar, 0);
-        });
-    connect(
-        actionForm_, &ActionForm::typeChanged, this, &RecordEditor::scrollToAction,
-        Qt::QueuedConnection);
+    form->installEventFilter(this);
+    scrollArea_->setAccessibleName(kind_.heading);
 
     auto* cancel = new QPushButton(localizedString("button_cancel"));
     connect(cancel, &QPushButton::clicked, this, onCancel_);
-    save_ = new QPushButton(localizedString("button_save"));
     // Else losing the focus would make it an ordinary button.
     save_->setAutoDefault(false);
     save_->setDefault(true);
@@ -83,18 +67,44 @@ RecordEditor::RecordEditor(
     stack->addWidget(heading);
     stack->addWidget(scrollArea_, 1);
     stack->addLayout(buttons);
-}
 
-void RecordEditor::finish(QSize size, QWidget* first) {
-    const bool recordsKeys = actionForm_->fields().type == ActionType::pressKey;
-    setFocusProxy(recordsKeys ? &actionForm_->keyCapture() : first);
-    const int needed = scrollArea_->widget()->minimumSizeHint().width() +
-                       scrollArea_->verticalScrollBar()->sizeHint().width();
-    setFixedWidth(qMax(size.width(), needed));
-    leastHeight_ = size.height();
-    scrollArea_->widget()->installEventFilter(this);
+    KeyCaptureView& recorder = actionForm_->keyCapture();
+    if (kind_.recordsReturn)
+        focusNotifier_ = actionForm_->isKeyCaptureFocused()->addNotifier(
+            [this] { save_->setDefault(!*actionForm_->isKeyCaptureFocused()); });
+    else
+        recorder.view().onDefaultKey = [this] { requestSave(); };
+    setFocusProxy(
+        actionForm_->fields().type == ActionType::pressKey ? &recorder : kind_.firstControl);
+    const int needed =
+        form->minimumSizeHint().width() + scrollArea_->verticalScrollBar()->sizeHint().width();
+    setFixedWidth(qMax(kind_.size.width(), needed));
     fitHeight();
     updateSaveButton();
+}
+
+QWidget* RecordEditor::makeForm() {
+    constexpr int padding = Theme::defaultPadding;
+    auto* form = new QWidget;
+    auto* groups = new QVBoxLayout(form);
+    groups->setContentsMargins(padding, 0, padding, 0);
+    groups->setSpacing(groupSpacing);
+    groups->addWidget(kind_.group);
+    groups->addWidget(actionForm_);
+    groups->addStretch();
+    // The scroll bar takes its room from the margin: the form's lines stay where they are.
+    connect(
+        scrollArea_->verticalScrollBar(), &QScrollBar::rangeChanged, groups,
+        [this, groups](int, int maximum) {
+            const int bar = maximum > 0 ? scrollArea_->verticalScrollBar()->sizeHint().width() : 0;
+            groups->setContentsMargins(padding, 0, padding - bar, 0);
+        });
+    connect(kind_.group, &FormGroup::changed, this, &RecordEditor::updateSaveButton);
+    connect(actionForm_, &ActionForm::fieldsChanged, this, &RecordEditor::updateSaveButton);
+    connect(
+        actionForm_, &ActionForm::typeChanged, this, &RecordEditor::scrollToAction,
+        Qt::QueuedConnection);
+    return form;
 }
 
 void RecordEditor::scrollToAction() {
@@ -106,7 +116,7 @@ void RecordEditor::fitHeight() {
     const int form = scrollArea_->widget()->minimumSizeHint().height();
     const int most = screen()->availableSize().height() / 2;
     scrollArea_->setMinimumHeight(qMin(form, most));
-    setFixedHeight(qMax(leastHeight_, layout()->totalMinimumSize().height()));
+    setFixedHeight(qMax(kind_.size.height(), layout()->totalMinimumSize().height()));
 }
 
 bool RecordEditor::eventFilter(QObject* watched, QEvent* event) {
@@ -115,16 +125,20 @@ bool RecordEditor::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-bool RecordEditor::isValid() const {
-    return actionForm_->fields().isComplete();
+bool RecordEditor::isComplete() const {
+    return kind_.isComplete() && actionForm_->fields().isComplete();
+}
+
+void RecordEditor::save() {
+    kind_.save(actionForm_->fields().action());
 }
 
 void RecordEditor::updateSaveButton() {
-    save_->setEnabled(isValid());
+    save_->setEnabled(isComplete());
 }
 
 void RecordEditor::requestSave() {
-    if (!isValid() || !actionForm_->complete())
+    if (!isComplete() || !actionForm_->complete())
         return;
     if (actionForm_->fields().type != ActionType::executeShell) {
         save();

@@ -2,6 +2,7 @@
 
 #include "settings/ActionFields.h"
 
+#include <QProperty>
 #include <QWidget>
 #include <functional>
 #include <optional>
@@ -15,12 +16,28 @@ class ActionForm;
 class EventTaps;
 class FormGroup;
 
-/// What the editors share: the heading, the scrolling form that ends with the action, the buttons
-/// that cancel and save, and the question before a shell command is saved. To be shown in a sheet,
-/// which it does not close itself.
+/// The editor of a record: the heading, a scrolling form whose last group sets the action, the
+/// buttons that cancel and save, and the question before a shell command is saved. To be shown in a
+/// sheet, which it does not close itself.
 class RecordEditor : public QWidget {
     Q_OBJECT
 public:
+    /// What makes it the editor of one kind of record.
+    struct Kind {
+        QString heading;
+        FormGroup* group;                     ///< the record's own; becomes a part of the form
+        QWidget* firstControl;                ///< gets the focus where the action has no say in it
+        QString actionHeading;                ///< of the group that sets the action
+        std::optional<ShortcutAction> action; ///< the one to edit
+        QSize size;         ///< in points; wider where a language, higher where an action needs it
+        bool recordsReturn; ///< whether the key recorder takes Return, or leaves it to Save
+        std::function<bool()> isComplete; ///< whether the group holds what it needs
+        /// Hands the finished record over.
+        std::function<void(const ShortcutAction& action)> save;
+    };
+    /// `onCancel` runs when the user cancels. `eventTaps` outlives the editor.
+    RecordEditor(Kind kind, std::function<void()> onCancel, EventTaps& eventTaps);
+
     ActionForm& actionForm() { return *actionForm_; }
     QPushButton& saveButton() { return *save_; }
 
@@ -29,41 +46,26 @@ public:
     void requestSave();
 
 protected:
-    struct Texts {
-        QString heading;
-        QString actionHeading; ///< of the group that sets the action
-    };
-    /// `action` is the one to edit, if any; `onCancel` runs when the user cancels.
-    RecordEditor(
-        const Texts& texts, FormGroup* firstGroup, const std::optional<ShortcutAction>& action,
-        EventTaps& eventTaps, std::function<void()> onCancel);
-
-    /// Whether what the form holds can be saved; here, whether the action is complete.
-    virtual bool isValid() const;
-    /// Hands the finished record over.
-    virtual void save() = 0;
-
-    /// Call whenever isValid() may have changed, and once the form is complete.
-    void updateSaveButton();
-    /// Fixes the editor at `size`, wider where a language needs it, and higher where the action
-    /// does; `first` gets the focus when the action has no say in it.
-    void finish(QSize size, QWidget* first);
-
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    QWidget* makeForm();
+    bool isComplete() const;
+    void save();
+    void updateSaveButton();
     /// Brings the group that sets the action into sight.
     void scrollToAction();
     /// Takes the height at which the form need not scroll, as far as the screen allows.
     void fitHeight();
 
-    QScrollArea* scrollArea_;
-    ActionForm* actionForm_;
-    QPushButton* save_;
-    int leastHeight_ = 0;
+    const Kind kind_;
     const std::function<void()> onCancel_;
+    ActionForm* const actionForm_;
+    QScrollArea* const scrollArea_;
+    QPushButton* const save_;
+    QPropertyNotifier focusNotifier_;
 };
 
 } // namespace velmora

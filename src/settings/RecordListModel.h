@@ -22,6 +22,18 @@ struct RecordSnapshot {
     std::function<RecordRow(qsizetype position)> row;
 };
 
+/// The snapshot of `records`, each described by `describe`.
+template<typename Record>
+RecordSnapshot snapshot(const QList<Record>& records, RecordRow (*describe)(const Record&)) {
+    QList<QUuid> ids;
+    ids.reserve(records.size());
+    for (const Record& record : records)
+        ids.append(record.id());
+    return {.ids = ids, .row = [records, describe](qsizetype position) {
+                return describe(records.at(position));
+            }};
+}
+
 /// The rows of a record list, identified by the records' ids.
 class RecordListModel : public QAbstractListModel {
     Q_OBJECT

@@ -90,8 +90,11 @@ void RecordListView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void RecordListView::mouseReleaseEvent(QMouseEvent* event) {
-    if (!drag_ || event->button() != Qt::LeftButton) {
-        QListView::mouseReleaseEvent(event);
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (!drag_) {
+        if (pressed_.isValid()) // else the press was on no row, or its drag was called off
+            QListView::mouseReleaseEvent(event);
         return;
     }
     const int source = drag_->source.row();

@@ -1,7 +1,6 @@
 #include "settings/ShortcutEditorView.h"
 
 #include "foundation/LocalizedString.h"
-#include "settings/ActionForm.h"
 #include "settings/FormGroup.h"
 #include "settings/IconPickerView.h"
 #include "viewkit/SegmentedPicker.h"
@@ -18,8 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace velmora {
 namespace {
-
-constexpr QSize editorSize(500, 450);
 
 /// The symbol that the icon field names, as it is typed.
 class SymbolPreview : public QWidget {
@@ -43,85 +40,86 @@ private:
     const QLineEdit& name_;
 };
 
+/// What a button has besides its action.
+class BasicGroup : public FormGroup {
+public:
+    explicit BasicGroup(const std::optional<ShortcutButton>& shortcut)
+        : FormGroup(localizedString("group_basic")),
+          title(textField(
+              shortcut ? shortcut->title : QString(), localizedString("Safari"),
+              localizedString("label_title"))),
+          icon_(textField(
+              shortcut ? shortcut->icon : u"star"_s, localizedString("placeholder_sf_symbol"),
+              localizedString("label_icon"))),
+          alignment_(new SegmentedPicker(
+              {localizedString("shortcut_alignment_left"),
+               localizedString("shortcut_alignment_right")})) {
+        addRow(title->accessibleName(), title);
+
+        const QString iconLabel = icon_->accessibleName();
+        auto* select = new QPushButton(localizedString("button_select"));
+        select->setAutoDefault(false);
+        select->setAccessibleDescription(iconLabel);
+        const QList<QWidget*> iconControls{icon_, new SymbolPreview(*icon_), select};
+        const QString hint = icon_->placeholderText();
+        addRow(iconLabel, iconControls, icon_)->setToolTip(hint);
+        for (QWidget* control : iconControls)
+            control->setToolTip(hint);
+
+        alignment_->setCurrentIndex(
+            shortcut && shortcut->alignment == ButtonAlignment::right ? 1 : 0);
+        alignment_->setAccessibleName(localizedString("label_alignment"));
+        alignment_->setMinimumWidth(pickerWidth);
+        addRow(alignment_->accessibleName(), {alignment_}, nullptr);
+
+        connect(title, &QLineEdit::textChanged, this, &FormGroup::changed);
+        connect(icon_, &QLineEdit::textChanged, this, &FormGroup::changed);
+        connect(select, &QPushButton::clicked, this, [this] {
+            const auto pick = [this](const QString& name) { icon_->setText(name); };
+            Sheet::present(*this, std::make_unique<IconPickerView>(icon_->text(), pick));
+        });
+    }
+
+    /// Whether the button would show anything.
+    bool isComplete() const { return !title->text().isEmpty() || !icon_->text().isEmpty(); }
+
+    ShortcutButton button(const ShortcutAction& action, const QUuid& id) const {
+        return {
+            title->text(), icon_->text(), action,
+            alignment_->currentIndex() == 1 ? ButtonAlignment::right : ButtonAlignment::left, id};
+    }
+
+    QLineEdit* const title;
+
+private:
+    QLineEdit* const icon_;
+    SegmentedPicker* const alignment_;
+};
+
+RecordEditor::Kind makeKind(
+    const std::optional<ShortcutButton>& shortcut,
+    std::function<void(const ShortcutButton&)> onSave) {
+    auto* group = new BasicGroup(shortcut);
+    return {
+        .heading = localizedString(shortcut ? "shortcut_edit_title" : "shortcut_add_title"),
+        .group = group,
+        .firstControl = group->title,
+        .actionHeading = localizedString("group_action"),
+        .action = shortcut ? std::optional(shortcut->action) : std::nullopt,
+        .size = {500, 450},
+        .recordsReturn = true,
+        .isComplete = [group] { return group->isComplete(); },
+        .save = [group, onSave = std::move(onSave),
+                 id = shortcut ? shortcut->id() : QUuid::createUuid()](
+                    const ShortcutAction& action) { onSave(group->button(action, id)); }};
+}
+
 } // namespace
 
-ShortcutEditorView::BasicGroup
-ShortcutEditorView::makeBasicGroup(const std::optional<ShortcutButton>& shortcut) {
-    BasicGroup basic{};
-    basic.group = new FormGroup(localizedString("group_basic"));
-
-    const QString titleLabel = localizedString("label_title");
-    basic.title =
-        textField(shortcut ? shortcut->title : QString(), localizedString("Safari"), titleLabel);
-    basic.group->addRow(titleLabel, basic.title);
-
-    const QString iconLabel = localizedString("label_icon");
-    const QString iconHint = localizedString("placeholder_sf_symbol");
-    basic.icon = textField(shortcut ? shortcut->icon : u"star"_s, iconHint, iconLabel);
-    basic.iconPreview = new SymbolPreview(*basic.icon);
-    basic.select = new QPushButton(localizedString("button_select"));
-    basic.select->setAutoDefault(false);
-    basic.select->setAccessibleDescription(iconLabel);
-    const QList<QWidget*> iconControls{basic.icon, basic.iconPreview, basic.select};
-    basic.group->addRow(iconLabel, iconControls, basic.icon)->setToolTip(iconHint);
-    for (QWidget* control : iconControls)
-        control->setToolTip(iconHint);
-
-    const QString alignmentLabel = localizedString("label_alignment");
-    basic.alignment = new SegmentedPicker(
-        {localizedString("shortcut_alignment_left"), localizedString("shortcut_alignment_right")});
-    basic.alignment->setCurrentIndex(
-        shortcut && shortcut->alignment == ButtonAlignment::right ? 1 : 0);
-    basic.alignment->setAccessibleName(alignmentLabel);
-    basic.alignment->setMinimumWidth(FormGroup::pickerWidth);
-    basic.group->addRow(alignmentLabel, {basic.alignment}, nullptr);
-    return basic;
-}
-
 ShortcutEditorView::ShortcutEditorView(
-    std::optional<ShortcutButton> shortcut, std::function<void(const ShortcutButton&)> onSave,
-    std::function<void()> onCancel, EventTaps& eventTaps)
-    : ShortcutEditorView(
-          makeBasicGroup(shortcut), shortcut, std::move(onSave), std::move(onCancel), eventTaps) {}
-
-ShortcutEditorView::ShortcutEditorView(
-    BasicGroup basic, std::optional<ShortcutButton> shortcut,
+    const std::optional<ShortcutButton>& shortcut,
     std::function<void(const ShortcutButton&)> onSave, std::function<void()> onCancel,
     EventTaps& eventTaps)
-    : RecordEditor(
-          {.heading = localizedString(shortcut ? "shortcut_edit_title" : "shortcut_add_title"),
-           .actionHeading = localizedString("group_action")},
-          basic.group, shortcut ? std::optional(shortcut->action) : std::nullopt, eventTaps,
-          std::move(onCancel)),
-      basic_(basic),
-      shortcut_(std::move(shortcut)),
-      onSave_(std::move(onSave)) {
-    connect(basic_.title, &QLineEdit::textChanged, this, &ShortcutEditorView::updateSaveButton);
-    connect(basic_.icon, &QLineEdit::textChanged, this, &ShortcutEditorView::updateSaveButton);
-    connect(basic_.select, &QPushButton::clicked, this, &ShortcutEditorView::showIconPicker);
-    // While a combination is recorded, Return is a key like any other.
-    focusNotifier_ = actionForm().isKeyCaptureFocused()->addNotifier(
-        [this] { saveButton().setDefault(!*actionForm().isKeyCaptureFocused()); });
-    finish(editorSize, basic_.title);
-}
-
-bool ShortcutEditorView::isValid() const {
-    const bool isVisible = !basic_.title->text().isEmpty() || !basic_.icon->text().isEmpty();
-    return isVisible && RecordEditor::isValid();
-}
-
-void ShortcutEditorView::save() {
-    onSave_(ShortcutButton(
-        basic_.title->text(), basic_.icon->text(), actionForm().fields().action(),
-        basic_.alignment->currentIndex() == 1 ? ButtonAlignment::right : ButtonAlignment::left,
-        shortcut_ ? shortcut_->id() : QUuid::createUuid()));
-}
-
-void ShortcutEditorView::showIconPicker() {
-    Sheet::present(
-        *this, std::make_unique<IconPickerView>(basic_.icon->text(), [this](const QString& name) {
-            basic_.icon->setText(name);
-        }));
-}
+    : RecordEditor(makeKind(shortcut, std::move(onSave)), std::move(onCancel), eventTaps) {}
 
 } // namespace velmora

@@ -24,19 +24,12 @@ QString alignmentName(ButtonAlignment alignment) {
                                            : "shortcut_alignment_right");
 }
 
-RecordSnapshot snapshot(const QList<ShortcutButton>& shortcuts) {
-    QList<QUuid> ids;
-    ids.reserve(shortcuts.size());
-    for (const ShortcutButton& shortcut : shortcuts)
-        ids.append(shortcut.id());
-    return {.ids = ids, .row = [shortcuts](qsizetype position) {
-                const ShortcutButton& shortcut = shortcuts.at(position);
-                return RecordRow{
-                    .symbol = shortcut.icon,
-                    .title = shortcut.title,
-                    .detail = displayName(shortcut.action),
-                    .badge = alignmentName(shortcut.alignment)};
-            }};
+RecordRow describe(const ShortcutButton& shortcut) {
+    return {
+        .symbol = shortcut.icon,
+        .title = shortcut.title,
+        .detail = displayName(shortcut.action),
+        .badge = alignmentName(shortcut.alignment)};
 }
 
 } // namespace
@@ -48,7 +41,7 @@ VelmoraSettingsView::VelmoraSettingsView(
     ShortcutManager& store = shortcutManager;
     auto* pane = new RecordListPane(
         localizedString("shortcuts_title"),
-        {.snapshot = [&store] { return snapshot(store.shortcuts()); },
+        {.snapshot = [&store] { return snapshot(store.shortcuts(), describe); },
          .remove = [&store](qsizetype index) { store.removeShortcut(index); },
          .move = [&store](qsizetype from, qsizetype to) { store.moveShortcut(from, to); },
          .makeEditor = [&store, &eventTaps](qsizetype index, std::function<void()> close)

@@ -1,5 +1,7 @@
 #include "settings/WindowFrame.h"
 
+#include "viewkit/WindowPlace.h"
+
 #include <algorithm>
 
 namespace velmora {
@@ -43,10 +45,7 @@ QRect WindowFrame::homeArea(const QList<QRect>& areas) const {
 WindowFrame WindowFrame::fitted(const QRect& area, QSize minimum) const {
     WindowFrame result = *this;
     result.content = content.boundedTo(area.size() - decoration).expandedTo(minimum);
-    const QSize room = area.size() - result.content - decoration;
-    const QPoint last = area.topLeft() + QPoint(room.width(), room.height());
-    result.place.setX(qMax(area.left(), qMin(place.x(), last.x())));
-    result.place.setY(qMax(area.top(), qMin(place.y(), last.y())));
+    result.place = placeInside(area, result.outer());
     return result;
 }
 

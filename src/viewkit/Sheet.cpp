@@ -1,5 +1,6 @@
 #include "viewkit/Sheet.h"
 
+#include "viewkit/WindowPlace.h"
 #include "viewkit/WindowTheme.h"
 
 #include <QGuiApplication>
@@ -55,10 +56,7 @@ void Sheet::resizeEvent(QResizeEvent* event) {
     if (!screen)
         screen = parentWidget()->screen();
     const QRect room = screen->availableGeometry().adjusted(0, 0, 0, -titleBarHeight);
-    // On a screen that is too small the top left corner stays in sight.
-    move(
-        qMax(room.left(), qMin(x(), room.right() + 1 - width())),
-        qMax(room.top(), qMin(y(), room.bottom() + 1 - height())));
+    move(placeInside(room, QRect(pos(), size())));
 }
 
 void Sheet::dismiss(QWidget& content) {
