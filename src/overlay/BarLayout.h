@@ -8,7 +8,6 @@ namespace velmora {
 
 /// One way to arrange the buttons in the bar.
 class BarLayout : public QWidget {
-    Q_OBJECT
 public:
     BarLayout(ExecuteAction action, QWidget* parent)
         : QWidget(parent), execute(std::move(action)) {}
@@ -21,8 +20,11 @@ public:
 
 protected:
     /// Those of `shortcuts` that belong to `side`, in their order.
-    static QList<ShortcutButton>
-    group(const QList<ShortcutButton>& shortcuts, ButtonAlignment side);
+    static QList<ShortcutButton> group(QList<ShortcutButton> shortcuts, ButtonAlignment side) {
+        shortcuts.removeIf(
+            [side](const ShortcutButton& button) { return button.alignment != side; });
+        return shortcuts;
+    }
 
     const ExecuteAction execute;
 };

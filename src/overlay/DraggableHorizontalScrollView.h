@@ -1,37 +1,27 @@
 #pragma once
 
+#include "overlay/ButtonRow.h"
 #include "overlay/DraggableNSScrollView.h"
-
-#include <functional>
 
 namespace velmora {
 
-/// A draggable strip around a content value, which the widget class `HostingView` shows: it has the
-/// value's type as `RootView` and takes a new one by setRootView(). Bridges the value to widgets.
-template<typename HostingView>
-class DraggableHorizontalScrollView {
-public:
-    using Content = typename HostingView::RootView;
-
-    /// Builds the content once, at once.
-    explicit DraggableHorizontalScrollView(const std::function<Content()>& build)
-        : content(build()) {}
-
-    const Content content;
+/// What a draggable strip shows, and the way from that to widgets.
+struct DraggableHorizontalScrollView {
+    ButtonRow::RootView content;
 
     /// A new strip that shows the content at its natural size.
     DraggableNSScrollView* makeNSView(QWidget* parent) const {
         auto* view = new DraggableNSScrollView(parent);
-        auto* host = new HostingView;
-        host->setRootView(content);
-        view->setDocumentView(host);
+        auto* row = new ButtonRow;
+        row->setRootView(content);
+        view->setDocumentView(row);
         return view;
     }
 
     /// Shows the content in a strip made before; nothing if that shows something else.
     void updateNSView(DraggableNSScrollView& view) const {
-        if (auto* host = qobject_cast<HostingView*>(view.documentView()))
-            host->setRootView(content);
+        if (auto* row = qobject_cast<ButtonRow*>(view.documentView()))
+            row->setRootView(content);
     }
 };
 

@@ -5,35 +5,23 @@
 namespace velmora {
 namespace {
 
-using Strip = DraggableHorizontalScrollView<ButtonRow>;
-
-ButtonRow::RootView row(const ExecuteAction& execute, QList<ShortcutButton> shortcuts = {}) {
-    return {false, std::move(shortcuts), execute, DraggableNSScrollView::dragThreshold};
-}
-
-ButtonRow::RootView
-rowWithMenuButton(const ExecuteAction& execute, QList<ShortcutButton> shortcuts = {}) {
-    ButtonRow::RootView content = row(execute, std::move(shortcuts));
-    content.hasMenuButton = true;
-    return content;
+DraggableHorizontalScrollView
+strip(bool hasMenuButton, const ExecuteAction& execute, QList<ShortcutButton> shortcuts = {}) {
+    return {{hasMenuButton, std::move(shortcuts), execute, DraggableNSScrollView::dragThreshold}};
 }
 
 } // namespace
 
 NotchAwareLayout::NotchAwareLayout(ExecuteAction action, QWidget* parent)
     : BarLayout(std::move(action), parent),
-      left_(Strip([this] { return rowWithMenuButton(execute); }).makeNSView(this)),
-      right_(Strip([this] { return row(execute); }).makeNSView(this)) {
+      left_(strip(true, execute).makeNSView(this)),
+      right_(strip(false, execute).makeNSView(this)) {
     right_->setAlignment(DraggableNSScrollView::Alignment::trailing);
 }
 
 void NotchAwareLayout::setShortcuts(const QList<ShortcutButton>& shortcuts) {
-    Strip([&] {
-        return rowWithMenuButton(execute, group(shortcuts, ButtonAlignment::left));
-    }).updateNSView(*left_);
-    Strip([&] {
-        return row(execute, group(shortcuts, ButtonAlignment::right));
-    }).updateNSView(*right_);
+    strip(true, execute, group(shortcuts, ButtonAlignment::left)).updateNSView(*left_);
+    strip(false, execute, group(shortcuts, ButtonAlignment::right)).updateNSView(*right_);
 }
 
 void NotchAwareLayout::resizeEvent(QResizeEvent*) {

@@ -21,7 +21,6 @@ struct NotchSafeZones {
 class ScreenManager {
 public:
     explicit ScreenManager(const Screens& screens) : screens_(screens) {}
-    virtual ~ScreenManager() = default;
     ScreenManager(const ScreenManager&) = delete;
     ScreenManager& operator=(const ScreenManager&) = delete;
 
@@ -29,26 +28,26 @@ public:
     static ScreenManager& shared();
 
     /// Absent when the session reports no screen.
-    virtual std::optional<Screen> getPrimaryScreen() const;
+    std::optional<Screen> getPrimaryScreen() const;
 
     /// All zero without a screen.
-    virtual QMarginsF getSafeInsets() const;
+    QMarginsF getSafeInsets() const;
 
     /// The top inset of a screen with a notch, else 24.
-    virtual double getMenuBarHeight() const;
+    double getMenuBarHeight() const;
 
     /// The zero rectangle without a screen.
-    virtual QRectF getScreenFrame() const;
+    QRectF getScreenFrame() const;
 
     /// Whether the top inset is greater than 0.
-    virtual bool hasNotch() const;
+    bool hasNotch() const;
 
     /// The estimated notch, relative to the screen's own lower-left corner: 30 % of the width,
     /// centred. The zero rectangle without a screen or a notch.
-    virtual QRectF getNotchBounds() const;
+    QRectF getNotchBounds() const;
 
     /// Without a notch the whole width is on the left.
-    virtual NotchSafeZones getNotchSafeZones() const;
+    NotchSafeZones getNotchSafeZones() const;
 
 private:
     const Screens& screens_;

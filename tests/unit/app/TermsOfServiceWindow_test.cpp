@@ -27,55 +27,35 @@ public:
     }
 };
 
-/// The window while it asks.
-struct TermsOfServiceWindowTest : testing::Test {
-    TermsOfServiceWindowTest() {
-        terms.show([this] { ++agreed; });
-    }
-
-    QPushButton* answer(bool agrees) const {
-        const auto buttons = activation.shown->findChildren<QPushButton*>();
-        return *std::ranges::find(buttons, agrees, &QPushButton::isDefault);
-    }
-
+TEST(TermsOfServiceWindow, TakesOneAnswerAndSaysWhereItCannotBeStored) {
     const test::KeyTexts texts;
     const QTemporaryDir root;
-    UserDefaults defaults{root.path() + u"/velmora.conf"_s};
-    FakeActivation activation;
-    TermsOfServiceWindow terms{defaults, activation};
-    int agreed = 0;
-};
-
-TEST_F(TermsOfServiceWindowTest, TakesTheAnswerOnce) {
-    QPushButton* const agree = answer(true);
-    agree->click();
-    agree->click(); // the second of a double click comes before the window has gone
-    EXPECT_EQ(agreed, 1);
-}
-
-TEST_F(TermsOfServiceWindowTest, SaysThatTheAnswerCannotBeStored) {
-    EXPECT_TRUE(activation.shown->findChild<StorageNotice*>()->isHidden());
     QDir().mkpath(root.path() + u"/folder"_s);
-    UserDefaults unusable{root.path() + u"/folder"_s};
-    TermsOfServiceWindow other{unusable, activation};
-    other.show([this] { ++agreed; });
-    const auto* notice = activation.shown->findChild<StorageNotice*>();
-    EXPECT_TRUE(notice->isVisible());
-    EXPECT_EQ(notice->text(), u"tos.not_stored_format %1."_s.arg(unusable.failure()));
-    answer(true)->click();
-    EXPECT_EQ(agreed, 1);
-    EXPECT_TRUE(unusable.boolean(u"hasAgreedToToS_v1"_s)) << "until the end";
-}
+    for (const QString& name : {u"/velmora.conf"_s, u"/folder"_s}) {
+        UserDefaults defaults{root.path() + name};
+        FakeActivation activation;
+        TermsOfServiceWindow terms{defaults, activation};
+        int agreed = 0;
+        terms.show([&] { ++agreed; });
+        const auto* notice = activation.shown->findChild<StorageNotice*>();
+        EXPECT_EQ(notice->isVisible(), name == u"/folder");
+        EXPECT_EQ(notice->text(), u"tos.not_stored_format %1."_s.arg(defaults.failure()));
 
-TEST_F(TermsOfServiceWindowTest, ReturnOnTheOtherAnswerDoesNotAgree) {
-    QApplication::setActiveWindow(activation.shown);
-    int refused = 0;
-    QPushButton* const refuse = answer(false);
-    QObject::connect(refuse, &QPushButton::clicked, refuse, [&] { ++refused; });
-    refuse->setFocus();
-    QTest::keyClick(refuse, Qt::Key_Return);
-    EXPECT_EQ(refused, 1);
-    EXPECT_EQ(agreed, 0);
+        const auto buttons = activation.shown->findChildren<QPushButton*>();
+        QPushButton* agree = *std::ranges::find(buttons, true, &QPushButton::isDefault);
+        QPushButton* refuse = *std::ranges::find(buttons, false, &QPushButton::isDefault);
+        int refused = 0;
+        QObject::connect(refuse, &QPushButton::clicked, refuse, [&] { ++refused; });
+        QApplication::setActiveWindow(activation.shown);
+        refuse->setFocus();
+        QTest::keyClick(refuse, Qt::Key_Return);
+        EXPECT_EQ(refused, 1);
+        EXPECT_EQ(agreed, 0);
+        agree->click();
+        agree->click(); // the second of a double click comes before the window has gone
+        EXPECT_EQ(agreed, 1);
+        EXPECT_TRUE(defaults.boolean(u"hasAgreedToToS_v1"_s)) << "until the end";
+    }
 }
 
 } // namespace

@@ -33,9 +33,6 @@ TEST(MouseButtonBindingTest, ReadsIntegersOfAnySpellingAndNothingElse) {
     const QByteArray element =
         R"({"extra":null,"id":"01234567-89ab-cdef-0123-456789ABCDEF","buttonNumber":3,)"
         R"("action":{"openURL":{"url":"u"},"comment":1}})";
-    const auto read = [](const QByteArray& elements) {
-        return decodedList('[' + elements + ']', readMouseButtonBinding);
-    };
     const std::pair<const char*, std::variant<std::int64_t, Kind>> cases[] = {
         {"3", 3},
         {"3.0", 3},
@@ -50,22 +47,15 @@ TEST(MouseButtonBindingTest, ReadsIntegersOfAnySpellingAndNothingElse) {
         {"null", Kind::valueNotFound}};
     for (const auto& [number, outcome] : cases) {
         SCOPED_TRACE(number);
-        const auto decoded =
-            read(QByteArray(element).replace(":3,", ':' + QByteArray(number) + ','));
+        const auto decoded = decodedList(
+            '[' + QByteArray(element).replace(":3,", ':' + QByteArray(number) + ',') + ']',
+            readMouseButtonBinding);
         if (const auto* error = std::get_if<DecodingError>(&decoded)) {
             EXPECT_EQ(outcome, decltype(outcome)(error->kind));
             EXPECT_EQ(error->codingPath.join(u'/'), u"Index 0/buttonNumber"_s);
         } else {
             EXPECT_EQ(outcome, decltype(outcome)(std::get<0>(decoded).front().buttonNumber));
         }
-    }
-    // One bad element fails the list.
-    for (const QByteArray member : {"id", "buttonNumber", "action"}) {
-        const auto decoded =
-            read(element + ',' + QByteArray(element).replace(member + '"', member + "X\""));
-        const auto* error = std::get_if<DecodingError>(&decoded);
-        ASSERT_TRUE(error) << member.constData();
-        EXPECT_EQ(error->codingPath, (QStringList{u"Index 1"_s, QString::fromLatin1(member)}));
     }
 }
 

@@ -191,25 +191,23 @@ TEST_F(EditorTest, AnAddressIsCompletedInSightOrRefused) {
     QLineEdit& url = named<QLineEdit>(editor, u"label_url"_s);
     const QLabel& noteLabel = *url.parentWidget()->findChild<QLabel*>();
     EXPECT_TRUE(noteLabel.isVisible());
-    // What is typed, the address to be, and what a save leaves in sight.
-    const std::tuple<QString, QString, QString> cases[] = {
-        {u"debian"_s, {}, {}},
-        {u" x:y "_s, u"x:y"_s, u"x:y"_s},
-        {u"mailto:a@b.org"_s, {}, u"mailto:a@b.org"_s}};
-    for (const auto& [typed, told, saved] : cases) {
-        SCOPED_TRACE(typed.toStdString());
+    // What is typed, and the address to be.
+    const std::pair<QString, QString> cases[] = {
+        {u"debian"_s, {}}, {u" x:y "_s, u"x:y"_s}, {u"mailto:a@b.org"_s, {}}};
+    for (const auto& [typed, told] : cases) {
         url.setText(typed);
         const QString note = told.isEmpty() ? told : u"action_desc_open %1."_s.arg(told);
         EXPECT_EQ(url.accessibleDescription(), note);
         EXPECT_EQ(noteLabel.text(), note);
         named<QPushButton>(editor, u"button_cancel"_s).setFocus();
         editor.requestSave();
-        EXPECT_EQ(noteLabel.text() == u"url_invalid"_s, saved.isEmpty());
-        EXPECT_EQ(url.hasFocus(), saved.isEmpty());
-        EXPECT_EQ(url.text(), saved.isEmpty() ? typed : saved);
-        EXPECT_EQ(saved_.isEmpty(), saved.isEmpty());
+        const bool isRefused = typed == u"debian";
+        EXPECT_EQ(noteLabel.text() == u"url_invalid"_s, isRefused);
+        EXPECT_EQ(url.hasFocus(), isRefused);
+        EXPECT_EQ(url.text(), typed.trimmed());
+        EXPECT_EQ(saved_.size(), isRefused ? 0 : 1);
         for (const ShortcutButton& button : std::exchange(saved_, {}))
-            EXPECT_EQ(button.action, ShortcutAction(OpenUrl{saved}));
+            EXPECT_EQ(button.action, ShortcutAction(OpenUrl{url.text()})) << "in sight";
     }
     choose(editor, ActionType::launchApp);
     EXPECT_FALSE(editor.saveButton().isEnabled());
