@@ -216,7 +216,7 @@ int main(int argc, char** argv) {
     const Platform platform{
         .accessibility = session->accessibility(),
         .appearance = appearance,
-        .eventTaps = session->eventTaps(),
+        .inputGrants = session->inputGrants(),
         .keyboardEvents = session->keyboardEvents(),
         .panelWindows = session->panelWindows(),
         .screens = session->screens(),

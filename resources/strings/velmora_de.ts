@@ -87,6 +87,22 @@
         <source></source>
         <translation>Keine gewöhnliche Datei</translation>
     </message>
+    <message id="grant_held_by_other">
+        <source></source>
+        <translation>Ein anderes Programm verwendet das gerade.</translation>
+    </message>
+    <message id="grant_no_such_button">
+        <source></source>
+        <translation>Eine solche Maustaste gibt es hier nicht.</translation>
+    </message>
+    <message id="grant_no_such_key">
+        <source></source>
+        <translation>Diese Tastatur hat keine solche Taste.</translation>
+    </message>
+    <message id="grant_not_offered">
+        <source></source>
+        <translation>Diese Sitzung bietet das nicht.</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Aktion</translation>

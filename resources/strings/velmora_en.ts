@@ -87,6 +87,22 @@
         <source></source>
         <translation>Not a regular file</translation>
     </message>
+    <message id="grant_held_by_other">
+        <source></source>
+        <translation>Another program is using it just now.</translation>
+    </message>
+    <message id="grant_no_such_button">
+        <source></source>
+        <translation>No mouse has such a button here.</translation>
+    </message>
+    <message id="grant_no_such_key">
+        <source></source>
+        <translation>This keyboard has no such key.</translation>
+    </message>
+    <message id="grant_not_offered">
+        <source></source>
+        <translation>This desktop session does not offer it.</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Action</translation>

@@ -87,6 +87,22 @@
         <source></source>
         <translation>No es un archivo normal</translation>
     </message>
+    <message id="grant_held_by_other">
+        <source></source>
+        <translation>Otro programa lo está usando en este momento.</translation>
+    </message>
+    <message id="grant_no_such_button">
+        <source></source>
+        <translation>Aquí ningún ratón tiene ese botón.</translation>
+    </message>
+    <message id="grant_no_such_key">
+        <source></source>
+        <translation>Este teclado no tiene esa tecla.</translation>
+    </message>
+    <message id="grant_not_offered">
+        <source></source>
+        <translation>Esta sesión no lo ofrece.</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Acción</translation>

@@ -87,6 +87,22 @@
         <source></source>
         <translation>Ce n’est pas un fichier ordinaire</translation>
     </message>
+    <message id="grant_held_by_other">
+        <source></source>
+        <translation>Un autre programme l’utilise en ce moment.</translation>
+    </message>
+    <message id="grant_no_such_button">
+        <source></source>
+        <translation>Aucune souris n’a ce bouton ici.</translation>
+    </message>
+    <message id="grant_no_such_key">
+        <source></source>
+        <translation>Ce clavier n’a pas cette touche.</translation>
+    </message>
+    <message id="grant_not_offered">
+        <source></source>
+        <translation>Cette session ne le permet pas.</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>Action</translation>

@@ -87,6 +87,22 @@
         <source></source>
         <translation>通常のファイルではありません</translation>
     </message>
+    <message id="grant_held_by_other">
+        <source></source>
+        <translation>ほかのプログラムが現在使用しています。</translation>
+    </message>
+    <message id="grant_no_such_button">
+        <source></source>
+        <translation>このようなマウスボタンはありません。</translation>
+    </message>
+    <message id="grant_no_such_key">
+        <source></source>
+        <translation>このキーボードにはそのキーがありません。</translation>
+    </message>
+    <message id="grant_not_offered">
+        <source></source>
+        <translation>このセッションでは利用できません。</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>動作</translation>

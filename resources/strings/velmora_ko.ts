@@ -87,6 +87,22 @@
         <source></source>
         <translation>일반 파일이 아닙니다</translation>
     </message>
+    <message id="grant_held_by_other">
+        <source></source>
+        <translation>지금 다른 프로그램에서 사용 중입니다.</translation>
+    </message>
+    <message id="grant_no_such_button">
+        <source></source>
+        <translation>이러한 마우스 버튼은 없습니다.</translation>
+    </message>
+    <message id="grant_no_such_key">
+        <source></source>
+        <translation>이 키보드에는 해당 키가 없습니다.</translation>
+    </message>
+    <message id="grant_not_offered">
+        <source></source>
+        <translation>이 세션에서는 사용할 수 없습니다.</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>동작</translation>

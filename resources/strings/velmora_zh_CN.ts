@@ -87,6 +87,22 @@
         <source></source>
         <translation>不是普通文件</translation>
     </message>
+    <message id="grant_held_by_other">
+        <source></source>
+        <translation>另一个程序正在使用它。</translation>
+    </message>
+    <message id="grant_no_such_button">
+        <source></source>
+        <translation>这里的鼠标没有这个按键。</translation>
+    </message>
+    <message id="grant_no_such_key">
+        <source></source>
+        <translation>这个键盘没有这个键。</translation>
+    </message>
+    <message id="grant_not_offered">
+        <source></source>
+        <translation>此会话不提供该功能。</translation>
+    </message>
     <message id="group_action">
         <source></source>
         <translation>操作</translation>

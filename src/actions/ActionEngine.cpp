@@ -146,9 +146,9 @@ void ActionEngine::pressKeyCombo(const QStringList& modifiers, const QString& ke
         // Whatever happens from here on, the key does not stay down.
         const auto release = qScopeGuard([&] {
             Log::write(u"📤 Posting key up event..."_s);
-            keyboardEvents_.post(EventTapLocation::sessionEventTap, *keyUp);
+            keyboardEvents_.post(*keyUp);
         });
-        keyboardEvents_.post(EventTapLocation::sessionEventTap, *keyDown);
+        keyboardEvents_.post(*keyDown);
         wait_(keyHold);
     }
     Log::write(u"✅ Key combo sent successfully"_s);

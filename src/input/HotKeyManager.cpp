@@ -10,13 +10,13 @@ namespace velmora {
 
 HotKeyManager& HotKeyManager::shared() {
     static auto* instance =
-        new HotKeyManager(Platform::current().eventTaps, Platform::current().accessibility);
+        new HotKeyManager(Platform::current().inputGrants, Platform::current().accessibility);
     return *instance;
 }
 
 HotKeyManager::HotKeyManager(
-    EventTaps& eventTaps, Accessibility& accessibility, std::chrono::milliseconds retryPeriod)
-    : eventTaps_(eventTaps),
+    InputGrants& inputGrants, Accessibility& accessibility, std::chrono::milliseconds retryPeriod)
+    : inputGrants_(inputGrants),
       accessibility_(accessibility),
       trustPoll_(accessibility, retryPeriod) {}
 
@@ -25,49 +25,27 @@ void HotKeyManager::setupHotKeys() {
         trustPoll_.start([this] { setupHotKeys(); });
         return;
     }
-    // An earlier tap goes first: two for the same chord would contend for it.
+    // An earlier grant goes first: two for the same chord would contend for it.
     cleanup();
-    eventTap_ = eventTaps_.create(
-        EventTapLocation::sessionEventTap, EventTapPlacement::headInsert,
-        EventTapOptions::defaultTap, eventMaskBit(EventType::keyDown),
-        TapInterest::Chord{.keyCode = keyCodeM, .requiredFlags = kCGEventFlagMaskAlternate},
-        [this](EventType type, const TapEvent& event) { return handleEvent(type, event); });
-    if (eventTap_)
-        eventTap_->setEnabled(true);
+    // Repeats are not filtered.
+    hotKey_ = inputGrants_.hotKey(optionM, [this](const KeyInput&) { handleEvent(); });
 }
 
 void HotKeyManager::cleanup() {
-    eventTap_.reset();
-}
-
-std::optional<TapEvent> HotKeyManager::handleEvent(EventType type, const TapEvent& event) {
-    if (isTapDisabled(type)) {
-        if (eventTap_)
-            eventTap_->setEnabled(true);
-        return event;
-    }
-    if (type != EventType::keyDown || !matches(event.keyCode, event.flags))
-        return event;
-    // Repeats are not filtered.
-    submitToggle();
-    return std::nullopt;
+    hotKey_.reset();
 }
 
 bool HotKeyManager::performKeyEquivalent(const QKeyEvent& event) {
-    const EventFlags flags =
-        event.modifiers().testFlag(Qt::AltModifier) ? kCGEventFlagMaskAlternate : 0;
-    if (!eventTap_ || !matches(eventTaps_.keyCode(event.nativeScanCode()), flags))
+    const bool isHotKey = event.modifiers().testFlag(Qt::AltModifier) &&
+                          inputGrants_.keyCode(event.nativeScanCode()) == keyCodeM;
+    if (!hotKey_ || !isHotKey)
         return false;
-    submitToggle();
+    handleEvent();
     return true;
 }
 
-bool HotKeyManager::matches(KeyCode keyCode, EventFlags flags) {
-    return keyCode == keyCodeM && (flags & kCGEventFlagMaskAlternate);
-}
-
-void HotKeyManager::submitToggle() {
-    // Not from within the tap: a slow handler would be switched off.
+void HotKeyManager::handleEvent() {
+    // Not at once: the session waits for its handlers.
     MainQueue::submit([self = QPointer(this)] {
         if (self && self->overlayController)
             self->overlayController->toggleOverlay();

@@ -2,12 +2,11 @@
 
 #include "input/TrustPoll.h"
 #include "overlay/OverlayController.h"
-#include "platform/EventTap.h"
+#include "platform/InputGrants.h"
 
 #include <QObject>
 #include <QPointer>
 #include <memory>
-#include <optional>
 
 class QKeyEvent;
 
@@ -25,32 +24,31 @@ public:
     /// The services outlive the manager. `retryPeriod` is the time between two looks for the
     /// permission while it is missing.
     HotKeyManager(
-        EventTaps& eventTaps, Accessibility& accessibility,
+        InputGrants& inputGrants, Accessibility& accessibility,
         std::chrono::milliseconds retryPeriod = TrustPoll::defaultPeriod);
 
     /// What the hot key toggles; not kept alive by this.
     QPointer<OverlayController> overlayController;
 
-    /// Starts watching, as soon as the process is trusted. When the session then allows no tap, the
-    /// hot key stays inactive.
+    /// Starts watching, as soon as the process is trusted. While the session does not grant the hot
+    /// key, it stays inactive.
     void setupHotKeys();
     /// Ends watching.
     void cleanup();
 
     /// Toggles when `event` is the hot key, and says whether it was. For a menu of ours, which
-    /// holds the keyboard while it is open, so that no tap gets the key.
+    /// holds the keyboard while it is open, so that no grant gets the key.
     bool performKeyEquivalent(const QKeyEvent& event);
 
 private:
     static constexpr KeyCode keyCodeM = 46; ///< the position of M on the ANSI keyboard
+    static constexpr Chord optionM{keyCodeM, kCGEventFlagMaskAlternate};
 
-    static bool matches(KeyCode keyCode, EventFlags flags);
-    void submitToggle();
-    std::optional<TapEvent> handleEvent(EventType type, const TapEvent& event);
+    void handleEvent();
 
-    EventTaps& eventTaps_;
+    InputGrants& inputGrants_;
     Accessibility& accessibility_;
-    std::unique_ptr<EventTap> eventTap_;
+    std::unique_ptr<InputGrant> hotKey_;
     TrustPoll trustPoll_;
 };
 

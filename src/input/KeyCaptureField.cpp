@@ -8,12 +8,12 @@ namespace velmora {
 
 KeyCaptureField::KeyCaptureField(
     Binding<QStringList> modifiers, Binding<QString> key, Binding<bool> isFocused,
-    EventTaps& eventTaps, QWidget* parent)
+    InputGrants& inputGrants, QWidget* parent)
     : QWidget(parent),
       modifiers_(modifiers),
       key_(key),
       isFocused_(isFocused),
-      view_(new KeyCaptureNSView(eventTaps)) {
+      view_(new KeyCaptureNSView(inputGrants)) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view_);

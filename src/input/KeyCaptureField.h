@@ -7,7 +7,7 @@
 
 namespace velmora {
 
-class EventTaps;
+class InputGrants;
 class KeyCaptureNSView;
 
 /// Ties a KeyCaptureNSView to two bound values and a focus flag that its owner keeps. The view
@@ -15,10 +15,10 @@ class KeyCaptureNSView;
 class KeyCaptureField : public QWidget {
     Q_OBJECT
 public:
-    /// `eventTaps` outlives the field.
+    /// `inputGrants` outlives the field.
     KeyCaptureField(
         Binding<QStringList> modifiers, Binding<QString> key, Binding<bool> isFocused,
-        EventTaps& eventTaps, QWidget* parent = nullptr);
+        InputGrants& inputGrants, QWidget* parent = nullptr);
 
     KeyCaptureNSView& view() { return *view_; }
 

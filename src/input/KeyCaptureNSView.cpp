@@ -28,19 +28,19 @@ constexpr KeyCode keyCodeTab = 48;
 constexpr EventFlags modifierMask = kCGEventFlagMaskCommand | kCGEventFlagMaskAlternate |
                                     kCGEventFlagMaskControl | kCGEventFlagMaskShift;
 
-bool isDefaultKey(const TapEvent& event) {
+bool isDefaultKey(const KeyInput& event) {
     return event.keyCode == keyCodeReturn && !(event.flags & modifierMask);
 }
 
 /// Tab as it moves through a form, forwards or with Shift backwards.
-bool isTab(const TapEvent& event) {
+bool isTab(const KeyInput& event) {
     return event.keyCode == keyCodeTab && !(event.flags & modifierMask & ~kCGEventFlagMaskShift);
 }
 
 } // namespace
 
-KeyCaptureNSView::KeyCaptureNSView(EventTaps& eventTaps, QWidget* parent)
-    : QWidget(parent), eventTaps_(eventTaps) {
+KeyCaptureNSView::KeyCaptureNSView(InputGrants& inputGrants, QWidget* parent)
+    : QWidget(parent), inputGrants_(inputGrants) {
     setFocusPolicy(Qt::StrongFocus);
     KeyCaptureAccessible::install();
     setAccessibleName(localizedString("label_key_combo"));
@@ -70,7 +70,7 @@ QString KeyCaptureNSView::spokenText() const {
     return words.join(u'+');
 }
 
-void KeyCaptureNSView::keyDown(const TapEvent& event) {
+void KeyCaptureNSView::keyDown(const KeyInput& event) {
     const Combination pressed{
         CapturedKey::modifierNames(event.flags),
         CapturedKey::keyName(event.keyCode, event.charactersIgnoringModifiers)};
@@ -103,7 +103,7 @@ void KeyCaptureNSView::setReplacedByTab(std::optional<Combination> replaced) {
         Q_EMIT tabWayOutChanged();
 }
 
-void KeyCaptureNSView::flagsChanged(const TapEvent& event) {
+void KeyCaptureNSView::flagsChanged(const KeyInput& event) {
     if (hasCapture_)
         return;
     const QStringList modifiers = CapturedKey::modifierNames(event.flags);
@@ -118,9 +118,9 @@ void KeyCaptureNSView::flagsChanged(const TapEvent& event) {
         onKeyCapture(modifiers, {});
 }
 
-bool KeyCaptureNSView::isAnswer(const TapEvent& event) {
+bool KeyCaptureNSView::isAnswer(const KeyInput& event) {
     sawFreshPress_ = sawFreshPress_ || event.isFresh;
-    return event.type == EventType::keyDown ? event.isFresh : sawFreshPress_;
+    return event.kind == KeyInput::Kind::keyDown ? event.isFresh : sawFreshPress_;
 }
 
 bool KeyCaptureNSView::event(QEvent* event) {
@@ -144,18 +144,18 @@ bool KeyCaptureNSView::event(QEvent* event) {
 
 void KeyCaptureNSView::handleWindowKey(QKeyEvent& event) {
     event.accept();
-    // The same press has come, or is about to come, through the tap.
-    if (tapDelivers_)
+    // The same press has come, or is about to come, through the grant.
+    if (grantDelivers_)
         return;
     const auto keyEvent = windowKeyEvent(event);
     if (!keyEvent || !isAnswer(*keyEvent))
         return;
-    if (keyEvent->type == EventType::keyDown && onDefaultKey && isDefaultKey(*keyEvent))
-        onDefaultKey();
-    else if (keyEvent->type == EventType::keyDown)
-        keyDown(*keyEvent);
-    else
+    if (keyEvent->kind == KeyInput::Kind::flagsChanged)
         flagsChanged(*keyEvent);
+    else if (onDefaultKey && isDefaultKey(*keyEvent))
+        onDefaultKey();
+    else
+        keyDown(*keyEvent);
 }
 
 void KeyCaptureNSView::focusInEvent(QFocusEvent* event) {
@@ -189,46 +189,36 @@ void KeyCaptureNSView::resignFirstResponder() {
 void KeyCaptureNSView::startMonitoring() {
     if (eventMonitor_)
         return;
-    eventMonitor_ = eventTaps_.create(
-        EventTapLocation::sessionEventTap, EventTapPlacement::headInsert,
-        EventTapOptions::defaultTap,
-        eventMaskBit(EventType::keyDown) | eventMaskBit(EventType::flagsChanged),
-        TapInterest::EveryKey{.view = this},
-        [this](EventType type, const TapEvent& event) { return handleTapEvent(type, event); });
-    if (eventMonitor_)
-        eventMonitor_->setEnabled(true);
+    eventMonitor_ =
+        inputGrants_.everyKey(*this, [this](const KeyInput& event) { handleSessionKey(event); });
+    eventMonitor_->onStateChange = [this] {
+        if (eventMonitor_->state() != InputGrant::State::granted)
+            grantDelivers_ = false;
+    };
 }
 
 void KeyCaptureNSView::stopMonitoring() {
-    tapDelivers_ = false;
+    grantDelivers_ = false;
     eventMonitor_.reset();
 }
 
-std::optional<TapEvent> KeyCaptureNSView::handleTapEvent(EventType type, const TapEvent& event) {
-    if (!hasFocus())
-        return event;
-    if (isTapDisabled(type)) {
-        tapDelivers_ = false;
-        eventMonitor_->setEnabled(true);
-        return std::nullopt;
-    }
-    tapDelivers_ = true;
+void KeyCaptureNSView::handleSessionKey(const KeyInput& event) {
+    grantDelivers_ = true;
     if (!isAnswer(event))
-        return std::nullopt;
-    // Capturing may hide the editor, and the tap goes with the focus.
-    if (type == EventType::keyDown && onDefaultKey && isDefaultKey(event)) {
-        // Not from within the tap: a slow handler would be switched off. The key may be pressed
-        // again before the first press is answered.
+        return;
+    // Capturing may hide the editor, and the grant goes with the focus.
+    if (event.kind == KeyInput::Kind::flagsChanged) {
+        flagsChanged(event);
+    } else if (onDefaultKey && isDefaultKey(event)) {
+        // Not at once: the session waits for its handlers. The key may be pressed again before the
+        // first press is answered.
         MainQueue::submit([self = QPointer(this)] {
             if (self && self->eventMonitor_)
                 self->onDefaultKey();
         });
-    } else if (type == EventType::keyDown) {
+    } else {
         keyDown(event);
-    } else if (type == EventType::flagsChanged) {
-        flagsChanged(event);
     }
-    return std::nullopt;
 }
 
 void KeyCaptureNSView::paintEvent(QPaintEvent*) {

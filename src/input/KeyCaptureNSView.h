@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/EventTap.h"
+#include "platform/InputGrants.h"
 
 #include <QStringList>
 #include <QWidget>
@@ -11,15 +11,15 @@
 namespace velmora {
 
 /// Turns the keys pressed while it has the keyboard focus into names, and draws a combination. With
-/// focus it takes every key of the session through an event tap, so that no application receives
-/// what is being recorded; where there is no tap it takes the keys of its own window. It takes
+/// focus it is granted every key of the session, so that no application receives what is being
+/// recorded; where the session does not grant that, it takes the keys of its own window. It takes
 /// nothing from keys that were down before. Tab is recorded as well; pressed once more it puts back
 /// what was there and moves the focus on, or back with Shift. Main thread only.
 class KeyCaptureNSView : public QWidget {
     Q_OBJECT
 public:
-    /// `eventTaps` outlives the view.
-    explicit KeyCaptureNSView(EventTaps& eventTaps, QWidget* parent = nullptr);
+    /// `inputGrants` outlives the view.
+    explicit KeyCaptureNSView(InputGrants& inputGrants, QWidget* parent = nullptr);
     ~KeyCaptureNSView() override;
 
     /// Told of every capture, and with an empty key of every preview of held modifiers.
@@ -34,9 +34,9 @@ public:
     void updateDisplay(const QStringList& modifiers, const QString& key);
 
     /// Captures a pressed key.
-    void keyDown(const TapEvent& event);
+    void keyDown(const KeyInput& event);
     /// Previews the modifiers held, as long as no key has been captured.
-    void flagsChanged(const TapEvent& event);
+    void flagsChanged(const KeyInput& event);
 
     const QStringList& currentModifiers() const { return shown_.modifiers; }
     const QString& currentKey() const { return shown_.key; }
@@ -70,23 +70,23 @@ private:
     void resignFirstResponder();
     void startMonitoring();
     void stopMonitoring();
-    std::optional<TapEvent> handleTapEvent(EventType type, const TapEvent& event);
+    void handleSessionKey(const KeyInput& event);
     void handleWindowKey(QKeyEvent& event);
     /// Whether `event` is the user's answer: some key went down since the focus came, and for a key
     /// this very one.
-    bool isAnswer(const TapEvent& event);
+    bool isAnswer(const KeyInput& event);
     void leaveByTab();
     void setReplacedByTab(std::optional<Combination> replaced);
     void draw(QPainter& painter) const;
 
-    EventTaps& eventTaps_;
+    InputGrants& inputGrants_;
     bool hasCapture_ = false; ///< a key, not only modifiers, since the last reset
     Combination shown_;
     std::optional<Combination> beforePreview_; ///< what the modifiers held now have replaced
     std::optional<Combination> replacedByTab_; ///< while a Tab is what was recorded last
-    std::unique_ptr<EventTap> eventMonitor_;
+    std::unique_ptr<InputGrant> eventMonitor_;
     bool sawFreshPress_ = false; ///< since the focus came
-    bool tapDelivers_ = false;   ///< keys come through the tap
+    bool grantDelivers_ = false; ///< keys come through the grant
 };
 
 } // namespace velmora

@@ -89,12 +89,12 @@ public:
 
 KeyCaptureView::KeyCaptureView(
     Binding<QStringList> modifiers, Binding<QString> key, Binding<bool> isFocused,
-    EventTaps& eventTaps, QWidget* parent)
+    InputGrants& inputGrants, QWidget* parent)
     : QWidget(parent),
       modifiers_(modifiers),
       key_(key),
       isFocused_(isFocused),
-      field_(new KeyCaptureField(modifiers_, key_, isFocused_, eventTaps)),
+      field_(new KeyCaptureField(modifiers_, key_, isFocused_, inputGrants)),
       hint_(new Hint),
       clearButton_(new ClearButton),
       outline_(new Outline(isFocused_, this)) {

@@ -9,7 +9,7 @@ class QLabel;
 
 namespace velmora {
 
-class EventTaps;
+class InputGrants;
 class KeyCaptureField;
 class KeyCaptureNSView;
 class PlainButton;
@@ -20,10 +20,10 @@ class PlainButton;
 class KeyCaptureView : public QWidget {
     Q_OBJECT
 public:
-    /// `eventTaps` outlives the control. It writes all three.
+    /// `inputGrants` outlives the control. It writes all three.
     KeyCaptureView(
         Binding<QStringList> modifiers, Binding<QString> key, Binding<bool> isFocused,
-        EventTaps& eventTaps, QWidget* parent = nullptr);
+        InputGrants& inputGrants, QWidget* parent = nullptr);
 
     KeyCaptureNSView& view();
 

@@ -7,6 +7,7 @@
 #include "platform/Platform.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -15,57 +16,46 @@ namespace velmora {
 
 MouseButtonManager& MouseButtonManager::shared() {
     static auto* instance = new MouseButtonManager(
-        UserDefaults::standard(), Platform::current().eventTaps, Platform::current().accessibility,
+        UserDefaults::standard(), Platform::current().inputGrants,
+        Platform::current().accessibility,
         [](const ShortcutAction& action) { ActionEngine::shared().execute(action); });
     return *instance;
 }
 
 MouseButtonManager::MouseButtonManager(
-    UserDefaults& defaults, EventTaps& eventTaps, Accessibility& accessibility, Execute execute,
+    UserDefaults& defaults, InputGrants& inputGrants, Accessibility& accessibility, Execute execute,
     std::chrono::milliseconds retryPeriod)
     : bindings_(
           defaults, u"SavedMouseBindings"_s, readMouseButtonBinding,
           [this] { Q_EMIT bindingsWillChange(); }),
-      eventTaps_(eventTaps),
+      inputGrants_(inputGrants),
       accessibility_(accessibility),
       execute_(std::move(execute)),
       trustPoll_(accessibility, retryPeriod) {}
 
 void MouseButtonManager::startMonitoring() {
-    if (eventTap_)
+    if (isMonitoring_)
         return;
     if (!accessibility_.isProcessTrustedWithPrompt()) {
         trustPoll_.start([this] { startMonitoring(); });
         return;
     }
-    eventTap_ = eventTaps_.create(
-        EventTapLocation::sessionEventTap, EventTapPlacement::headInsert,
-        EventTapOptions::defaultTap, eventMaskBit(EventType::otherMouseDown), boundButtons(),
-        [this](EventType type, const TapEvent& event) { return handleMouseEvent(type, event); });
-    if (eventTap_)
-        eventTap_->setEnabled(true);
+    isMonitoring_ = true;
+    watchBoundButtons();
 }
 
 void MouseButtonManager::stopMonitoring() {
-    eventTap_.reset();
+    isMonitoring_ = false;
+    grants_.clear();
 }
 
-std::optional<TapEvent>
-MouseButtonManager::handleMouseEvent(EventType type, const TapEvent& event) {
-    if (isTapDisabled(type)) {
-        if (eventTap_)
-            eventTap_->setEnabled(true);
-        return event;
-    }
-    if (type != EventType::otherMouseDown)
-        return event;
+void MouseButtonManager::handleMouseEvent(std::int64_t buttonNumber) {
     const auto binding =
-        std::ranges::find(bindings(), event.buttonNumber, &MouseButtonBinding::buttonNumber);
+        std::ranges::find(bindings(), buttonNumber, &MouseButtonBinding::buttonNumber);
     if (binding == bindings().cend())
-        return event;
+        return;
     // A copy: the binding may be edited or removed before its turn comes.
     MainQueue::submit([execute = execute_, action = binding->action] { execute(action); });
-    return std::nullopt;
 }
 
 void MouseButtonManager::addBinding(const MouseButtonBinding& binding) {
@@ -89,18 +79,21 @@ void MouseButtonManager::updateBinding(qsizetype index, const MouseButtonBinding
 }
 
 void MouseButtonManager::watchBoundButtons() {
-    if (eventTap_)
-        eventTap_->setInterest(boundButtons());
-}
-
-TapInterest::MouseButtons MouseButtonManager::boundButtons() const {
-    TapInterest::MouseButtons wanted;
+    if (!isMonitoring_)
+        return;
+    std::set<std::int64_t> bound;
     for (const MouseButtonBinding& binding : bindings()) {
         const bool isExtraButton = binding.buttonNumber >= 2;
-        if (isExtraButton && !wanted.buttonNumbers.contains(binding.buttonNumber))
-            wanted.buttonNumbers.append(binding.buttonNumber);
+        if (isExtraButton)
+            bound.insert(binding.buttonNumber);
     }
-    return wanted;
+    // A button that stays bound keeps its grant: none of its presses is lost.
+    std::erase_if(grants_, [&](const auto& grant) { return !bound.contains(grant.first); });
+    for (const std::int64_t number : bound) {
+        if (!grants_.contains(number))
+            grants_[number] =
+                inputGrants_.mouseButton(number, [this, number] { handleMouseEvent(number); });
+    }
 }
 
 } // namespace velmora

@@ -3,12 +3,12 @@
 #include "input/TrustPoll.h"
 #include "model/MouseButtonBinding.h"
 #include "model/StoredList.h"
-#include "platform/EventTap.h"
+#include "platform/InputGrants.h"
 
 #include <QObject>
 #include <functional>
+#include <map>
 #include <memory>
-#include <optional>
 
 namespace velmora {
 
@@ -28,14 +28,14 @@ public:
     /// of a pressed button; `retryPeriod` is the time between two looks for the permission to watch
     /// while it is missing.
     MouseButtonManager(
-        UserDefaults& defaults, EventTaps& eventTaps, Accessibility& accessibility, Execute execute,
-        std::chrono::milliseconds retryPeriod = TrustPoll::defaultPeriod);
+        UserDefaults& defaults, InputGrants& inputGrants, Accessibility& accessibility,
+        Execute execute, std::chrono::milliseconds retryPeriod = TrustPoll::defaultPeriod);
 
     /// In display order; of several for one button the first is carried out.
     const QList<MouseButtonBinding>& bindings() const { return bindings_.records(); }
 
-    /// Starts watching, as soon as the process is trusted. When the session then allows no tap, the
-    /// bindings never fire. Nothing happens while watching.
+    /// Starts watching, as soon as the process is trusted. A binding whose button the session does
+    /// not grant does not fire meanwhile. Nothing happens while watching.
     void startMonitoring();
     /// Ends watching.
     void stopMonitoring();
@@ -53,16 +53,16 @@ Q_SIGNALS:
     void bindingsWillChange();
 
 private:
-    std::optional<TapEvent> handleMouseEvent(EventType type, const TapEvent& event);
-    /// Asks for presses of the buttons that are bound now.
+    void handleMouseEvent(std::int64_t buttonNumber);
+    /// Asks for the buttons that are bound now, and gives back those that no longer are.
     void watchBoundButtons();
-    TapInterest::MouseButtons boundButtons() const;
 
     StoredList<MouseButtonBinding> bindings_;
-    EventTaps& eventTaps_;
+    InputGrants& inputGrants_;
     Accessibility& accessibility_;
     const Execute execute_;
-    std::unique_ptr<EventTap> eventTap_;
+    bool isMonitoring_ = false;
+    std::map<std::int64_t, std::unique_ptr<InputGrant>> grants_; ///< by button number
     TrustPoll trustPoll_;
 };
 

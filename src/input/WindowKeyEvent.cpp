@@ -108,8 +108,8 @@ QString characters(int key) {
 
 } // namespace
 
-std::optional<TapEvent> windowKeyEvent(const QKeyEvent& event) {
-    TapEvent result;
+std::optional<KeyInput> windowKeyEvent(const QKeyEvent& event) {
+    KeyInput result;
     for (const auto& [modifier, flag] : modifierFlags) {
         if (event.modifiers() & modifier)
             result.flags |= flag;
@@ -123,14 +123,14 @@ std::optional<TapEvent> windowKeyEvent(const QKeyEvent& event) {
     }
     const bool isPress = event.type() == QEvent::KeyPress;
     if (const auto ownFlag = flagOfModifierKey(event)) {
-        result.type = EventType::flagsChanged;
+        result.kind = KeyInput::Kind::flagsChanged;
         result.flags = isPress ? result.flags | *ownFlag : result.flags & ~*ownFlag;
         result.isFresh = isPress;
         return result;
     }
     if (!isPress)
         return std::nullopt;
-    result.type = EventType::keyDown;
+    result.kind = KeyInput::Kind::keyDown;
     result.keyCode = KeyNames::keyCode(nameOfPosition(event)).value_or(kNoKeyCode);
     result.charactersIgnoringModifiers = characters(event.key());
     result.isFresh = !event.isAutoRepeat();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/EventTap.h"
+#include "platform/InputGrants.h"
 
 #include <optional>
 
@@ -8,10 +8,10 @@ class QKeyEvent;
 
 namespace velmora {
 
-/// A key event of our own window in the terms of an event tap, for when no tap delivers it:
+/// A key event of our own window as a grant of every key gives it, for when none does:
 /// keyDown, or flagsChanged with the modifiers as they are after the event. Nothing for the release
 /// of a key that is no modifier. Only the keys that are named by position get their own key code,
 /// all others kNoKeyCode.
-std::optional<TapEvent> windowKeyEvent(const QKeyEvent& event);
+std::optional<KeyInput> windowKeyEvent(const QKeyEvent& event);
 
 } // namespace velmora

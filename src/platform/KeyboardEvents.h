@@ -10,9 +10,6 @@ namespace velmora {
 /// The state an event source starts from.
 enum class EventSourceState { combinedSessionState = 0 };
 
-/// Where an event enters the session.
-enum class EventTapLocation { sessionEventTap = 1 };
-
 /// A handle to create keyboard events with. Destroying it releases what it holds.
 class EventSource {
 public:
@@ -50,7 +47,7 @@ public:
     /// Injects `event`: the application with keyboard focus sees the key with exactly the event's
     /// flags as modifiers, whatever the user holds or has locked, and the user's own modifiers are
     /// as before when this returns. Sent to the session before this returns.
-    virtual void post(EventTapLocation location, const KeyboardEvent& event) = 0;
+    virtual void post(const KeyboardEvent& event) = 0;
 };
 
 } // namespace velmora

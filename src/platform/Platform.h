@@ -4,7 +4,7 @@ namespace velmora {
 
 class Accessibility;
 class Appearance;
-class EventTaps;
+class InputGrants;
 class KeyboardEvents;
 class PanelWindows;
 class Screens;
@@ -19,7 +19,7 @@ class Workspace;
 struct Platform {
     Accessibility& accessibility;
     Appearance& appearance;
-    EventTaps& eventTaps;
+    InputGrants& inputGrants;
     KeyboardEvents& keyboardEvents;
     PanelWindows& panelWindows;
     Screens& screens;

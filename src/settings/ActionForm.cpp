@@ -56,7 +56,7 @@ QString commandText(const QTextDocument& document) {
 
 } // namespace
 
-ActionForm::ActionForm(const QString& heading, ActionFields fields, EventTaps& eventTaps)
+ActionForm::ActionForm(const QString& heading, ActionFields fields, InputGrants& inputGrants)
     : fields_(std::move(fields)),
       keyModifiers_(std::make_shared<QProperty<QStringList>>(fields_.keyModifiers)),
       keyValue_(std::make_shared<QProperty<QString>>(fields_.keyValue)),
@@ -73,7 +73,7 @@ ActionForm::ActionForm(const QString& heading, ActionFields fields, EventTaps& e
     QVBoxLayout* parameterStack = makeStack(parameter);
     parameters_ = {
         makeAppParameter(), makeUrlParameter(), makeCommandParameter(),
-        makeKeyParameter(eventTaps)};
+        makeKeyParameter(inputGrants)};
     for (QWidget* view : parameters_)
         parameterStack->addWidget(view);
     parameterLabel_ = group->addRow({}, parameter);
@@ -177,8 +177,8 @@ QWidget* ActionForm::makeCommandParameter() {
     return view;
 }
 
-QWidget* ActionForm::makeKeyParameter(EventTaps& eventTaps) {
-    keyCapture_ = new KeyCaptureView(keyModifiers_, keyValue_, isKeyCaptureFocused_, eventTaps);
+QWidget* ActionForm::makeKeyParameter(InputGrants& inputGrants) {
+    keyCapture_ = new KeyCaptureView(keyModifiers_, keyValue_, isKeyCaptureFocused_, inputGrants);
     modifiersNotifier_ = keyModifiers_->addNotifier([this] { Q_EMIT fieldsChanged(); });
     keyNotifier_ = keyValue_->addNotifier([this] { Q_EMIT fieldsChanged(); });
     return keyCapture_;

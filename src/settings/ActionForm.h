@@ -11,7 +11,7 @@ class QLineEdit;
 
 namespace velmora {
 
-class EventTaps;
+class InputGrants;
 class KeyCaptureView;
 
 /// The rows that set an action, in a group of an editor's form: the type, and the parameters of the
@@ -19,8 +19,8 @@ class KeyCaptureView;
 class ActionForm : public QWidget {
     Q_OBJECT
 public:
-    /// `eventTaps` outlives the form.
-    ActionForm(const QString& heading, ActionFields fields, EventTaps& eventTaps);
+    /// `inputGrants` outlives the form.
+    ActionForm(const QString& heading, ActionFields fields, InputGrants& inputGrants);
 
     /// What is in the form now.
     ActionFields fields() const;
@@ -42,7 +42,7 @@ private:
     QWidget* makeAppParameter();
     QWidget* makeUrlParameter();
     QWidget* makeCommandParameter();
-    QWidget* makeKeyParameter(EventTaps& eventTaps);
+    QWidget* makeKeyParameter(InputGrants& inputGrants);
     void setType(ActionType type);
     /// Shows below the URL what it will be saved as, where that is not what is typed.
     void updateUrlNote();

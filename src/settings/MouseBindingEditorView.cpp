@@ -55,7 +55,7 @@ RecordEditor::Kind makeKind(
 MouseBindingEditorView::MouseBindingEditorView(
     const std::optional<MouseButtonBinding>& binding,
     std::function<void(const MouseButtonBinding&)> onSave, std::function<void()> onCancel,
-    EventTaps& eventTaps)
-    : RecordEditor(makeKind(binding, std::move(onSave)), std::move(onCancel), eventTaps) {}
+    InputGrants& inputGrants)
+    : RecordEditor(makeKind(binding, std::move(onSave)), std::move(onCancel), inputGrants) {}
 
 } // namespace velmora

@@ -12,11 +12,11 @@ public:
     using ActionType = velmora::ActionType;
 
     /// `binding` is the record to edit, none to add one. `onSave` receives the finished record.
-    /// `eventTaps` outlives the editor.
+    /// `inputGrants` outlives the editor.
     MouseBindingEditorView(
         const std::optional<MouseButtonBinding>& binding,
         std::function<void(const MouseButtonBinding&)> onSave, std::function<void()> onCancel,
-        EventTaps& eventTaps);
+        InputGrants& inputGrants);
 };
 
 } // namespace velmora

@@ -23,13 +23,13 @@ RecordRow describe(const MouseButtonBinding& binding) {
 
 } // namespace
 
-MouseSettingsView::MouseSettingsView(MouseButtonManager& mouseManager, EventTaps& eventTaps) {
+MouseSettingsView::MouseSettingsView(MouseButtonManager& mouseManager, InputGrants& inputGrants) {
     MouseButtonManager& store = mouseManager;
     auto* pane = new RecordListPane(
         localizedString("mouse_settings_title"),
         {.snapshot = [&store] { return snapshot(store.bindings(), describe); },
          .remove = [&store](qsizetype index) { store.removeBinding(index); },
-         .makeEditor = [&store, &eventTaps](qsizetype index, std::function<void()> close)
+         .makeEditor = [&store, &inputGrants](qsizetype index, std::function<void()> close)
              -> std::unique_ptr<QWidget> {
              const bool isEditing = index >= 0 && index < store.bindings().size();
              const auto onSave = [&store, index, isEditing,
@@ -42,7 +42,7 @@ MouseSettingsView::MouseSettingsView(MouseButtonManager& mouseManager, EventTaps
              };
              return std::make_unique<MouseBindingEditorView>(
                  isEditing ? std::optional(store.bindings().at(index)) : std::nullopt, onSave,
-                 close, eventTaps);
+                 close, inputGrants);
          }});
     connect(&store, &MouseButtonManager::bindingsWillChange, pane, &RecordListPane::scheduleReload);
     auto* stack = new QVBoxLayout(this);

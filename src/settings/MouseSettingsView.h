@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-class EventTaps;
+class InputGrants;
 class MouseButtonManager;
 
 /// The second tab: the mouse button bindings.
@@ -12,7 +12,7 @@ class MouseSettingsView : public QWidget {
     Q_OBJECT
 public:
     /// The stores outlive the view.
-    MouseSettingsView(MouseButtonManager& mouseManager, EventTaps& eventTaps);
+    MouseSettingsView(MouseButtonManager& mouseManager, InputGrants& inputGrants);
 };
 
 } // namespace velmora

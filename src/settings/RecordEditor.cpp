@@ -26,12 +26,12 @@ constexpr int groupSpacing = 16;
 
 } // namespace
 
-RecordEditor::RecordEditor(Kind kind, std::function<void()> onCancel, EventTaps& eventTaps)
+RecordEditor::RecordEditor(Kind kind, std::function<void()> onCancel, InputGrants& inputGrants)
     : kind_(std::move(kind)),
       onCancel_(std::move(onCancel)),
       actionForm_(new ActionForm(
           kind_.actionHeading, kind_.action ? ActionFields(*kind_.action) : ActionFields(),
-          eventTaps)),
+          inputGrants)),
       scrollArea_(new QScrollArea),
       save_(new QPushButton(localizedString("button_save"))) {
     constexpr int padding = Theme::defaultPadding;

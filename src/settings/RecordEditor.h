@@ -13,7 +13,7 @@ class QScrollArea;
 namespace velmora {
 
 class ActionForm;
-class EventTaps;
+class InputGrants;
 class FormGroup;
 
 /// The editor of a record: the heading, a scrolling form whose last group sets the action, the
@@ -35,8 +35,8 @@ public:
         /// Hands the finished record over.
         std::function<void(const ShortcutAction& action)> save;
     };
-    /// `onCancel` runs when the user cancels. `eventTaps` outlives the editor.
-    RecordEditor(Kind kind, std::function<void()> onCancel, EventTaps& eventTaps);
+    /// `onCancel` runs when the user cancels. `inputGrants` outlives the editor.
+    RecordEditor(Kind kind, std::function<void()> onCancel, InputGrants& inputGrants);
 
     ActionForm& actionForm() { return *actionForm_; }
     QPushButton& saveButton() { return *save_; }

@@ -20,11 +20,11 @@ SettingsView::SettingsView(const SettingsServices& services) {
     tabBar()->setExpanding(false);
     addTab(
         new VelmoraSettingsView(
-            services.shortcutManager, services.eventTaps, services.relaunch,
+            services.shortcutManager, services.inputGrants, services.relaunch,
             services.infoDictionary),
         symbolIcon(u"menubar.rectangle"_s), localizedString("settings_tab_velmora"));
     addTab(
-        new MouseSettingsView(services.mouseManager, services.eventTaps),
+        new MouseSettingsView(services.mouseManager, services.inputGrants),
         symbolIcon(u"computermouse"_s), localizedString("settings_tab_mouse"));
 }
 

@@ -12,7 +12,7 @@ class MouseButtonManager;
 struct SettingsServices {
     ShortcutManager& shortcutManager;
     MouseButtonManager& mouseManager;
-    EventTaps& eventTaps;
+    InputGrants& inputGrants;
     Relaunch relaunch;
     std::optional<QVariantMap> infoDictionary;
     int barHeight = 0; ///< points that the bar covers at the top of the primary screen

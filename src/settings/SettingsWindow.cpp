@@ -87,7 +87,7 @@ SettingsWindow& SettingsWindow::shared() {
             return SettingsServices{
                 .shortcutManager = ShortcutManager::shared(),
                 .mouseManager = MouseButtonManager::shared(),
-                .eventTaps = Platform::current().eventTaps,
+                .inputGrants = Platform::current().inputGrants,
                 .relaunch =
                     [](std::function<void()> completion) {
                         relaunch(Platform::current().singleInstance, std::move(completion));

@@ -119,7 +119,7 @@ RecordEditor::Kind makeKind(
 ShortcutEditorView::ShortcutEditorView(
     const std::optional<ShortcutButton>& shortcut,
     std::function<void(const ShortcutButton&)> onSave, std::function<void()> onCancel,
-    EventTaps& eventTaps)
-    : RecordEditor(makeKind(shortcut, std::move(onSave)), std::move(onCancel), eventTaps) {}
+    InputGrants& inputGrants)
+    : RecordEditor(makeKind(shortcut, std::move(onSave)), std::move(onCancel), inputGrants) {}
 
 } // namespace velmora

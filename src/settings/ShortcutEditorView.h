@@ -12,11 +12,11 @@ public:
     using ActionType = velmora::ActionType;
 
     /// `shortcut` is the record to edit, none to add one. `onSave` receives the finished record.
-    /// `eventTaps` outlives the editor.
+    /// `inputGrants` outlives the editor.
     ShortcutEditorView(
         const std::optional<ShortcutButton>& shortcut,
         std::function<void(const ShortcutButton&)> onSave, std::function<void()> onCancel,
-        EventTaps& eventTaps);
+        InputGrants& inputGrants);
 };
 
 } // namespace velmora

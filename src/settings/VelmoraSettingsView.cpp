@@ -35,7 +35,7 @@ RecordRow describe(const ShortcutButton& shortcut) {
 } // namespace
 
 VelmoraSettingsView::VelmoraSettingsView(
-    ShortcutManager& shortcutManager, EventTaps& eventTaps, Relaunch relaunch,
+    ShortcutManager& shortcutManager, InputGrants& inputGrants, Relaunch relaunch,
     std::optional<QVariantMap> infoDictionary)
     : relaunch_(std::move(relaunch)) {
     ShortcutManager& store = shortcutManager;
@@ -44,7 +44,7 @@ VelmoraSettingsView::VelmoraSettingsView(
         {.snapshot = [&store] { return snapshot(store.shortcuts(), describe); },
          .remove = [&store](qsizetype index) { store.removeShortcut(index); },
          .move = [&store](qsizetype from, qsizetype to) { store.moveShortcut(from, to); },
-         .makeEditor = [&store, &eventTaps](qsizetype index, std::function<void()> close)
+         .makeEditor = [&store, &inputGrants](qsizetype index, std::function<void()> close)
              -> std::unique_ptr<QWidget> {
              const bool isEditing = index >= 0 && index < store.shortcuts().size();
              const auto onSave = [&store, index, isEditing, close](const ShortcutButton& button) {
@@ -56,7 +56,7 @@ VelmoraSettingsView::VelmoraSettingsView(
              };
              return std::make_unique<ShortcutEditorView>(
                  isEditing ? std::optional(store.shortcuts().at(index)) : std::nullopt, onSave,
-                 close, eventTaps);
+                 close, inputGrants);
          }});
     connect(&store, &ShortcutManager::shortcutsWillChange, pane, &RecordListPane::scheduleReload);
     QPushButton* restart =

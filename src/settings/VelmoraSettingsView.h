@@ -7,7 +7,7 @@
 
 namespace velmora {
 
-class EventTaps;
+class InputGrants;
 class ShortcutManager;
 
 /// Starts a new instance of this program and calls `completion` once, whether it started or not.
@@ -19,7 +19,7 @@ class VelmoraSettingsView : public QWidget {
 public:
     /// The stores outlive the view.
     VelmoraSettingsView(
-        ShortcutManager& shortcutManager, EventTaps& eventTaps, Relaunch relaunch,
+        ShortcutManager& shortcutManager, InputGrants& inputGrants, Relaunch relaunch,
         std::optional<QVariantMap> infoDictionary);
 
 private:

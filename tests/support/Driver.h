@@ -26,7 +26,7 @@ public:
     void pressKey(const QByteArray& position, Keyboard keyboard = Keyboard::Synthetic);
     void releaseKey(const QByteArray& position, Keyboard keyboard = Keyboard::Synthetic);
     void tapKey(const QByteArray& position, Keyboard keyboard = Keyboard::Synthetic);
-    /// Taps a key while a modifier key is held.
+    /// Presses and releases a key while a modifier key is held.
     void tapChord(const QByteArray& modifier, const QByteArray& position);
 
     /// The keycode of a position; throws when there is none.

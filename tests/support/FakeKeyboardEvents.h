@@ -29,7 +29,7 @@ public:
         return KeyboardEvent{keyCode, keyDown, 0x1E0000};
     }
 
-    void post(EventTapLocation, const KeyboardEvent& event) override { posted.push_back(event); }
+    void post(const KeyboardEvent& event) override { posted.push_back(event); }
 };
 
 } // namespace velmora::test

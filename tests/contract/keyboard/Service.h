@@ -20,7 +20,7 @@ struct Service {
         if (!event)
             return false;
         event->setFlags(flags);
-        events.post(EventTapLocation::sessionEventTap, *event);
+        events.post(*event);
         return true;
     }
     void tap(KeyCode code, EventFlags flags) {

@@ -1,6 +1,6 @@
 #include "input/KeyCaptureNSView.h"
 #include "input/KeyCaptureView.h"
-#include "support/FakeEventTaps.h"
+#include "support/FakeInputGrants.h"
 #include "support/TestDisplay.h"
 #include "viewkit/PlainButton.h"
 
@@ -35,12 +35,13 @@ protected:
         window_->show();
         window_->activateWindow();
         *isFocused_ = true;
-        ASSERT_TRUE(test::waitFor([&] { return view().hasFocus() && !taps_.taps.empty(); }));
+        ASSERT_TRUE(
+            test::waitFor([&] { return view().hasFocus() && !inputGrants_.grants.empty(); }));
     }
 
-    void focusWithoutTap() {
+    void focusUngranted() {
         other_->setFocus();
-        taps_.allowsTaps = false;
+        inputGrants_.offers = false;
         view().setFocus();
     }
 
@@ -70,14 +71,14 @@ protected:
         return modifiers_->value().join(u'+') + u' ' + key_->value();
     }
 
-    test::FakeEventTaps taps_;
+    test::FakeInputGrants inputGrants_;
     const Binding<QStringList> modifiers_ = std::make_shared<QProperty<QStringList>>();
     const Binding<QString> key_ = std::make_shared<QProperty<QString>>();
     const Binding<bool> isFocused_ = std::make_shared<QProperty<bool>>();
     std::optional<QWidget> window_{std::in_place};
     QLineEdit* other_ = new QLineEdit;
     QLineEdit* next_ = new QLineEdit;
-    KeyCaptureView* capture_ = new KeyCaptureView(modifiers_, key_, isFocused_, taps_);
+    KeyCaptureView* capture_ = new KeyCaptureView(modifiers_, key_, isFocused_, inputGrants_);
 };
 
 TEST_F(KeyCaptureTest, NamesWhatIsPressed) {
@@ -100,7 +101,7 @@ TEST_F(KeyCaptureTest, NamesWhatIsPressed) {
     };
     for (const auto& [keyCode, flags, characters, expected] : cases) {
         SCOPED_TRACE(expected.toStdString());
-        EXPECT_TRUE(taps_.sendKey(keyCode, flags, characters));
+        EXPECT_TRUE(inputGrants_.sendKey(keyCode, flags, characters));
         EXPECT_EQ(combination(), expected);
         EXPECT_TRUE(view().hasFocus());
     }
@@ -113,16 +114,16 @@ TEST_F(KeyCaptureTest, PreviewsHeldModifiersUntilAKeyIsCaptured) {
           {shift, u"Shift "_s},
           {0, u"Shift "_s},
           {option, u"Option "_s}}) {
-        EXPECT_TRUE(taps_.sendFlags(flags));
+        EXPECT_TRUE(inputGrants_.sendFlags(flags));
         EXPECT_EQ(combination(), expected);
     }
-    taps_.sendKey(45, option | shift, u"N"_s);
+    inputGrants_.sendKey(45, option | shift, u"N"_s);
     // Released in any order, and pressed again.
     for (const EventFlags flags : {option, EventFlags(0), shift, EventFlags(0), command}) {
-        EXPECT_TRUE(taps_.sendFlags(flags));
+        EXPECT_TRUE(inputGrants_.sendFlags(flags));
         EXPECT_EQ(combination(), u"Option+Shift N"_s);
     }
-    taps_.sendKey(8, command, u"c"_s);
+    inputGrants_.sendKey(8, command, u"c"_s);
     EXPECT_EQ(combination(), u"Command C"_s) << "another key replaces the capture";
 }
 
@@ -133,10 +134,10 @@ TEST_F(KeyCaptureTest, SaysWhatItHoldsAndClearingKeepsTheFocus) {
         EXPECT_EQ(combination(), u" "_s);
         EXPECT_EQ(inSight(QAccessible::StaticText), hint);
         EXPECT_EQ(inSight(QAccessible::Button), QStringList());
-        taps_.sendFlags(command);
+        inputGrants_.sendFlags(command);
         EXPECT_EQ(field->text(QAccessible::Value), u"Super"_s);
         EXPECT_EQ(inSight(QAccessible::Button), QStringList{u"クリア"_s}) << "of modifiers, too";
-        taps_.sendKey(45, command | shift, u"n"_s);
+        inputGrants_.sendKey(45, command | shift, u"n"_s);
         EXPECT_EQ(inSight(QAccessible::StaticText), QStringList());
         EXPECT_EQ(field->role(), QAccessible::HotkeyField);
         EXPECT_EQ(field->text(QAccessible::Name), u"label_key_combo"_s);
@@ -144,32 +145,32 @@ TEST_F(KeyCaptureTest, SaysWhatItHoldsAndClearingKeepsTheFocus) {
         capture_->findChild<PlainButton*>()->click();
     }
     EXPECT_TRUE(view().hasFocus());
-    taps_.sendFlags(control);
+    inputGrants_.sendFlags(control);
     EXPECT_EQ(combination(), u"Control "_s);
 }
 
 TEST_F(KeyCaptureTest, TakesNothingOfKeysThatWereDownBefore) {
-    const auto stale = [&](EventType type, EventFlags flags, KeyCode code = 0) {
-        return taps_.send({.type = type, .keyCode = code, .flags = flags, .isFresh = false});
+    const auto stale = [&](KeyInput::Kind kind, EventFlags flags, KeyCode code = 0) {
+        return inputGrants_.send({.kind = kind, .keyCode = code, .flags = flags, .isFresh = false});
     };
-    const auto down = EventType::keyDown, changed = EventType::flagsChanged;
+    const auto down = KeyInput::Kind::keyDown, changed = KeyInput::Kind::flagsChanged;
     int answered = 0;
     view().onDefaultKey = [&] { ++answered; };
     EXPECT_TRUE(stale(down, 0, 36)) << "swallowed all the same";
     EXPECT_TRUE(stale(down, command, 8));
     EXPECT_TRUE(stale(changed, shift));
     EXPECT_EQ(combination(), u" "_s);
-    taps_.sendFlags(command | shift);
+    inputGrants_.sendFlags(command | shift);
     EXPECT_TRUE(stale(changed, shift));
     EXPECT_EQ(combination(), u"Shift "_s) << "of a press that was seen";
-    taps_.sendKey(8, command, u"c"_s);
+    inputGrants_.sendKey(8, command, u"c"_s);
     EXPECT_TRUE(stale(down, command, 9));
     EXPECT_TRUE(stale(down, 0, 36));
     QCoreApplication::processEvents();
     EXPECT_EQ(combination(), u"Command C"_s);
     EXPECT_EQ(answered, 0);
 
-    focusWithoutTap();
+    focusUngranted();
     EXPECT_TRUE(send(QEvent::KeyPress, Qt::Key_Return, {}, true));
     EXPECT_TRUE(send(QEvent::KeyRelease, Qt::Key_Control, Qt::ControlModifier | Qt::AltModifier));
     EXPECT_EQ(combination(), u"Command C"_s);
@@ -197,9 +198,9 @@ TEST_F(KeyCaptureTest, TabTwiceLeavesWithWhatWasThere) {
             const QString before = combination();
             for (qsizetype i = 0; i < tabs.size(); ++i) {
                 EXPECT_EQ(tellsWayOut(), i > 0 && reached != &view());
-                taps_.sendFlags(tabs[i]);
-                taps_.sendKey(48, tabs[i], u"\t"_s);
-                taps_.sendFlags(0);
+                inputGrants_.sendFlags(tabs[i]);
+                inputGrants_.sendKey(48, tabs[i], u"\t"_s);
+                inputGrants_.sendFlags(0);
             }
             const QWidget* next = reached == clear && key.isEmpty() ? next_ : reached;
             EXPECT_EQ(QApplication::focusWidget(), next);
@@ -207,11 +208,11 @@ TEST_F(KeyCaptureTest, TabTwiceLeavesWithWhatWasThere) {
             EXPECT_FALSE(tellsWayOut());
         }
     }
-    taps_.sendKey(48);
-    taps_.sendKey(0, command, u"a"_s);
+    inputGrants_.sendKey(48);
+    inputGrants_.sendKey(0, command, u"a"_s);
     EXPECT_FALSE(tellsWayOut()) << "no way out of another key";
-    taps_.sendKey(48);
-    taps_.sendKey(48);
+    inputGrants_.sendKey(48);
+    inputGrants_.sendKey(48);
     EXPECT_EQ(combination(), u"Command A"_s);
 }
 
@@ -225,24 +226,22 @@ TEST_F(KeyCaptureTest, LosingTheFocusInAnyWayGivesTheKeysBackAtOnce) {
     };
     for (const auto& [name, lose] : ways) {
         SCOPED_TRACE(name);
-        const auto handler = taps_.taps.front()->handler;
         lose();
-        EXPECT_TRUE(taps_.taps.empty());
+        EXPECT_TRUE(inputGrants_.grants.empty());
         EXPECT_FALSE(isFocused_->value());
-        EXPECT_TRUE(handler(EventType::keyDown, {.type = EventType::keyDown, .keyCode = 45}))
-            << "on its way when the focus went";
+        EXPECT_FALSE(inputGrants_.sendKey(45, 0, u"n"_s));
         EXPECT_EQ(combination(), u" "_s);
         capture_->setEnabled(true);
         capture_->show();
         showFocused();
     }
     window_.reset();
-    EXPECT_TRUE(taps_.taps.empty());
+    EXPECT_TRUE(inputGrants_.grants.empty());
     EXPECT_FALSE(isFocused_->value());
 }
 
-TEST_F(KeyCaptureTest, TakesTheKeysOfItsWindowWhereThereIsNoTap) {
-    focusWithoutTap();
+TEST_F(KeyCaptureTest, TakesTheKeysOfItsWindowWhereItIsGrantedNothing) {
+    focusUngranted();
     int triggered = 0;
     for (const auto& keys : {u"Ctrl+K"_s, u"Esc"_s, u"Return"_s})
         new QShortcut(keys, &*window_, [&] { ++triggered; });
@@ -265,17 +264,17 @@ TEST_F(KeyCaptureTest, TakesTheKeysOfItsWindowWhereThereIsNoTap) {
 TEST_F(KeyCaptureTest, HandlesAPressOnceThoughItComesTwice) {
     QStringList changes;
     const auto notifier = key_->addNotifier([&] { changes << key_->value(); });
-    taps_.sendKey(45, command, u"n"_s);
+    inputGrants_.sendKey(45, command, u"n"_s);
     // Named by what the window sees, this would be another key.
     EXPECT_TRUE(send(QEvent::KeyPress, Qt::Key_B, Qt::MetaModifier));
     EXPECT_EQ(changes, QStringList{u"N"_s});
-    taps_.disable(*taps_.taps.front(), EventType::tapDisabledByTimeout);
-    EXPECT_TRUE(taps_.taps.front()->enabled) << "asks again";
+    inputGrants_.otherTakes({test::Input::everyKey});
     EXPECT_TRUE(send(QEvent::KeyPress, Qt::Key_B, Qt::MetaModifier));
     EXPECT_EQ(changes, (QStringList{u"N"_s, u"B"_s}));
+    inputGrants_.otherTakes({});
     const auto closing = key_->addNotifier([&] { capture_->hide(); });
-    EXPECT_TRUE(taps_.sendKey(2, command, u"d"_s)) << "its owner closes it meanwhile";
-    EXPECT_TRUE(taps_.taps.empty());
+    EXPECT_TRUE(inputGrants_.sendKey(2, command, u"d"_s)) << "its owner closes it meanwhile";
+    EXPECT_TRUE(inputGrants_.grants.empty());
 }
 
 } // namespace

@@ -17,12 +17,12 @@ QString described(const QKeyEvent& keyEvent) {
         return u"nothing"_s;
     return CapturedKey::combinationSymbols(
         CapturedKey::modifierNames(event->flags),
-        event->type == EventType::flagsChanged
+        event->kind == KeyInput::Kind::flagsChanged
             ? u"…"_s
             : CapturedKey::keyName(event->keyCode, event->charactersIgnoringModifiers));
 }
 
-TEST(WindowKeyEventTest, KeysAreNamedAsThroughATap) {
+TEST(WindowKeyEventTest, KeysAreNamedAsInAGrant) {
     const auto press = QEvent::KeyPress;
     const auto release = QEvent::KeyRelease;
     const Qt::KeyboardModifiers none, shift = Qt::ShiftModifier, alt = Qt::AltModifier,

@@ -6,7 +6,7 @@
 #include "settings/ActionForm.h"
 #include "settings/MouseBindingEditorView.h"
 #include "settings/ShortcutEditorView.h"
-#include "support/FakeEventTaps.h"
+#include "support/FakeInputGrants.h"
 #include "support/KeyTexts.h"
 #include "support/Named.h"
 #include "support/TestDisplay.h"
@@ -44,17 +44,17 @@ protected:
     ShortcutEditorView& open(std::optional<ShortcutButton> shortcut = {}) {
         return present(std::make_unique<ShortcutEditorView>(
             std::move(shortcut), [this](const ShortcutButton& button) { saved_.append(button); },
-            [this] { ++cancelled_; }, taps_));
+            [this] { ++cancelled_; }, inputGrants_));
     }
 
     MouseBindingEditorView& openMouse(std::optional<MouseButtonBinding> binding = {}) {
         return present(std::make_unique<MouseBindingEditorView>(
             std::move(binding),
             [this](const MouseButtonBinding& made) { savedBindings_.append(made); },
-            [this] { ++cancelled_; }, taps_));
+            [this] { ++cancelled_; }, inputGrants_));
     }
 
-    test::FakeEventTaps taps_;
+    test::FakeInputGrants inputGrants_;
     QWidget window_;
     Sheet* sheet_ = nullptr;
     QList<ShortcutButton> saved_;
@@ -153,8 +153,8 @@ TEST_F(EditorTest, EditingKeepsTheIdAndWhatIsNotTouched) {
 
 TEST_F(EditorTest, WhileKeysAreRecordedReturnSavesAMouseBindingOnly) {
     const auto record = [this](KeyCode code, EventFlags flags, const QString& characters) {
-        EXPECT_TRUE(taps_.sendKey(code, flags, characters));
-        EXPECT_TRUE(saved_.isEmpty() && savedBindings_.isEmpty()) << "not from within the tap";
+        EXPECT_TRUE(inputGrants_.sendKey(code, flags, characters));
+        EXPECT_TRUE(saved_.isEmpty() && savedBindings_.isEmpty()) << "not from within the grant";
         QCoreApplication::processEvents();
     };
     ShortcutEditorView& editor = open();
@@ -176,9 +176,9 @@ TEST_F(EditorTest, WhileKeysAreRecordedReturnSavesAMouseBindingOnly) {
     EXPECT_EQ(mouseEditor.actionForm().fields().keyValue, u"Return"_s);
     record(45, kCGEventFlagMaskCommand, u"n"_s);
     record(36, 0, u"\r"_s);
-    taps_.disable(*taps_.taps.front(), EventType::tapDisabledByUserInput);
+    inputGrants_.otherTakes({test::Input::everyKey});
     QTest::keyClick(&mouseEditor.actionForm().keyCapture().view(), Qt::Key_Return);
-    ASSERT_EQ(savedBindings_.size(), 2) << "through the tap and through the window";
+    ASSERT_EQ(savedBindings_.size(), 2) << "through the grant and through the window";
     for (const MouseButtonBinding& binding : savedBindings_) {
         EXPECT_EQ(binding.buttonNumber, 3);
         EXPECT_EQ(binding.action, ShortcutAction(PressKeyCombo{{u"Command"_s}, u"N"_s}));

@@ -9,7 +9,7 @@
 #include "settings/ShortcutEditorView.h"
 #include "settings/VelmoraSettingsView.h"
 #include "support/FakeAccessibility.h"
-#include "support/FakeEventTaps.h"
+#include "support/FakeInputGrants.h"
 #include "support/Named.h"
 #include "support/TestDisplay.h"
 #include "viewkit/PopupMenu.h"
@@ -85,8 +85,8 @@ protected:
     const QTemporaryDir root_;
     UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
     ShortcutManager store_{defaults_};
-    test::FakeEventTaps taps_;
-    VelmoraSettingsView view_{store_, taps_, {}, {}};
+    test::FakeInputGrants inputGrants_;
+    VelmoraSettingsView view_{store_, inputGrants_, {}, {}};
 };
 
 TEST_F(SettingsListsTest, TheSelectionIsARecordAndGoesOnlyWithIt) {
@@ -206,10 +206,11 @@ TEST_F(SettingsListsTest, RowsMoveByDragAndByKey) {
 
 TEST_F(SettingsListsTest, MouseBindingsCannotBeMoved) {
     test::FakeAccessibility accessibility;
-    MouseButtonManager manager(defaults_, taps_, accessibility, [](const ShortcutAction&) {});
+    MouseButtonManager manager(
+        defaults_, inputGrants_, accessibility, [](const ShortcutAction&) {});
     for (const int number : {2, 4})
         manager.addBinding({number, OpenUrl{u"x:"_s}});
-    MouseSettingsView view(manager, taps_);
+    MouseSettingsView view(manager, inputGrants_);
     view.show();
     RecordListView& rows = *view.findChild<RecordListView*>();
     rows.setCurrentIndex(rows.model()->index(1, 0));

@@ -11,7 +11,7 @@
 #include "settings/RecordListPane.h"
 #include "settings/SettingsWindow.h"
 #include "support/FakeAccessibility.h"
-#include "support/FakeEventTaps.h"
+#include "support/FakeInputGrants.h"
 #include "support/TestDisplay.h"
 #include "viewkit/Sheet.h"
 
@@ -44,16 +44,17 @@ class SettingsWindowTest : public testing::Test {
 protected:
     const QTemporaryDir root_;
     UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
-    test::FakeEventTaps taps_;
+    test::FakeInputGrants inputGrants_;
     test::FakeAccessibility accessibility_;
     ShortcutManager shortcuts_{defaults_};
-    MouseButtonManager mouse_{defaults_, taps_, accessibility_, [](const ShortcutAction&) {}};
+    MouseButtonManager mouse_{
+        defaults_, inputGrants_, accessibility_, [](const ShortcutAction&) {}};
     FakeActivation activation_;
     SettingsWindow window_{defaults_, activation_, [this] {
                                return SettingsServices{
                                    .shortcutManager = shortcuts_,
                                    .mouseManager = mouse_,
-                                   .eventTaps = taps_,
+                                   .inputGrants = inputGrants_,
                                    .relaunch = {},
                                    .infoDictionary = Bundle::infoDictionary()};
                            }};

@@ -1,6 +1,6 @@
 #include "platform/x11/session/X11Session.h"
 
-#include "platform/x11/grants/X11EventTaps.h"
+#include "platform/x11/grants/X11InputGrants.h"
 #include "platform/x11/keyboard/X11Keyboard.h"
 #include "platform/x11/panel/X11PanelWindows.h"
 #include "platform/x11/screens/X11Screens.h"
@@ -19,7 +19,7 @@ struct X11Session::Services {
         : accessibility(connection),
           appearance(connection),
           keyboard(connection),
-          eventTaps(connection, keyboard),
+          inputGrants(connection, keyboard),
           keyboardEvents(keyboard),
           panelWindows(connection),
           screens(connection),
@@ -31,7 +31,7 @@ struct X11Session::Services {
     X11Accessibility accessibility;
     X11Appearance appearance;
     X11Keyboard keyboard;
-    X11EventTaps eventTaps;
+    X11InputGrants inputGrants;
     X11KeyboardEvents keyboardEvents;
     X11PanelWindows panelWindows;
     X11Screens screens;
@@ -66,8 +66,8 @@ Appearance& X11Session::appearance() {
     return services().appearance;
 }
 
-EventTaps& X11Session::eventTaps() {
-    return services().eventTaps;
+InputGrants& X11Session::inputGrants() {
+    return services().inputGrants;
 }
 
 KeyboardEvents& X11Session::keyboardEvents() {

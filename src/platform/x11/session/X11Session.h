@@ -6,7 +6,7 @@ namespace velmora {
 
 class Accessibility;
 class Appearance;
-class EventTaps;
+class InputGrants;
 class KeyboardEvents;
 class PanelWindows;
 class Screens;
@@ -25,7 +25,7 @@ public:
 
     Accessibility& accessibility();
     Appearance& appearance();
-    EventTaps& eventTaps();
+    InputGrants& inputGrants();
     KeyboardEvents& keyboardEvents();
     PanelWindows& panelWindows();
     Screens& screens();

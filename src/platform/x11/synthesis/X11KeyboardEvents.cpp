@@ -19,7 +19,7 @@ X11KeyboardEvents::createKeyboardEvent(EventSource&, KeyCode keyCode, bool keyDo
     return KeyboardEvent{keyCode, keyDown};
 }
 
-void X11KeyboardEvents::post(EventTapLocation, const KeyboardEvent& event) {
+void X11KeyboardEvents::post(const KeyboardEvent& event) {
     const auto keycode = keyboard_.positions().keycode(event.keyCode);
     if (!keycode || !typist_)
         return;

@@ -17,7 +17,7 @@ public:
     std::unique_ptr<EventSource> createEventSource(EventSourceState state) override;
     std::optional<KeyboardEvent>
     createKeyboardEvent(EventSource& source, KeyCode keyCode, bool keyDown) override;
-    void post(EventTapLocation location, const KeyboardEvent& event) override;
+    void post(const KeyboardEvent& event) override;
 
 private:
     const X11Keyboard& keyboard_;

@@ -1,11 +1,11 @@
-// The decisions of the event taps, without a display.
+// What input grants decide, without a display.
 
+#include "foundation/Log.h"
 #include "platform/x11/grants/ChordStates.h"
-#include "platform/x11/grants/RetryPauses.h"
-#include "platform/x11/grants/X11Grab.h"
+#include "platform/x11/grants/Retries.h"
 #include "platform/x11/keyboard/KeyLabels.h"
+#include "support/TestDisplay.h"
 
-#include <algorithm>
 #include <gmock/gmock.h>
 #include <xkbcommon/xkbcommon.h>
 
@@ -53,18 +53,26 @@ TEST(KeyLabels, NameWhatAKeyTypesWithModifiersButShiftIgnored) {
     EXPECT_EQ(KeyLabels().label(38, 0, false), u""_s);
 }
 
-TEST(RetryPauses, GrowAndBeginAnew) {
-    RetryPauses pauses(X11Grab::usualPauses);
-    std::vector<std::chrono::milliseconds> seen;
-    for (int refusal = 0; refusal < 8; ++refusal) {
-        pauses.noteRefusal();
-        seen.push_back(pauses.next());
-    }
-    EXPECT_TRUE(std::ranges::is_sorted(seen));
-    EXPECT_LT(seen.front(), 1s);
-    EXPECT_EQ(seen.back(), 10s);
-    pauses.reset();
-    EXPECT_FALSE(pauses.isFailing());
+TEST(RetriesTest, AskAgainUntilItWorksAndTellTheLogTwice) {
+    constexpr std::chrono::milliseconds pauses[] = {1ms, 2ms};
+    int tries = 0;
+    std::unique_ptr<Retries> retries;
+    const auto attempt = [&] {
+        if (++tries < 5)
+            retries->noteRefusal(u"It"_s);
+        else
+            retries->noteSuccess();
+    };
+    testing::internal::CaptureStdout();
+    retries = std::make_unique<Retries>(pauses, attempt);
+    attempt();
+    EXPECT_TRUE(test::waitFor([&] { return tries == 5; }));
+    Log::flush();
+    EXPECT_EQ(
+        testing::internal::GetCapturedStdout(),
+        "It is held by another program; trying again\nIt works again\n");
+    EXPECT_TRUE(std::ranges::is_sorted(Retries::usualPauses));
+    EXPECT_EQ(std::end(Retries::usualPauses)[-1], 10s);
 }
 
 } // namespace

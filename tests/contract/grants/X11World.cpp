@@ -1,49 +1,18 @@
-#include "World.h"
+#include "X11World.h"
+
+#include "support/TestDisplay.h"
 
 #include <QHash>
 #include <QKeyEvent>
-#include <gtest/gtest.h>
 #include <xcb/xinput.h>
 
 namespace velmora::test {
 namespace {
 
 constexpr std::pair<EventFlags, const char*> modifierKeys[] = {
-    {kCGEventFlagMaskCommand, "LWIN"},
-    {kCGEventFlagMaskAlternate, "LALT"},
-    {kCGEventFlagMaskControl, "LCTL"},
-    {kCGEventFlagMaskShift, "LFSH"}};
+    {command, "LWIN"}, {option, "LALT"}, {control, "LCTL"}, {shift, "LFSH"}};
 
 } // namespace
-
-void TapUnderTest::make(EventTaps& taps, EventTapInterest interest) {
-    const std::uint64_t mask = eventMaskBit(EventType::keyDown) |
-                               eventMaskBit(EventType::flagsChanged) |
-                               eventMaskBit(EventType::otherMouseDown);
-    tap = taps.create(
-        EventTapLocation::sessionEventTap, EventTapPlacement::headInsert,
-        EventTapOptions::defaultTap, mask, std::move(interest),
-        [this](EventType type, const TapEvent& event) -> std::optional<TapEvent> {
-            if (type != EventType::tapDisabledByUserInput) {
-                events.push_back(event);
-                return std::nullopt;
-            }
-            ++refusals;
-            tap->setEnabled(true);
-            return event;
-        });
-}
-
-std::vector<std::int64_t> TapUnderTest::pressed() const {
-    std::vector<std::int64_t> pressed;
-    for (const TapEvent& event : events) {
-        if (event.type == EventType::keyDown)
-            pressed.push_back(event.keyCode);
-        else if (event.type == EventType::otherMouseDown)
-            pressed.push_back(event.buttonNumber);
-    }
-    return pressed;
-}
 
 bool OtherProgram::takeChord(uint8_t keycode, uint32_t also) {
     const uint32_t required = XCB_MOD_MASK_1 | also;
@@ -96,79 +65,33 @@ bool OtherProgram::takePointer() {
 }
 
 /// Writes down the keys that Qt itself hands to our window.
-class World::View : public QWidget {
+class X11World::View : public QWidget {
 public:
-    std::vector<std::uint32_t> keycodes;
+    std::vector<std::pair<uint8_t, std::uint32_t>> keys; ///< type and keycode
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override { keycodes.push_back(event->nativeScanCode()); }
+    void keyPressEvent(QKeyEvent* event) override {
+        keys.emplace_back(XCB_KEY_PRESS, event->nativeScanCode());
+    }
+    void keyReleaseEvent(QKeyEvent* event) override {
+        keys.emplace_back(XCB_KEY_RELEASE, event->nativeScanCode());
+    }
     bool focusNextPrevChild(bool) override { return false; }
 };
 
-World::World() {
+X11World::X11World() {
+    connection->startDelivery();
     driver.move(200, 300);
 }
 
-World::~World() = default;
-
-void World::waitForPress(size_t before, const TapUnderTest& tap) {
-    EXPECT_TRUE(waitFor([&] { return arrived(tap) > before; })) << "a press got lost";
+X11World::~X11World() {
+    lockModifiers(client, 0xff, false);
+    lockGroup(client, 0);
+    EXPECT_FALSE(isAnythingDown(client));
+    EXPECT_FALSE(isAnyButtonDown());
 }
 
-void World::type(const Key& key, EventFlags flags, const TapUnderTest& tap) {
-    Driver hand; // lets go of the modifiers at the end
-    for (const auto& [flag, modifier] : modifierKeys) {
-        if (flags & flag)
-            hand.pressKey(modifier);
-    }
-    const size_t before = arrived(tap);
-    driver.pressKey(key.name);
-    waitForPress(before, tap);
-    driver.releaseKey(key.name);
-}
-
-void World::click(std::int64_t number, const TapUnderTest& tap) {
-    const size_t before = arrived(tap);
-    driver.pressButton(xButton(number));
-    waitForPress(before, tap);
-    driver.releaseButton(xButton(number));
-}
-
-bool World::isAnyButtonDown() const {
-    const Reply<xcb_input_xi_query_pointer_reply_t> reply(xcb_input_xi_query_pointer_reply(
-        client,
-        xcb_input_xi_query_pointer(
-            client, client.root(), inputDevice(client, XCB_INPUT_DEVICE_TYPE_MASTER_POINTER)),
-        nullptr));
-    const uint32_t* buttons = xcb_input_xi_query_pointer_buttons(reply.get());
-    return std::any_of(
-        buttons, buttons + xcb_input_xi_query_pointer_buttons_length(reply.get()),
-        [](uint32_t bits) { return bits != 0; });
-}
-
-std::vector<std::int64_t> World::reachedFront() {
-    static const QHash<int, std::int64_t> numbers{{1, 0}, {3, 1}, {2, 2}, {8, 3}, {9, 4}, {10, 5}};
-    std::vector<std::int64_t> presses;
-    const auto addKey = [&](std::uint32_t keycode) {
-        for (const Key& key : {keyA, keyM, keyE, keyTab, keyEscape, keyF5, keypad1}) {
-            if (driver.keycode(key.name) == keycode)
-                presses.push_back(key.code);
-        }
-    };
-    for (const Witness::Event& event : witness.events()) {
-        if (event.type == XCB_KEY_PRESS)
-            addKey(event.detail);
-        else if (event.type == XCB_BUTTON_PRESS)
-            presses.push_back(numbers.value(event.detail));
-    }
-    if (view_) {
-        for (const std::uint32_t keycode : view_->keycodes)
-            addKey(keycode);
-    }
-    return presses;
-}
-
-QWidget& World::focusedView() {
+QWidget& X11World::focusedView() {
     if (!view_) {
         view_ = std::make_unique<View>();
         view_->setFocusPolicy(Qt::StrongFocus);
@@ -187,16 +110,83 @@ QWidget& World::focusedView() {
     return *view_;
 }
 
-TapsTest::~TapsTest() {
-    lockModifiers(world.client, 0xff, false);
-    lockGroup(world.client, 0);
-    EXPECT_FALSE(isAnythingDown(world.client));
+void X11World::hold(
+    const Key& key, EventFlags flags, bool repeats, const std::function<bool()>& enough) {
+    const uint32_t mode = repeats ? XCB_AUTO_REPEAT_MODE_ON : XCB_AUTO_REPEAT_MODE_OFF;
+    xcb_change_keyboard_control(client, XCB_KB_AUTO_REPEAT_MODE, &mode);
+    client.sync();
+    Driver hand; // lets go of the modifiers at the end
+    for (const auto& [flag, modifier] : modifierKeys) {
+        if (flags & flag)
+            hand.pressKey(modifier);
+    }
+    driver.pressKey(key.name);
+    EXPECT_TRUE(waitFor(enough)) << "a press got lost";
+    settle();
+    driver.releaseKey(key.name);
 }
 
-void TapsTest::makeEnabled(EventTapInterest interest) {
-    tap.make(world.taps(), std::move(interest));
-    ASSERT_TRUE(tap.tap);
-    tap.tap->setEnabled(true);
+void X11World::click(std::int64_t number) {
+    const size_t before = arrived();
+    driver.pressButton(xButton(number));
+    EXPECT_TRUE(waitFor([&] { return arrived() > before; })) << "a press got lost";
+    settle();
+    driver.releaseButton(xButton(number));
+}
+
+void X11World::settle() const {
+    Reply<xcb_get_input_focus_reply_t>(
+        xcb_get_input_focus_reply(*connection, xcb_get_input_focus(*connection), nullptr));
+}
+
+bool X11World::isAnyButtonDown() const {
+    const Reply<xcb_input_xi_query_pointer_reply_t> reply(xcb_input_xi_query_pointer_reply(
+        client,
+        xcb_input_xi_query_pointer(
+            client, client.root(), inputDevice(client, XCB_INPUT_DEVICE_TYPE_MASTER_POINTER)),
+        nullptr));
+    const uint32_t* masks = xcb_input_xi_query_pointer_buttons(reply.get());
+    return std::any_of(
+        masks, masks + xcb_input_xi_query_pointer_buttons_length(reply.get()),
+        [](uint32_t bits) { return bits != 0; });
+}
+
+std::vector<std::int64_t> X11World::inFront(uint8_t type) {
+    static const QHash<int, std::int64_t> numbers{{1, 0}, {3, 1}, {2, 2}, {8, 3}, {9, 4}, {10, 5}};
+    std::vector<std::int64_t> codes;
+    const auto addKey = [&](std::uint32_t keycode) {
+        for (const Key& key : {keyA, keyM, keyE, keyTab, keyEscape, keyF5, keypad1}) {
+            if (driver.keycode(key.name) == keycode)
+                codes.push_back(key.code);
+        }
+    };
+    const int buttonType = type == XCB_KEY_PRESS ? XCB_BUTTON_PRESS : XCB_BUTTON_RELEASE;
+    for (const Witness::Event& event : witness.events()) {
+        if (event.type == type)
+            addKey(event.detail);
+        else if (event.type == buttonType)
+            codes.push_back(numbers.value(event.detail));
+    }
+    if (view_) {
+        for (const auto& [keyType, keycode] : view_->keys) {
+            if (keyType == type)
+                addKey(keycode);
+        }
+    }
+    return codes;
+}
+
+void X11World::otherTakes(const std::set<Input>& inputs) {
+    other_.reset();
+    if (inputs.empty())
+        return;
+    other_.emplace();
+    if (inputs.contains(Input::hotKey))
+        other_->takeChord(driver.keycode(keyM.name));
+    if (inputs.contains(Input::mouseButton))
+        other_->takeButton(xButton(3));
+    if (inputs.contains(Input::everyKey))
+        other_->takeKeyboard();
 }
 
 } // namespace velmora::test

@@ -1,133 +1,120 @@
-// Taps among locks, layouts, window managers and other programs.
+// Grants of an X server among locks, layouts, other programs and a second user.
 
-#include "World.h"
-#include "platform/x11/grants/X11ChordGrab.h"
-#include "platform/x11/grants/X11MouseButtonGrab.h"
+#include "X11World.h"
+#include "support/TestDisplay.h"
 
 #include <QApplication>
 #include <QProcess>
-#include <xcb/xinput.h>
 #include <xcb/xtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
 using namespace velmora::test;
 using testing::ElementsAre;
+using State = InputGrant::State;
 
 namespace {
 
-constexpr EventFlags option = kCGEventFlagMaskAlternate;
+struct X11Grants : testing::Test {
+    X11World world;
+};
 
-TEST_F(TapsTest, TheChordFollowsItsKeyAndItsModifier) {
+TEST_F(X11Grants, TheHotKeyFollowsItsKeyAndItsModifier) {
     // Super and Alt change places; the arrow keys send other keycodes on older keyboards.
-    makeEnabled(TapInterest::Chord{123, option});
+    const auto grant = world.hotKey({123, option});
     for (const auto& [arguments, modifier] :
          {std::pair(QStringList{u"-option"_s, u"altwin:swap_alt_win"_s}, "LWIN"),
           {{u"-option"_s}, "LALT"},
           {{u"-keycodes"_s, u"xfree86"_s}, "LALT"},
           {{u"-keycodes"_s, u"evdev"_s}, "LALT"}}) {
         EXPECT_EQ(QProcess::execute(u"setxkbmap"_s, arguments), 0);
-        tap.events.clear();
+        world.hotKeys.clear();
         EXPECT_TRUE(waitFor([&, held = modifier] {
             Driver().tapChord(held, "LEFT"); // reads afresh where the keys are
-            return waitFor([&] { return tap.presses() > 0; }, 100);
+            return waitFor([&] { return !world.hotKeys.empty(); }, 100);
         })) << qPrintable(arguments.join(u' '));
     }
 }
 
-TEST_F(TapsTest, AHeldChordRepeats) {
-    EXPECT_EQ(QProcess::execute(u"xset"_s, {u"r"_s, u"rate"_s, u"100"_s, u"50"_s}), 0);
-    makeEnabled(optionM);
-    world.driver.pressKey("LALT");
-    world.driver.pressKey(keyM.name);
-    EXPECT_TRUE(waitFor([this] { return tap.presses() >= 4; }));
-    world.driver.releaseKey(keyM.name);
-    world.driver.releaseKey("LALT");
-    EXPECT_EQ(QProcess::execute(u"xset"_s, {u"r"_s, u"rate"_s}), 0);
-}
-
-TEST_F(TapsTest, ATryThatIsRefusedCostsFewRequests) {
-    const auto connection = X11Connection::open();
-    const X11Keyboard keyboard(*connection);
-    X11ChordGrab chord(*connection, keyboard, *XInput::find(*connection), optionM, {});
-    X11MouseButtonGrab button(*connection, keyboard, TapInterest::MouseButtons{{3}}, {});
-    OtherProgram holder;
-    EXPECT_TRUE(holder.takeChord(world.driver.keycode(keyM.name)) && holder.takeButton(8));
-    for (const auto& [grab, limit] :
-         {std::pair<X11Grab*, unsigned>{&chord, 1}, std::pair<X11Grab*, unsigned>{&button, 40}}) {
-        EXPECT_FALSE(grab->obtain());
-        EXPECT_FALSE(grab->refusedName().isEmpty());
-        const unsigned before = xcb_no_operation(*connection).sequence;
-        EXPECT_FALSE(grab->obtain());
-        EXPECT_FALSE(grab->refusedName().isEmpty());
-        EXPECT_LE(xcb_no_operation(*connection).sequence - before - 1, limit);
+TEST_F(X11Grants, ATryThatIsRefusedCostsFewRequests) {
+    world.otherTakes({Input::hotKey, Input::mouseButton});
+    for (const auto& [input, limit] :
+         {std::pair(Input::hotKey, 1U), std::pair(Input::mouseButton, 40U)}) {
+        const auto grant = world.make(input);
+        unsigned last = xcb_no_operation(*world.connection).sequence;
+        unsigned spent = 0;
+        EXPECT_TRUE(waitFor([&] {
+            const unsigned now = xcb_no_operation(*world.connection).sequence;
+            spent = now - std::exchange(last, now) - 1;
+            return spent > 0;
+        })) << "tries again";
+        EXPECT_LE(spent, limit);
+        EXPECT_EQ(grant->state(), State::pending);
     }
 }
 
-TEST_F(TapsTest, AHandlerThatIsSlowFreezesNobody) {
-    makeEnabled(TapInterest::MouseButtons{{3}});
-    // The tap's process does nothing from here on; the hands and the front go on.
+TEST_F(X11Grants, AHandlerThatIsSlowFreezesNobody) {
+    const auto grant = world.button(3);
+    // This process does nothing from here on; the hands and the front go on.
     world.driver.pressButton(8);
     world.driver.tapKey(keyA.name);
     world.driver.releaseButton(8);
     world.driver.click(1);
     EXPECT_EQ(world.witness.keys().size(), 2U);
-    EXPECT_TRUE(waitFor([this] { return tap.presses() == 1; }));
+    EXPECT_TRUE(waitFor([this] { return world.buttons.size() == 1; }));
     // The window manager looks at the click first, and holds up its release meanwhile.
     EXPECT_TRUE(waitFor([this] { return !isAnythingDown(world.client); }));
 }
 
-TEST_F(TapsTest, WorksBesideAnotherProgramsUseWithOtherModifiers) {
+TEST_F(X11Grants, WorkBesideAnotherProgramsUseWithOtherModifiers) {
     std::optional<OtherProgram> program(std::in_place);
     // Option+Shift+M of a window manager that uses XInput 2: ours is the rest.
     EXPECT_TRUE(program->takeChord(world.driver.keycode(keyM.name), XCB_MOD_MASK_SHIFT));
     EXPECT_TRUE(program->takeButton(xButton(3), XCB_MOD_MASK_CONTROL));
-    makeEnabled(optionM);
-    type(keyM, option);
-    EXPECT_THAT(tap.pressed(), ElementsAre(keyM.code));
-    TapUnderTest button;
-    button.make(world.taps(), TapInterest::MouseButtons{{3}});
-    button.tap->setEnabled(true);
+    const auto hotKey = world.hotKey();
+    auto button = world.button(3);
+    EXPECT_EQ(hotKey->state(), State::granted);
+    EXPECT_EQ(button->state(), State::granted);
     for (const bool isLocked : {false, true}) {
-        lockModifiers(world.client, XCB_MOD_MASK_LOCK, isLocked);
-        world.click(3, button);
+        lockModifiers(world.client, XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2, isLocked);
+        world.type(keyM, option);
+        world.click(3);
     }
-    EXPECT_THAT(button.pressed(), ElementsAre(3, 3));
+    EXPECT_EQ(world.hotKeys.size(), 2U);
+    EXPECT_THAT(world.buttons, ElementsAre(3, 3));
     // Ours, too, from the next press on, once that program is gone.
     program.reset();
     EXPECT_TRUE(waitFor([&] {
-        type(keyM, option);
-        const size_t before = tap.presses();
-        type(keyM, option | kCGEventFlagMaskShift);
-        return tap.presses() > before;
+        world.type(keyM, option);
+        const size_t before = world.hotKeys.size();
+        world.type(keyM, option | shift);
+        return world.hotKeys.size() > before;
     }));
     // Given back as a whole: another program can have all of it.
-    button.tap.reset();
+    button.reset();
     EXPECT_TRUE(waitFor([&] { return OtherProgram().takeButton(xButton(3), 0); }));
-    EXPECT_EQ(tap.refusals + button.refusals, 0);
 }
 
-TEST_F(TapsTest, CaptureChangesNoFocusAndGivesLayoutLetters) {
+TEST_F(X11Grants, EveryKeyChangesNoFocusAndGivesTheLayoutsLetters) {
     QWidget& view = world.focusedView();
     int focusChanges = 0;
     QObject::connect(qApp, &QApplication::focusChanged, &view, [&] { ++focusChanges; });
-    makeEnabled(TapInterest::EveryKey{&view});
+    auto grant = world.everyKey();
     for (const auto& [layout, text] :
          {std::pair(u"us"_s, u"q"_s), {u"fr"_s, u"a"_s}, {u"ru"_s, u"й"_s}, {u"us"_s, u"q"_s}}) {
         setLayout(layout);
         EXPECT_TRUE(waitFor([&] {
-            tap.events.clear();
+            world.captured.clear();
             world.driver.tapKey("AD01");
-            return waitFor([this] { return tap.presses() == 1; }, 100) &&
-                   tap.events[0].charactersIgnoringModifiers == text;
+            return waitFor([this] { return world.given() == 1; }, 100) &&
+                   world.captured[0].charactersIgnoringModifiers == text;
         })) << qPrintable(layout);
     }
-    world.driver.pressKey("LFSH");
-    world.type(keyA, 0, tap);
-    world.driver.releaseKey("LFSH");
-    EXPECT_EQ(tap.events.back().charactersIgnoringModifiers, u"A"_s);
-    tap.tap.reset();
-    world.type(keyA, 0, tap);
+    world.captured.clear();
+    world.press(keyA, shift, [this] { return world.given() == 1; });
+    EXPECT_EQ(world.captured.at(1).charactersIgnoringModifiers, u"A"_s);
+    grant.reset();
+    world.type(keyA);
     EXPECT_EQ(focusChanges, 0);
     EXPECT_TRUE(view.hasFocus());
 }
@@ -199,36 +186,39 @@ private:
     XClient client_;
 };
 
-TEST_F(TapsTest, ASecondUsersKeyboardAndMouseCountAsWell) {
-    TapUnderTest buttons;
-    buttons.make(world.taps(), TapInterest::MouseButtons{{3}});
-    buttons.tap->setEnabled(true);
+TEST_F(X11Grants, ASecondUsersKeyboardAndMouseCountAsWell) {
+    const auto button = world.button(3);
+    const auto releases = [this] {
+        return std::ranges::count(
+            world.witness.events(), XCB_BUTTON_RELEASE, &Witness::Event::type);
+    };
     for (const bool isThereFirst : {false, true}) {
         SCOPED_TRACE(isThereFirst);
         std::optional<SecondUser> user;
         if (isThereFirst)
             user.emplace();
-        makeEnabled(optionM);
+        const auto hotKey = world.hotKey();
         if (!isThereFirst)
             user.emplace();
         user->move(200, 300);
+        world.hotKeys.clear();
+        world.buttons.clear();
         for (size_t press = 1; press <= 2; ++press) {
             user->chord(world.driver, true);
-            EXPECT_TRUE(waitFor([&] { return tap.presses() == press; }, 1000));
+            EXPECT_TRUE(waitFor([&] { return world.hotKeys.size() == press; }));
+            world.settle();
             user->chord(world.driver, false);
             world.witness.clear();
             user->button(xButton(3), true);
-            EXPECT_TRUE(waitFor([&] { return buttons.presses() == press; }, 1000));
+            EXPECT_TRUE(waitFor([&] { return world.buttons.size() == press; }));
+            world.settle();
             user->button(xButton(3), false);
-            EXPECT_TRUE(world.witness.waitForInput(1));
-            EXPECT_EQ(world.witness.events().at(0).type, XCB_BUTTON_RELEASE);
+            EXPECT_TRUE(waitFor([&] { return releases() == 1; }));
         }
-        type(keyM, option);
-        EXPECT_EQ(tap.presses(), 3U);
-        world.click(3, buttons);
-        EXPECT_EQ(buttons.presses(), 3U);
-        tap.events.clear();
-        buttons.events.clear();
+        world.type(keyM, option);
+        EXPECT_EQ(world.hotKeys.size(), 3U);
+        world.click(3);
+        EXPECT_EQ(world.buttons.size(), 3U);
     }
 }
 

@@ -1,5 +1,6 @@
-#include "platform/x11/grants/X11ChordGrab.h"
+#include "platform/x11/grants/HotKeyGrant.h"
 
+#include "foundation/LocalizedString.h"
 #include "platform/x11/grants/ChordStates.h"
 #include "platform/x11/keyboard/KeyLabels.h"
 
@@ -9,53 +10,72 @@ using namespace Qt::StringLiterals;
 
 namespace velmora {
 
-X11ChordGrab::X11ChordGrab(
+HotKeyGrant::HotKeyGrant(
     X11Connection& connection, const X11Keyboard& keyboard, const XInput& xinput,
-    const TapInterest::Chord& interest, Sink sink)
-    : connection_(connection),
+    const Chord& chord, InputGrants::KeyHandler pressed)
+    : InputGrant(
+          {.swallows = true, .passesReleaseOn = true, .marksRepeats = true, .isByPosition = true}),
+      connection_(connection),
       keyboard_(keyboard),
       xinput_(xinput),
-      wanted_(interest),
-      sink_(std::move(sink)) {
+      chord_(chord),
+      pressed_(std::move(pressed)) {
     subscription_ = connection.subscribe([this](const auto& event) { handle(event); });
     keyboard.observe(&context_, [this] {
         name_.clear();
-        sink_.changed();
+        obtain();
     });
+    obtain();
 }
 
-X11ChordGrab::~X11ChordGrab() {
+HotKeyGrant::~HotKeyGrant() {
     ungrab(held_);
     xcb_flush(connection_);
 }
 
-bool X11ChordGrab::obtain() {
-    const xcb_keycode_t keycode = keyboard_.positions().keycode(wanted_.keyCode).value_or(0);
+void HotKeyGrant::obtain() {
+    takeMissing();
+    if (keycode_ == 0) {
+        retries_.stop();
+        setState(State::refused, localizedString("grant_no_such_key"));
+    } else if (holdsPlainChord()) {
+        retries_.noteSuccess();
+        setState(State::granted);
+    } else {
+        retries_.noteRefusal(name());
+        setState(State::pending, localizedString("grant_held_by_other"));
+    }
+}
+
+void HotKeyGrant::takeMissing() {
+    const xcb_keycode_t keycode = keyboard_.positions().keycode(chord_.keyCode).value_or(0);
     const std::vector<std::uint32_t> states =
-        chordStates(keyboard_.modifiers(), wanted_.requiredFlags);
-    const auto isWanted = [&](std::uint32_t state) {
-        return std::ranges::binary_search(states, state);
-    };
+        chordStates(keyboard_.modifiers(), chord_.requiredFlags);
     std::set<std::uint32_t> dropped = held_;
     if (keycode == keycode_)
-        std::erase_if(dropped, isWanted);
+        std::erase_if(dropped, [&](std::uint32_t state) {
+            return std::ranges::binary_search(states, state);
+        });
     ungrab(dropped);
     keycode_ = keycode;
     if (keycode_ == 0)
-        return true;
-
+        return;
     std::vector<std::uint32_t> missing;
     std::ranges::copy_if(states, std::back_inserter(missing), [this](std::uint32_t state) {
         return !held_.contains(state);
     });
     grab(missing);
-    return std::ranges::all_of(states, [this](std::uint32_t state) {
-        return held_.contains(state) ||
-               !isPlainChord(keyboard_.modifiers(), wanted_.requiredFlags, state);
-    });
 }
 
-void X11ChordGrab::grab(const std::vector<std::uint32_t>& states) {
+bool HotKeyGrant::holdsPlainChord() const {
+    const ModifierMap& modifiers = keyboard_.modifiers();
+    return std::ranges::all_of(
+        chordStates(modifiers, chord_.requiredFlags), [&](std::uint32_t state) {
+            return held_.contains(state) || !isPlainChord(modifiers, chord_.requiredFlags, state);
+        });
+}
+
+void HotKeyGrant::grab(const std::vector<std::uint32_t>& states) {
     if (states.empty())
         return;
     constexpr std::uint32_t presses = XCB_INPUT_XI_EVENT_MASK_KEY_PRESS;
@@ -75,7 +95,7 @@ void X11ChordGrab::grab(const std::vector<std::uint32_t>& states) {
         held_.erase(refused[i].modifiers);
 }
 
-void X11ChordGrab::ungrab(const std::set<std::uint32_t>& states) {
+void HotKeyGrant::ungrab(const std::set<std::uint32_t>& states) {
     if (states.empty())
         return;
     const std::vector<std::uint32_t> list(states.begin(), states.end());
@@ -86,37 +106,23 @@ void X11ChordGrab::ungrab(const std::set<std::uint32_t>& states) {
         held_.erase(state);
 }
 
-bool X11ChordGrab::adopt(const EventTapInterest& interest) {
-    const auto* chord = std::get_if<TapInterest::Chord>(&interest);
-    if (chord) {
-        wanted_ = *chord;
-        name_.clear();
-    }
-    return chord;
-}
-
-QString X11ChordGrab::refusedName() const {
+const QString& HotKeyGrant::name() {
     if (!name_.isEmpty())
         return name_;
-    const KeyLabels labels = KeyLabels::read(connection_);
     QStringList parts;
-    for (const auto& [flag, name] :
+    for (const auto& [flag, modifier] :
          {std::pair(kCGEventFlagMaskCommand, u"Command"_s),
           std::pair(kCGEventFlagMaskAlternate, u"Option"_s),
           std::pair(kCGEventFlagMaskControl, u"Control"_s),
           std::pair(kCGEventFlagMaskShift, u"Shift"_s)}) {
-        if (wanted_.requiredFlags & flag)
-            parts << name;
+        if (chord_.requiredFlags & flag)
+            parts << modifier;
     }
-    parts << labels.label(keycode_, 0, false).toUpper();
+    parts << KeyLabels::read(connection_).label(keycode_, 0, false).toUpper();
     return name_ = u"⌨️ "_s + parts.join(u'+');
 }
 
-std::span<const std::chrono::milliseconds> X11ChordGrab::pauses() const {
-    return usualPauses;
-}
-
-void X11ChordGrab::handle(const xcb_generic_event_t& event) {
+void HotKeyGrant::handle(const xcb_generic_event_t& event) {
     const auto* press = xinput_.eventAs<xcb_input_key_press_event_t>(event, XCB_INPUT_KEY_PRESS);
     if (!press || press->event != connection_.root() || press->detail != keycode_)
         return;
@@ -127,10 +133,12 @@ void X11ChordGrab::handle(const xcb_generic_event_t& event) {
     // only once the press is delivered: the answer takes its time.
     QMetaObject::invokeMethod(
         &context_, [this] { obtain(); }, Qt::QueuedConnection);
-    sink_.event(
-        {.type = EventType::keyDown,
-         .keyCode = wanted_.keyCode,
-         .flags = keyboard_.modifiers().flags(static_cast<std::uint8_t>(press->mods.effective))});
+    const auto modifiers = static_cast<std::uint8_t>(press->mods.effective);
+    const auto pressed = pressed_; // it may destroy this grant
+    pressed(
+        {.keyCode = chord_.keyCode,
+         .flags = keyboard_.modifiers().flags(modifiers),
+         .isFresh = !(press->flags & XCB_INPUT_KEY_EVENT_FLAGS_KEY_REPEAT)});
 }
 
 } // namespace velmora
