@@ -21,12 +21,30 @@ function(velmora_compile_options target)
 endfunction()
 
 # velmora_room(name SOURCES ... USES ...)
-# One floor of src/: a static library velmora_<name>. USES lists what it may include, so an
-# include that runs up the house does not link.
+# One folder of src/: a static library velmora_<name>. It sees its own headers and those of the rooms
+# that USES lists, with what these use; an include of any other room finds no file.
 function(velmora_room name)
     cmake_parse_arguments(PARSE_ARGV 1 ROOM "" "" "SOURCES;USES")
     add_library(velmora_${name} STATIC ${ROOM_SOURCES})
-    target_include_directories(velmora_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     target_link_libraries(velmora_${name} PUBLIC ${ROOM_USES})
+    velmora_room_headers(velmora_${name} PUBLIC)
     velmora_compile_options(velmora_${name})
+endfunction()
+
+# velmora_room_headers(target scope)
+# Lets the target of the current folder include its headers, as "room/Header.h", from a folder of
+# links to these: from src/ itself it would see every other room.
+function(velmora_room_headers target scope)
+    set(include ${CMAKE_CURRENT_BINARY_DIR}/include)
+    cmake_path(
+        RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_SOURCE_DIR}/src
+        OUTPUT_VARIABLE room)
+    file(REMOVE_RECURSE ${include}) # links to headers that are no more
+    file(MAKE_DIRECTORY ${include}/${room})
+    file(GLOB headers RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS *.h)
+    foreach(header ${headers})
+        file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${header} ${include}/${room}/${header} SYMBOLIC)
+    endforeach()
+    target_include_directories(${target} ${scope} ${include})
+    set_property(GLOBAL PROPERTY VELMORA_ROOM_${room} ${target})
 endfunction()
