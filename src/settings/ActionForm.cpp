@@ -60,7 +60,15 @@ ActionForm::ActionForm(const QString& heading, ActionFields fields, InputGrants&
     : fields_(std::move(fields)),
       keyModifiers_(std::make_shared<QProperty<QStringList>>(fields_.keyModifiers)),
       keyValue_(std::make_shared<QProperty<QString>>(fields_.keyValue)),
-      isKeyCaptureFocused_(std::make_shared<QProperty<bool>>(false)) {
+      isKeyCaptureFocused_(std::make_shared<QProperty<bool>>(false)),
+      appName_(textField(
+          fields_.appName, localizedString("placeholder_app_name"), localizedString("label_app"))),
+      bundleId_(noteLabel()),
+      url_(
+          textField(fields_.url, localizedString("placeholder_url"), localizedString("label_url"))),
+      urlNote_(noteLabel()),
+      keyCapture_(new KeyCaptureView(keyModifiers_, keyValue_, isKeyCaptureFocused_, inputGrants)),
+      parameters_{makeAppParameter(), makeUrlParameter(), makeCommandParameter(), keyCapture_} {
     const QString typeLabel = localizedString("mouse_action_label");
     auto* typePicker = new PopUpButton(typeLabel);
     for (int type = 0; type < actionTypeCount; ++type)
@@ -71,14 +79,13 @@ ActionForm::ActionForm(const QString& heading, ActionFields fields, InputGrants&
     group->addRow(typeLabel, {typePicker}, nullptr);
     auto* parameter = new QWidget;
     QVBoxLayout* parameterStack = makeStack(parameter);
-    parameters_ = {
-        makeAppParameter(), makeUrlParameter(), makeCommandParameter(),
-        makeKeyParameter(inputGrants)};
     for (QWidget* view : parameters_)
         parameterStack->addWidget(view);
     parameterLabel_ = group->addRow({}, parameter);
     makeStack(this)->addWidget(group);
 
+    modifiersNotifier_ = keyModifiers_->addNotifier([this] { Q_EMIT fieldsChanged(); });
+    keyNotifier_ = keyValue_->addNotifier([this] { Q_EMIT fieldsChanged(); });
     typePicker->setCurrentIndex(static_cast<int>(fields_.type));
     setType(fields_.type);
     connect(typePicker, &QComboBox::currentIndexChanged, this, [this](int index) {
@@ -91,17 +98,14 @@ ActionForm::ActionForm(const QString& heading, ActionFields fields, InputGrants&
 }
 
 QWidget* ActionForm::makeAppParameter() {
-    const QString label = localizedString("label_app");
-    appName_ = textField(fields_.appName, localizedString("placeholder_app_name"), label);
     connect(appName_, &QLineEdit::textChanged, this, [this](const QString& text) {
         fields_.appName = text;
         Q_EMIT fieldsChanged();
     });
     auto* select = new QPushButton(localizedString("button_select"));
     select->setAutoDefault(false);
-    select->setAccessibleDescription(label);
+    select->setAccessibleDescription(appName_->accessibleName());
     connect(select, &QPushButton::clicked, this, &ActionForm::showAppPicker);
-    bundleId_ = noteLabel();
 
     auto* view = new QWidget;
     QVBoxLayout* stack = makeStack(view);
@@ -116,16 +120,13 @@ QWidget* ActionForm::makeAppParameter() {
 }
 
 QWidget* ActionForm::makeUrlParameter() {
-    const QString prompt = localizedString("placeholder_url");
-    url_ = textField(fields_.url, prompt, localizedString("label_url"));
-    url_->setToolTip(prompt);
+    url_->setToolTip(url_->placeholderText());
     connect(url_, &QLineEdit::textChanged, this, [this](const QString& text) {
         fields_.url = text;
         updateUrlNote();
         Q_EMIT fieldsChanged();
     });
     // Its line is there also while it is empty: the form must not jump under the hand that types.
-    urlNote_ = noteLabel();
     urlNote_->setFixedHeight(urlNote_->fontMetrics().height());
     auto* view = new QWidget;
     QVBoxLayout* stack = makeStack(view);
@@ -175,13 +176,6 @@ QWidget* ActionForm::makeCommandParameter() {
     stack->setContentsMargins(0, commandPadding, 0, commandPadding);
     stack->addWidget(command);
     return view;
-}
-
-QWidget* ActionForm::makeKeyParameter(InputGrants& inputGrants) {
-    keyCapture_ = new KeyCaptureView(keyModifiers_, keyValue_, isKeyCaptureFocused_, inputGrants);
-    modifiersNotifier_ = keyModifiers_->addNotifier([this] { Q_EMIT fieldsChanged(); });
-    keyNotifier_ = keyValue_->addNotifier([this] { Q_EMIT fieldsChanged(); });
-    return keyCapture_;
 }
 
 ActionFields ActionForm::fields() const {

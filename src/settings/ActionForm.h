@@ -42,7 +42,6 @@ private:
     QWidget* makeAppParameter();
     QWidget* makeUrlParameter();
     QWidget* makeCommandParameter();
-    QWidget* makeKeyParameter(InputGrants& inputGrants);
     void setType(ActionType type);
     /// Shows below the URL what it will be saved as, where that is not what is typed.
     void updateUrlNote();
@@ -54,13 +53,13 @@ private:
     const Binding<QStringList> keyModifiers_;
     const Binding<QString> keyValue_;
     const Binding<bool> isKeyCaptureFocused_;
-    QLabel* parameterLabel_;
-    std::array<QWidget*, actionTypeCount> parameters_{};
-    QLineEdit* appName_;
-    QLabel* bundleId_;
-    QLineEdit* url_;
-    QLabel* urlNote_;
-    KeyCaptureView* keyCapture_;
+    QLineEdit* const appName_;
+    QLabel* const bundleId_;
+    QLineEdit* const url_;
+    QLabel* const urlNote_;
+    KeyCaptureView* const keyCapture_;
+    const std::array<QWidget*, actionTypeCount> parameters_; ///< by type
+    QLabel* parameterLabel_ = nullptr;                       ///< of the type chosen
     QPropertyNotifier modifiersNotifier_;
     QPropertyNotifier keyNotifier_;
 };
