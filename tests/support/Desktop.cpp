@@ -169,9 +169,15 @@ bool ping(const XClient& client, xcb_window_t window) {
 bool isAnythingDown(const XClient& client) {
     const Reply<xcb_query_keymap_reply_t> keys(
         xcb_query_keymap_reply(client, xcb_query_keymap(client), nullptr));
-    const Reply<xcb_query_pointer_reply_t> pointer(
-        xcb_query_pointer_reply(client, xcb_query_pointer(client, client.root()), nullptr));
-    return (pointer->mask & 0x1f00) != 0 ||
+    // The core protocol tells of five buttons only.
+    const Reply<xcb_input_xi_query_pointer_reply_t> pointer(xcb_input_xi_query_pointer_reply(
+        client,
+        xcb_input_xi_query_pointer(
+            client, client.root(), inputDevice(client, XCB_INPUT_DEVICE_TYPE_MASTER_POINTER)),
+        nullptr));
+    const uint32_t* buttons = xcb_input_xi_query_pointer_buttons(pointer.get());
+    const int words = xcb_input_xi_query_pointer_buttons_length(pointer.get());
+    return std::any_of(buttons, buttons + words, [](uint32_t mask) { return mask != 0; }) ||
            std::ranges::any_of(keys->keys, [](uint8_t byte) { return byte != 0; });
 }
 

@@ -11,63 +11,115 @@
 
 namespace velmora::test {
 
-/// Another program that takes what it is told to; letting go of it is dying.
-class OtherProgram {
-public:
-    /// A key with Option and `also` (modifier bits), whatever else is locked or held, as XInput 2
-    /// clients do; false when any of it is refused.
-    bool takeChord(uint8_t keycode, uint32_t also = 0);
-    /// An X button with exactly these modifiers.
-    bool takeButton(uint8_t button, uint16_t modifiers = XCB_MOD_MASK_ANY);
-    bool takeKeyboard();
-    bool takePointer();
+/// A program on the display, with grants that nobody listens to.
+struct OtherProgram {
+    std::unique_ptr<X11Connection> connection = X11Connection::open();
+    X11Keyboard keyboard{*connection};
+    X11InputGrants grants{*connection, keyboard};
+    std::vector<std::unique_ptr<InputGrant>> held;
 
-private:
-    XClient client_;
+    /// False when it has to wait for it.
+    bool take(Input input, QWidget& view, const Chord& chord = optionM) {
+        held.push_back(
+            input == Input::hotKey     ? grants.hotKey(chord, {})
+            : input == Input::everyKey ? grants.everyKey(view, {})
+                                       : grants.mouseButton(3, {}));
+        return held.back()->state() == InputGrant::State::granted;
+    }
 };
 
-/// The X button that stands for a button's number.
-constexpr uint8_t xButton(std::int64_t number) {
-    constexpr uint8_t first[] = {1, 3, 2};
-    return number >= 0 && number < 3 ? first[number] : static_cast<uint8_t>(number + 5);
-}
-
-/// The display: the hands are another client, the application in front is one too. Each test leaves
-/// no key and no button down, or fails.
+/// The display: the hands are another client, the application in front is one too. Fails if a test
+/// leaves a key or button down.
 class X11World final : public World {
 public:
-    X11World();
-    ~X11World() override;
+    X11World() {
+        connection->startDelivery();
+        driver.move(200, 300);
+        // Beside the window manager: the front keeps the focus.
+        view.setWindowFlag(Qt::BypassWindowManagerHint);
+        view.setGeometry(700, 300, 300, 200);
+        view.show();
+    }
+    ~X11World() override {
+        lockModifiers(client, 0xff, false);
+        lockGroup(client, 0);
+        EXPECT_FALSE(isAnythingDown(client));
+        const KeyboardState state = keyboardState(client);
+        EXPECT_EQ(state.base | state.latched | state.locked, 0);
+    }
+
+    /// The X button that stands for a button's number.
+    static constexpr uint8_t xButton(std::int64_t number) {
+        return static_cast<uint8_t>(number == 0 ? 1 : number == 2 ? 2 : number + 5);
+    }
 
     InputGrants& grants() override { return grants_; }
-    QWidget& focusedView() override;
     void hold(const Key& key, EventFlags flags, bool repeats, const std::function<bool()>& enough)
-        override;
-    void click(std::int64_t number) override;
-    std::vector<std::int64_t> pressedInFront() override { return inFront(XCB_KEY_PRESS); }
-    std::vector<std::int64_t> releasedInFront() override { return inFront(XCB_KEY_RELEASE); }
-    void otherTakes(const std::set<Input>& inputs) override;
+        override {
+        const uint32_t mode = repeats ? XCB_AUTO_REPEAT_MODE_ON : XCB_AUTO_REPEAT_MODE_OFF;
+        xcb_change_keyboard_control(client, XCB_KB_AUTO_REPEAT_MODE, &mode);
+        client.sync();
+        Driver hand; // lets go of the modifiers at the end
+        for (const auto& [flag, modifier] :
+             {std::pair(command, "LWIN"), {option, "LALT"}, {control, "LCTL"}, {shift, "LFSH"}}) {
+            if (flags & flag)
+                hand.pressKey(modifier);
+        }
+        driver.pressKey(key.name);
+        EXPECT_TRUE(waitFor(enough)) << "a press got lost";
+        settle();
+        driver.releaseKey(key.name);
+    }
+    void click(std::int64_t number) override {
+        const size_t before = arrived();
+        driver.pressButton(xButton(number));
+        EXPECT_TRUE(waitFor([&] { return arrived() > before; })) << "a press got lost";
+        settle();
+        driver.releaseButton(xButton(number));
+    }
+    std::vector<std::int64_t> pressedInFront() override {
+        return inFront(XCB_KEY_PRESS, XCB_BUTTON_PRESS);
+    }
+    std::vector<std::int64_t> releasedInFront() override {
+        return inFront(XCB_KEY_RELEASE, XCB_BUTTON_RELEASE);
+    }
+    void otherTakes(const std::set<Input>& inputs) override {
+        other.emplace();
+        for (const Input input : inputs)
+            other->take(input, view);
+    }
 
-    /// Returns when the server has done what the grants asked for: a release that is sent then
-    /// finds what was let go at the press free.
-    void settle() const;
-    /// Of all buttons, those that the core protocol does not tell about included.
-    bool isAnyButtonDown() const;
+    /// Returns when the server has done what the grants asked for: a release that comes then finds
+    /// free what was let go of at the press.
+    void settle() const {
+        Reply<xcb_get_input_focus_reply_t>(
+            xcb_get_input_focus_reply(*connection, xcb_get_input_focus(*connection), nullptr));
+    }
 
     XClient client;
     Witness witness;
     Driver driver;
     std::unique_ptr<X11Connection> connection = X11Connection::open();
     X11Keyboard keyboard{*connection};
+    std::optional<OtherProgram> other;
 
 private:
-    /// Of the events of that type, or that of buttons beside it.
-    std::vector<std::int64_t> inFront(uint8_t type);
+    std::vector<std::int64_t> inFront(uint8_t keyType, uint8_t buttonType) {
+        std::vector<std::int64_t> codes;
+        for (const Witness::Event& event : witness.events()) {
+            for (const Key& key : {keyA, keyM, keyE, keyTab, keyEscape, keyF5, keypad1}) {
+                if (event.type == keyType && event.detail == driver.keycode(key.name))
+                    codes.push_back(key.code);
+            }
+            for (const std::int64_t number : {0, 2, 3, 4, 5}) {
+                if (event.type == buttonType && event.detail == xButton(number))
+                    codes.push_back(number);
+            }
+        }
+        return codes;
+    }
 
-    class View;
     X11InputGrants grants_{*connection, keyboard};
-    std::unique_ptr<View> view_;
-    std::optional<OtherProgram> other_;
 };
 
 } // namespace velmora::test

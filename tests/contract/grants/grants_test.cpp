@@ -1,8 +1,6 @@
 // What InputGrants promises, of the real session layer and of the fake that other tests rely on.
 
-#include "FakeWorld.h"
 #include "X11World.h"
-#include "support/TestDisplay.h"
 
 using namespace velmora;
 using namespace velmora::test;
@@ -14,6 +12,32 @@ using testing::IsEmpty;
 using State = InputGrant::State;
 
 namespace {
+
+/// The world of the fake.
+class FakeWorld final : public World {
+public:
+    InputGrants& grants() override { return session_; }
+    void
+    hold(const Key& key, EventFlags flags, bool, const std::function<bool()>& enough) override {
+        if (flags)
+            session_.sendFlags(flags);
+        for (bool isFresh = true; isFresh || !enough(); isFresh = false)
+            session_.send(
+                {.keyCode = key.code,
+                 .flags = flags,
+                 .charactersIgnoringModifiers = key.character,
+                 .isFresh = isFresh});
+        if (flags)
+            session_.send({.kind = KeyInput::Kind::flagsChanged, .isFresh = false});
+    }
+    void click(std::int64_t number) override { session_.sendButton(number); }
+    std::vector<std::int64_t> pressedInFront() override { return session_.pressedInFront; }
+    std::vector<std::int64_t> releasedInFront() override { return session_.releasedInFront; }
+    void otherTakes(const std::set<Input>& inputs) override { session_.otherTakes(inputs); }
+
+private:
+    FakeInputGrants session_;
+};
 
 struct Layer {
     const char* name;
@@ -79,7 +103,6 @@ TEST_P(Grants, ButtonsAreTakenOneByOne) {
 TEST_P(Grants, WhatAnotherProgramHoldsIsPendingUntilItLetsGo) {
     for (const Input input : {Input::hotKey, Input::mouseButton, Input::everyKey}) {
         SCOPED_TRACE(static_cast<int>(input));
-        world->focusedView();
         world->otherTakes({input});
         auto grant = world->make(input);
         EXPECT_EQ(grant->state(), State::pending);
@@ -91,11 +114,14 @@ TEST_P(Grants, WhatAnotherProgramHoldsIsPendingUntilItLetsGo) {
         EXPECT_THAT(states, ElementsAre(State::granted));
         EXPECT_TRUE(grant->reason().isEmpty());
         const size_t before = world->given();
-        world->use(input);
+        const auto use = [&] {
+            input == Input::mouseButton ? world->click(3) : world->type(keyM, option);
+        };
+        use();
         EXPECT_EQ(world->given(), before + 1);
         // It ends at once with the grant.
         grant.reset();
-        world->use(input);
+        use();
         EXPECT_EQ(world->given(), before + 1);
     }
 }
@@ -145,7 +171,6 @@ TEST_P(Grants, AHeldKeyRepeatsAndIsMarked) {
     EXPECT_THAT(world->hotKeys, Each(Field(&KeyInput::isFresh, false)));
 
     // Down before the grant.
-    world->focusedView();
     std::unique_ptr<InputGrant> grant;
     world->hold(keyA, 0, true, [&] {
         if (!grant && !world->pressedInFront().empty())
@@ -167,7 +192,7 @@ TEST_P(Grants, HandlersMayEndTheirGrant) {
     grant = world->grants().mouseButton(3, [&, end] { end(world->buttons, 3); });
     world->click(3);
     grant = world->grants().everyKey(
-        world->focusedView(), [&, end](const KeyInput& key) { end(world->captured, key); });
+        world->view, [&, end](const KeyInput& key) { end(world->captured, key); });
     world->type(keyA);
     EXPECT_EQ(world->given(), 3U);
     for (const Input input : {Input::hotKey, Input::mouseButton, Input::everyKey}) {

@@ -1,10 +1,12 @@
 // Grants of an X server among locks, layouts, other programs and a second user.
 
 #include "X11World.h"
-#include "support/TestDisplay.h"
 
 #include <QApplication>
 #include <QProcess>
+#include <QWindow>
+#include <array>
+#include <random>
 #include <xcb/xtest.h>
 
 using namespace Qt::StringLiterals;
@@ -69,8 +71,13 @@ TEST_F(X11Grants, AHandlerThatIsSlowFreezesNobody) {
 TEST_F(X11Grants, WorkBesideAnotherProgramsUseWithOtherModifiers) {
     std::optional<OtherProgram> program(std::in_place);
     // Option+Shift+M of a window manager that uses XInput 2: ours is the rest.
-    EXPECT_TRUE(program->takeChord(world.driver.keycode(keyM.name), XCB_MOD_MASK_SHIFT));
-    EXPECT_TRUE(program->takeButton(xButton(3), XCB_MOD_MASK_CONTROL));
+    EXPECT_TRUE(program->take(Input::hotKey, world.view, {keyM.code, option | shift}));
+    EXPECT_FALSE(xcb_request_check(
+        *program->connection,
+        xcb_grab_button_checked(
+            *program->connection, false, world.client.root(), XCB_EVENT_MASK_BUTTON_PRESS,
+            XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_WINDOW_NONE, XCB_CURSOR_NONE,
+            X11World::xButton(3), XCB_MOD_MASK_CONTROL)));
     const auto hotKey = world.hotKey();
     auto button = world.button(3);
     EXPECT_EQ(hotKey->state(), State::granted);
@@ -92,14 +99,19 @@ TEST_F(X11Grants, WorkBesideAnotherProgramsUseWithOtherModifiers) {
     }));
     // Given back as a whole: another program can have all of it.
     button.reset();
-    EXPECT_TRUE(waitFor([&] { return OtherProgram().takeButton(xButton(3), 0); }));
+    EXPECT_TRUE(waitFor([&] { return OtherProgram().take(Input::mouseButton, world.view); }));
 }
 
 TEST_F(X11Grants, EveryKeyChangesNoFocusAndGivesTheLayoutsLetters) {
-    QWidget& view = world.focusedView();
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    EXPECT_TRUE(waitFor(
+        [&] { return window.isActiveWindow() && inputFocus(world.client) == window.winId(); }));
     int focusChanges = 0;
-    QObject::connect(qApp, &QApplication::focusChanged, &view, [&] { ++focusChanges; });
-    auto grant = world.everyKey();
+    QObject::connect(qApp, &QApplication::focusWindowChanged, &window, [&] { ++focusChanges; });
+    auto grant = world.grants().everyKey(
+        window, [this](const KeyInput& key) { world.captured.push_back(key); });
     for (const auto& [layout, text] :
          {std::pair(u"us"_s, u"q"_s), {u"fr"_s, u"a"_s}, {u"ru"_s, u"й"_s}, {u"us"_s, u"q"_s}}) {
         setLayout(layout);
@@ -111,12 +123,13 @@ TEST_F(X11Grants, EveryKeyChangesNoFocusAndGivesTheLayoutsLetters) {
         })) << qPrintable(layout);
     }
     world.captured.clear();
-    world.press(keyA, shift, [this] { return world.given() == 1; });
+    world.hold(keyA, shift, false, [this] { return world.given() == 1; });
     EXPECT_EQ(world.captured.at(1).charactersIgnoringModifiers, u"A"_s);
     grant.reset();
-    world.type(keyA);
+    world.settle();
+    QCoreApplication::processEvents();
     EXPECT_EQ(focusChanges, 0);
-    EXPECT_TRUE(view.hasFocus());
+    EXPECT_TRUE(window.isActiveWindow());
 }
 
 /// A second user at the same screen: master devices of their own, and what XTEST types on there.
@@ -209,16 +222,72 @@ TEST_F(X11Grants, ASecondUsersKeyboardAndMouseCountAsWell) {
             world.settle();
             user->chord(world.driver, false);
             world.witness.clear();
-            user->button(xButton(3), true);
+            user->button(X11World::xButton(3), true);
             EXPECT_TRUE(waitFor([&] { return world.buttons.size() == press; }));
             world.settle();
-            user->button(xButton(3), false);
+            user->button(X11World::xButton(3), false);
             EXPECT_TRUE(waitFor([&] { return releases() == 1; }));
         }
         world.type(keyM, option);
         EXPECT_EQ(world.hotKeys.size(), 3U);
         world.click(3);
         EXPECT_EQ(world.buttons.size(), 3U);
+    }
+}
+
+// Whatever the user, another program and grants do in whatever order: once the hands are off, no
+// key or button is down and nothing is taken.
+TEST(X11GrantsAtRandom, LeaveNothingDownAndNothingTaken) {
+    constexpr std::array inputs{Input::hotKey, Input::mouseButton, Input::everyKey};
+    for (unsigned seed = 1; seed <= 12; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        const auto pick = [&random](size_t count) { return random() % count; };
+        X11World world;
+        {
+            std::array<std::unique_ptr<InputGrant>, 3> grants;
+            constexpr std::array keys{"LALT", "LCTL", "LFSH", "AB07", "AC01", "2", "8", "9"};
+            std::set<QByteArray> down;
+            Driver hands; // lets go of everything first
+            for (int step = 0; step < 80; ++step) {
+                const size_t which = pick(inputs.size());
+                switch (pick(7)) {
+                default: {
+                    const QByteArray key = keys[pick(keys.size())];
+                    const bool wasDown = down.erase(key);
+                    if (!wasDown)
+                        down.insert(key);
+                    if (const auto button = static_cast<uint8_t>(key.toInt()))
+                        wasDown ? hands.releaseButton(button) : hands.pressButton(button);
+                    else
+                        wasDown ? hands.releaseKey(key) : hands.pressKey(key);
+                    break;
+                }
+                case 4:
+                case 5:
+                    if (!std::exchange(grants[which], nullptr))
+                        grants[which] = world.make(inputs[which]);
+                    break;
+                case 6:
+                    if (pick(2))
+                        world.otherTakes({inputs[which]});
+                    else
+                        world.other.reset();
+                    break;
+                }
+                if (pick(2))
+                    QCoreApplication::processEvents();
+            }
+        }
+        world.other.reset();
+        EXPECT_TRUE(waitFor([&] {
+            OtherProgram newcomer;
+            return std::ranges::all_of(
+                inputs, [&](Input input) { return newcomer.take(input, world.view); });
+        }));
+        const size_t given = world.given();
+        world.click(3);
+        EXPECT_EQ(world.given(), given);
     }
 }
 
