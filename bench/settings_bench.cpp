@@ -220,7 +220,6 @@ int main(int argc, char** argv) {
         .keyboardEvents = session->keyboardEvents(),
         .panelWindows = session->panelWindows(),
         .screens = session->screens(),
-        .singleInstance = session->singleInstance(),
         .trayHost = trayHost,
         .windowActivation = session->windowActivation(),
         .workspace = workspace,

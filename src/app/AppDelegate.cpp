@@ -2,11 +2,13 @@
 
 #include "actions/ActionEngine.h"
 #include "app/MainMenu.h"
+#include "app/RemoteControl.h"
 #include "app/TermsOfServiceView.h"
 #include "app/TermsOfServiceWindow.h"
 #include "app/TrustNotice.h"
 #include "foundation/ActionMessages.h"
 #include "foundation/Log.h"
+#include "foundation/MainQueue.h"
 #include "foundation/SystemRoom.h"
 #include "foundation/UserDefaults.h"
 #include "model/ShortcutManager.h"
@@ -15,7 +17,6 @@
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
 #include "platform/Platform.h"
-#include "platform/SingleInstance.h"
 #include "settings/SettingsWindow.h"
 #include "viewkit/PopupMenu.h"
 #include "viewkit/WindowTheme.h"
@@ -23,6 +24,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <QPointer>
+#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
@@ -46,19 +48,21 @@ bool hasRoomForWindows() {
 
 } // namespace
 
-AppDelegate::AppDelegate()
+AppDelegate::AppDelegate(RemoteControl& remoteControl)
     : overlayController(ScreenManager::shared(), Platform::current().panelWindows),
       hotKeyManager(HotKeyManager::shared()),
       mouseButtonManager(MouseButtonManager::shared()),
       statusBarController(
-          Platform::current().trayHost, [] { ActionMessages::shared().send(u"showSettings"_s); }) {}
+          Platform::current().trayHost, [] { ActionMessages::shared().send(u"showSettings"_s); }),
+      remoteControl_(remoteControl) {}
 
 void AppDelegate::applicationDidFinishLaunching() {
     setupMainMenu();
     checkTermsAndStart();
-    Platform::current().singleInstance.setComeForwardHandler([self = QPointer(this)] {
-        if (self)
-            self->comeForward();
+    remoteControl_.listen([self = QPointer(this)](const QByteArray& name) {
+        const auto command = remoteCommand(name);
+        if (self && command)
+            self->carryOut(*command);
     });
 }
 
@@ -71,6 +75,7 @@ void AppDelegate::setupMainMenu() {
         if (hasRoomForWindows())
             SettingsWindow::shared().showAboutPanel();
     });
+    messages.setHandler(u"restart"_s, [this] { restart(); });
     messages.setHandler(u"quitApp"_s, [this] { quitApp(); });
     messages.setHandler(u"terminate:"_s, [this] { quitApp(); });
 }
@@ -113,9 +118,41 @@ void AppDelegate::startServices() {
     setupMouseButtonMonitoring();
 }
 
+void AppDelegate::carryOut(RemoteCommand command) {
+    switch (command) {
+    case RemoteCommand::comeForward:
+    case RemoteCommand::settings:
+        return comeForward();
+    case RemoteCommand::toggle:
+        return toggleOverlayMenu();
+    case RemoteCommand::show:
+        return setOverlayVisible(true);
+    case RemoteCommand::hide:
+        return setOverlayVisible(false);
+    case RemoteCommand::quit:
+        return quitApp();
+    }
+}
+
+void AppDelegate::carryOutAtStart(RemoteCommand command) {
+    if (command == RemoteCommand::settings || command == RemoteCommand::hide)
+        carryOut(command);
+}
+
+void AppDelegate::setOverlayVisible(bool visible) {
+    if (overlayController.isOverlayVisible != visible)
+        overlayController.toggleOverlay();
+}
+
+void AppDelegate::restart() {
+    remoteControl_.makeRoom();
+    QProcess::startDetached(QCoreApplication::applicationFilePath(), {});
+    MainQueue::submit([] { ActionMessages::shared().send(u"terminate:"_s); });
+}
+
 void AppDelegate::comeForward() {
     if (hasAgreed())
-        ActionMessages::shared().send(u"showSettings"_s);
+        showSettings();
     else
         showTerms();
 }

@@ -2,13 +2,13 @@
 
 #include "app/AfterFirstPaint.h"
 #include "app/AppDelegate.h"
+#include "app/RemoteControl.h"
 #include "app/TerminationSignals.h"
 #include "foundation/HelperPath.h"
 #include "foundation/LocalizedString.h"
 #include "foundation/Log.h"
 #include "platform/KeyboardEvents.h"
 #include "platform/Platform.h"
-#include "platform/SingleInstance.h"
 #include "viewkit/AccessibleViews.h"
 
 #include <QApplication>
@@ -25,7 +25,7 @@ constexpr int longestWaitForThreads = 200; // milliseconds
 
 std::unique_ptr<AppDelegate> VelmoraApp::appDelegate;
 
-int VelmoraApp::main() {
+int VelmoraApp::main(RemoteControl& remoteControl, RemoteCommand command) {
     QApplication::setQuitOnLastWindowClosed(false);
     const TerminationSignals terminationSignals;
     appendHelperPath();
@@ -35,14 +35,16 @@ int VelmoraApp::main() {
     installLocalizedStrings();
     installAccessibleViews();
     QThreadPool::globalInstance()->setMaxThreadCount(poolThreads);
-    appDelegate = std::make_unique<AppDelegate>();
-    QTimer::singleShot(0, appDelegate.get(), &AppDelegate::applicationDidFinishLaunching);
-    new AfterFirstPaint(QCoreApplication::instance(), [] {
-        Platform::current().keyboardEvents.prepare();
+    appDelegate = std::make_unique<AppDelegate>(remoteControl);
+    QTimer::singleShot(0, appDelegate.get(), [command] {
+        appDelegate->applicationDidFinishLaunching();
+        appDelegate->carryOutAtStart(command);
     });
+    new AfterFirstPaint(
+        QCoreApplication::instance(), [] { Platform::current().keyboardEvents.prepare(); });
     const int status = QApplication::exec();
     // A launch from here on must not count on this instance.
-    Platform::current().singleInstance.makeRoom();
+    remoteControl.makeRoom();
     appDelegate.reset();
     // A scan or the reading of an icon may hang on a disk that does not answer.
     if (!QThreadPool::globalInstance()->waitForDone(longestWaitForThreads)) {

@@ -1,14 +1,15 @@
 // Picks the session's services and runs the application on them.
 
 #include "app/AfterFirstPaint.h"
+#include "app/CommandLine.h"
 #include "app/LastWords.h"
+#include "app/RemoteControl.h"
 #include "app/VelmoraApp.h"
 #include "foundation/HomeFolder.h"
 #include "foundation/SystemRoom.h"
 #include "platform/EitherAppearance.h"
 #include "platform/EitherTrayHost.h"
 #include "platform/Platform.h"
-#include "platform/SingleInstance.h"
 #include "platform/freedesktop/LateGio.h"
 #include "platform/freedesktop/SessionBus.h"
 #include "platform/freedesktop/StatusNotifierTrayHost.h"
@@ -18,6 +19,7 @@
 #include <array>
 #include <clocale>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <fontconfig/fontconfig.h>
@@ -73,14 +75,32 @@ private:
 
 int main(int argc, char** argv) {
     tidyInheritance();
+    const CommandLine line = readCommandLine({argv, static_cast<std::size_t>(argc)});
+    if (!line.error.isEmpty()) {
+        std::fputs(qUtf8Printable(line.error + u'\n'), stderr);
+        return 2;
+    }
+    if (!line.answer.isEmpty()) {
+        std::puts(qUtf8Printable(line.answer));
+        return EXIT_SUCCESS;
+    }
     installLastWords();
     if (!hasSystemRoom(startDescriptors, startMemory))
         endWithReason("too few files may be open, or too little memory is left.");
     const auto session = X11Session::create();
     if (!session)
         endWithReason("it needs an X11 display, and none answers.");
-    if (!session->singleInstance().claim())
-        return EXIT_SUCCESS; // the one that runs comes forward
+    RemoteControl remoteControl(qEnvironmentVariable("DISPLAY"));
+    switch (remoteControl.claim(remoteCommandName(line.command))) {
+    case RemoteControl::Claim::handedOver:
+        return EXIT_SUCCESS;
+    case RemoteControl::Claim::noAnswer:
+        endWithReason("the instance that runs does not answer.");
+    case RemoteControl::Claim::first:
+        break;
+    }
+    if (line.command == RemoteCommand::quit)
+        return EXIT_SUCCESS;
     QApplication::setApplicationName(u"velmora"_s);
     QApplication::setDesktopFileName(u"velmora"_s);
     // As Qt does: from here on the thread below and Qt see the same.
@@ -103,7 +123,6 @@ int main(int argc, char** argv) {
         .keyboardEvents = session->keyboardEvents(),
         .panelWindows = session->panelWindows(),
         .screens = session->screens(),
-        .singleInstance = session->singleInstance(),
         .trayHost = trayHost,
         .windowActivation = session->windowActivation(),
         .workspace = workspace,
@@ -113,5 +132,5 @@ int main(int argc, char** argv) {
     startNoSessionBus();
     // Not with the first use: by then an update may have replaced the module.
     new AfterFirstPaint(&application, loadGio);
-    return VelmoraApp::main();
+    return VelmoraApp::main(remoteControl, line.command);
 }

@@ -8,7 +8,6 @@ class InputGrants;
 class KeyboardEvents;
 class PanelWindows;
 class Screens;
-class SingleInstance;
 class TrayHost;
 class WindowActivation;
 class Workspace;
@@ -23,7 +22,6 @@ struct Platform {
     KeyboardEvents& keyboardEvents;
     PanelWindows& panelWindows;
     Screens& screens;
-    SingleInstance& singleInstance;
     TrayHost& trayHost;
     WindowActivation& windowActivation;
     Workspace& workspace;

@@ -20,8 +20,7 @@ SettingsView::SettingsView(const SettingsServices& services) {
     tabBar()->setExpanding(false);
     addTab(
         new VelmoraSettingsView(
-            services.shortcutManager, services.inputGrants, services.relaunch,
-            services.infoDictionary),
+            services.shortcutManager, services.inputGrants, services.infoDictionary),
         symbolIcon(u"menubar.rectangle"_s), localizedString("settings_tab_velmora"));
     addTab(
         new MouseSettingsView(services.mouseManager, services.inputGrants),

@@ -13,7 +13,6 @@ struct SettingsServices {
     ShortcutManager& shortcutManager;
     MouseButtonManager& mouseManager;
     InputGrants& inputGrants;
-    Relaunch relaunch;
     std::optional<QVariantMap> infoDictionary;
     int barHeight = 0; ///< points that the bar covers at the top of the primary screen
 };

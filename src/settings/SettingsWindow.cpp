@@ -8,7 +8,6 @@
 #include "model/ShortcutManager.h"
 #include "overlay/ScreenManager.h"
 #include "platform/Platform.h"
-#include "platform/Relaunch.h"
 #include "platform/WindowActivation.h"
 #include "settings/AboutView.h"
 #include "settings/MainMenuBar.h"
@@ -88,10 +87,6 @@ SettingsWindow& SettingsWindow::shared() {
                 .shortcutManager = ShortcutManager::shared(),
                 .mouseManager = MouseButtonManager::shared(),
                 .inputGrants = Platform::current().inputGrants,
-                .relaunch =
-                    [](std::function<void()> completion) {
-                        relaunch(Platform::current().singleInstance, std::move(completion));
-                    },
                 .infoDictionary = Bundle::infoDictionary(),
                 .barHeight = qCeil(ScreenManager::shared().getMenuBarHeight())};
         });

@@ -2,7 +2,6 @@
 
 #include "foundation/ActionMessages.h"
 #include "foundation/LocalizedString.h"
-#include "foundation/MainQueue.h"
 #include "model/ShortcutManager.h"
 #include "settings/RecordListPane.h"
 #include "settings/ShortcutEditorView.h"
@@ -35,9 +34,8 @@ RecordRow describe(const ShortcutButton& shortcut) {
 } // namespace
 
 VelmoraSettingsView::VelmoraSettingsView(
-    ShortcutManager& shortcutManager, InputGrants& inputGrants, Relaunch relaunch,
-    std::optional<QVariantMap> infoDictionary)
-    : relaunch_(std::move(relaunch)) {
+    ShortcutManager& shortcutManager, InputGrants& inputGrants,
+    std::optional<QVariantMap> infoDictionary) {
     ShortcutManager& store = shortcutManager;
     auto* pane = new RecordListPane(
         localizedString("shortcuts_title"),
@@ -72,10 +70,7 @@ VelmoraSettingsView::VelmoraSettingsView(
 }
 
 void VelmoraSettingsView::restartApp() {
-    const auto terminate = [] {
-        MainQueue::submit([] { ActionMessages::shared().send(u"terminate:"_s); });
-    };
-    relaunch_(terminate);
+    ActionMessages::shared().send(u"restart"_s);
 }
 
 } // namespace velmora

@@ -85,9 +85,9 @@ void Session::launch(Launch launch) {
         throw std::runtime_error("the bar did not come up:\n" + log().join(u'\n').toStdString());
 }
 
-std::unique_ptr<Program> Session::launchAnother() const {
+std::unique_ptr<Program> Session::launchAnother(const QStringList& arguments) const {
     return std::make_unique<Program>(
-        options_.program, options_.arguments, environment(), logFile());
+        options_.program, options_.arguments + arguments, environment(), logFile());
 }
 
 void Session::expectEndOfSuccessor(qint64 processId) {

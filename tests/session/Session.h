@@ -43,8 +43,8 @@ public:
     void launch(Launch launch = Launch::UntilTheBarIsThere);
     /// The program launched last.
     Program& program() { return *program_; }
-    /// Starts the program once more beside it.
-    std::unique_ptr<Program> launchAnother() const;
+    /// Starts the program once more beside it, with `arguments` beside those of the session.
+    std::unique_ptr<Program> launchAnother(const QStringList& arguments = {}) const;
     /// Looks at the end of an instance that the program started in its place.
     static void expectEndOfSuccessor(qint64 processId);
 

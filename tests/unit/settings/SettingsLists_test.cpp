@@ -86,7 +86,7 @@ protected:
     UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
     ShortcutManager store_{defaults_};
     test::FakeInputGrants inputGrants_;
-    VelmoraSettingsView view_{store_, inputGrants_, {}, {}};
+    VelmoraSettingsView view_{store_, inputGrants_, {}};
 };
 
 TEST_F(SettingsListsTest, TheSelectionIsARecordAndGoesOnlyWithIt) {

@@ -55,7 +55,6 @@ protected:
                                    .shortcutManager = shortcuts_,
                                    .mouseManager = mouse_,
                                    .inputGrants = inputGrants_,
-                                   .relaunch = {},
                                    .infoDictionary = Bundle::infoDictionary()};
                            }};
 

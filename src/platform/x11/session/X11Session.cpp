@@ -6,7 +6,6 @@
 #include "platform/x11/screens/X11Screens.h"
 #include "platform/x11/session/X11Accessibility.h"
 #include "platform/x11/session/X11Appearance.h"
-#include "platform/x11/session/X11SingleInstance.h"
 #include "platform/x11/session/X11TrayHost.h"
 #include "platform/x11/session/X11WindowActivation.h"
 #include "platform/x11/synthesis/X11KeyboardEvents.h"
@@ -47,8 +46,7 @@ std::unique_ptr<X11Session> X11Session::create() {
 }
 
 X11Session::X11Session(std::unique_ptr<X11Connection> connection)
-    : connection_(std::move(connection)),
-      singleInstance_(std::make_unique<X11SingleInstance>(*connection_)) {}
+    : connection_(std::move(connection)) {}
 
 X11Session::~X11Session() = default;
 

@@ -10,7 +10,6 @@ class InputGrants;
 class KeyboardEvents;
 class PanelWindows;
 class Screens;
-class SingleInstance;
 class TrayHost;
 class WindowActivation;
 class X11Connection;
@@ -30,7 +29,6 @@ public:
     PanelWindows& panelWindows();
     Screens& screens();
     /// Needs no application object.
-    SingleInstance& singleInstance() { return *singleInstance_; }
     TrayHost& trayHost();
     WindowActivation& windowActivation();
 
@@ -41,7 +39,6 @@ private:
     Services& services();
 
     std::unique_ptr<X11Connection> connection_;
-    std::unique_ptr<SingleInstance> singleInstance_;
     std::unique_ptr<Services> services_;
 };
 
