@@ -187,13 +187,12 @@ TEST_F(ContentViewTest, TheMenuSendsItsMessages) {
     test::Mouse(*view).click(centre(*view->findChild<MenuButton*>()));
     auto* menu = qobject_cast<PopupMenu*>(QApplication::activePopupWidget());
     ASSERT_TRUE(menu);
-    for (const auto& [item, name] :
-         {std::pair(0, u"toggleOverlayMenu"_s), {2, u"showSettings"_s}, {4, u"quitApp"_s}}) {
-        int sent = 0;
-        ActionMessages::shared().setHandler(name, [&sent] { ++sent; });
-        menu->actions().value(item)->trigger();
+    QStringList sent;
+    for (const QString& name : {u"toggleOverlayMenu"_s, u"showSettings"_s, u"quitApp"_s}) {
+        ActionMessages::shared().setHandler(name, [&sent, name] { sent << name; });
+        menu->actions().value(int(sent.size()) * 2)->trigger(); // separators between them
         ActionMessages::shared().setHandler(name, {});
-        EXPECT_EQ(sent, 1) << item;
+        EXPECT_EQ(sent.value(sent.size() - 1), name);
     }
     menu->close();
 }
