@@ -23,13 +23,20 @@ public:
 
     std::optional<KeyboardEvent>
     createKeyboardEvent(EventSource&, KeyCode keyCode, bool keyDown) override {
-        if (!(keyDown ? createsKeyDown : createsKeyUp))
+        if (!isKey(keyCode) || !(keyDown ? createsKeyDown : createsKeyUp))
             return std::nullopt;
         // As if the user held every modifier.
         return KeyboardEvent{keyCode, keyDown, 0x1E0000};
     }
 
-    void post(const KeyboardEvent& event) override { posted.push_back(event); }
+    void post(const KeyboardEvent& event) override {
+        if (isKey(event.keyCode))
+            posted.push_back(event);
+    }
+
+private:
+    /// Whether an ANSI keyboard has a key of that code.
+    static bool isKey(KeyCode keyCode) { return keyCode < 127 && keyCode != 52; }
 };
 
 } // namespace velmora::test

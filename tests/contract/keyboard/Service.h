@@ -8,10 +8,15 @@
 
 namespace velmora::test {
 
-/// A running session's keyboard events, as the program has them.
+/// A session's keyboard events, as the program has them.
 struct Service {
-    std::unique_ptr<X11Session> session = X11Session::create();
-    KeyboardEvents& events = session->keyboardEvents();
+    /// Those of a running session, or of `fake`.
+    explicit Service(KeyboardEvents* fake = nullptr)
+        : session(fake ? nullptr : X11Session::create()),
+          events(fake ? *fake : session->keyboardEvents()) {}
+
+    std::unique_ptr<X11Session> session;
+    KeyboardEvents& events;
     std::unique_ptr<EventSource> source =
         events.createEventSource(EventSourceState::combinedSessionState);
 
