@@ -3,10 +3,9 @@
 #include "overlay/ScreenManager.h"
 #include "support/FakeAccessibility.h"
 #include "support/FakeInputGrants.h"
+#include "support/FakePanels.h"
 #include "support/FakeScreens.h"
 #include "support/TestDisplay.h"
-
-#include <QWidget>
 
 #include <gtest/gtest.h>
 
@@ -17,24 +16,6 @@ namespace velmora {
 namespace {
 
 constexpr KeyCode positionOfM = 46;
-
-/// Makes windows that nobody sees.
-struct NoPanels : PanelWindows {
-    struct Panel : PanelWindow {
-        void setLevel(int) override {}
-        void setCollectionBehavior(unsigned) override {}
-        void setBackgroundColor(const QColor&) override {}
-        void setHasShadow(bool) override {}
-        void setOpaque(bool) override {}
-        void setIgnoresMouseEvents(bool) override {}
-        void setAlphaValue(double) override {}
-        void orderFrontRegardless() override {}
-        void setContentView(QWidget* view) override { delete view; }
-    };
-    std::unique_ptr<PanelWindow> create(const QRectF&, unsigned) override {
-        return std::make_unique<Panel>();
-    }
-};
 
 class HotKeyManagerTest : public testing::Test {
 protected:
@@ -54,7 +35,7 @@ protected:
 
     test::FakeScreens screens_;
     ScreenManager screenManager_{screens_};
-    NoPanels windows_;
+    test::FakePanels windows_;
     OverlayController controller_{screenManager_, windows_};
     test::FakeAccessibility accessibility_;
     test::FakeInputGrants inputGrants_;
