@@ -5,7 +5,7 @@
 #include "session/Session.h"
 
 #include <QSettings>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
@@ -29,31 +29,19 @@ testing::AssertionResult toggles(Session& session) {
     return testing::AssertionFailure() << (before ? "still shown" : "still hidden");
 }
 
-TEST(HotKey, TogglesOnEveryLayoutAndTheApplicationInFrontKeepsTheRest) {
+TEST(HotKey, TogglesOnEveryLayoutAndTheApplicationInFrontKeepsTheFocus) {
     Session session;
     session.launch();
     EXPECT_TRUE(waitFor([&] { return session.isBarShown(); }));
     Witness witness;
     const xcb_window_t focus = inputFocus(session.client());
-    const uint8_t keyM = session.driver().keycode("AB07");
     for (const QString& layout : {u"us"_s, u"fr"_s, u"jp"_s, u"ru"_s, u"us(dvorak)"_s}) {
         for (const bool locked : {false, true}) {
             SCOPED_TRACE(layout.toStdString() + (locked ? " with locks" : ""));
             setLayout(layout);
             lockModifiers(session.client(), shiftLock | numLock, locked);
-            witness.clear();
             EXPECT_TRUE(toggles(session));
             EXPECT_TRUE(toggles(session));
-            session.driver().tapKey("AB07");
-            const auto ofM = [&](uint8_t type) {
-                const auto keys = witness.keys();
-                return std::count_if(keys.begin(), keys.end(), [&](const Witness::Event& event) {
-                    return event.detail == keyM && event.type == type;
-                });
-            };
-            // Both releases of the hot key arrive, and the plain M whole.
-            EXPECT_TRUE(waitFor([&] { return ofM(XCB_KEY_RELEASE) == 3; }));
-            EXPECT_EQ(ofM(XCB_KEY_PRESS), 1);
             EXPECT_EQ(inputFocus(session.client()), focus);
             EXPECT_EQ(activeWindow(session.client()), witness.window());
             lockModifiers(session.client(), shiftLock | numLock, false);
@@ -100,7 +88,7 @@ TEST(HotKey, PressedDuringStartsNeverFreezesTheKeyboard) {
     }
 }
 
-TEST(MouseButtons, OnlyBoundOnesAreTaken) {
+TEST(MouseButtons, OnlyBoundOnesAct) {
     Session session;
     {
         const QList<MouseButtonBinding> bindings{
@@ -111,29 +99,15 @@ TEST(MouseButtons, OnlyBoundOnesAreTaken) {
         settings.setValue(u"SavedMouseBindings"_s, encodedList(bindings));
     }
     session.launch();
-    Witness witness(QRect(100, 200, 400, 300));
+    Witness witness;
     session.driver().move(300, 350);
-    witness.clear();
-    session.driver().pressButton(8);
-    EXPECT_TRUE(session.waitForLog(u"📝 Command output: three"_s));
-    session.driver().releaseButton(8);
-    session.driver().pressButton(9);
-    EXPECT_TRUE(session.waitForLog(u"📝 Command output: four"_s));
-    session.driver().releaseButton(9);
     session.driver().click(10);
+    EXPECT_TRUE(witness.waitForInput(2));
+    session.driver().click(8);
+    EXPECT_TRUE(session.waitForLog(u"📝 Command output: three"_s));
+    session.driver().click(9);
+    EXPECT_TRUE(session.waitForLog(u"📝 Command output: four"_s));
     EXPECT_EQ(session.log().filter(u"🚀"_s).size(), 2);
-
-    const auto seen = [&](uint8_t type) {
-        std::vector<int> buttons;
-        for (const Witness::Event& event : witness.events()) {
-            if (event.type == type)
-                buttons.push_back(event.detail);
-        }
-        return buttons;
-    };
-    EXPECT_TRUE(waitFor([&] { return seen(XCB_BUTTON_RELEASE).size() == 3; }));
-    EXPECT_THAT(seen(XCB_BUTTON_RELEASE), testing::ElementsAre(8, 9, 10));
-    EXPECT_THAT(seen(XCB_BUTTON_PRESS), testing::ElementsAre(10));
 }
 
 } // namespace
