@@ -170,7 +170,8 @@ void RemoteControl::read(std::list<Caller>::iterator caller) {
     // Taken out first: the command may end the program.
     Caller taken = std::move(*caller);
     callers_.erase(caller);
-    taken.notifier.release()->deleteLater();
+    taken.notifier->setEnabled(false);
+    taken.notifier.release()->deleteLater(); // this is called by it
     if (end < 0)
         return;
     handler_(taken.received.left(end));
