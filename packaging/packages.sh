@@ -1,4 +1,4 @@
-# Debian packages that Velmora needs, and their installation. Sourced by ./run and ./test.
+# Debian packages that Velmora needs, and their installation. Sourced by ./run, ./test and ./check.
 
 # To build it.
 build_packages=(
@@ -19,6 +19,9 @@ test_packages=(
     libgtest-dev libgmock-dev xvfb openbox xfwm4 i3-wm picom dbus x11-utils x11-xserver-utils x11-xkb-utils
     fonts-noto-cjk trayer xfce4-panel strace
 )
+
+# For ./check.
+check_packages=(clang-format clang-tidy cppcheck codespell desktop-file-utils)
 
 # For the benchmarks: what Velmora is compared with on the same display.
 bench_packages=(libbenchmark-dev xvfb sxhkd xbindkeys)
