@@ -88,6 +88,7 @@ std::vector<std::uint16_t> MouseButtonGrant::grab(const std::vector<std::uint16_
             XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_WINDOW_NONE, XCB_CURSOR_NONE, button_,
             mask));
     std::vector<std::uint16_t> granted;
+    granted.reserve(masks.size());
     for (std::size_t i = 0; i < masks.size(); ++i) {
         const XcbOwned<xcb_generic_error_t> error(xcb_request_check(connection_, asked[i]));
         if (!error)
