@@ -2,7 +2,7 @@
 
 #include "contract/panel/PanelProbe.h"
 #include "contract/panel/SessionTest.h"
-#include "platform/x11/panel/X11PanelWindows.h"
+#include "platform/x11/panel/X11PanelWindow.h"
 #include "platform/x11/screens/X11Screens.h"
 
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #include "contract/panel/PanelProbe.h"
 #include "contract/panel/SessionTest.h"
-#include "platform/x11/panel/X11PanelWindows.h"
+#include "platform/x11/panel/X11PanelWindow.h"
 #include "platform/x11/panel/X11StackKeeper.h"
 
 #include <QElapsedTimer>

@@ -1,5 +1,4 @@
-#include "platform/x11/screens/NotchedLaptops.h"
-#include "platform/x11/screens/SafeAreaInsets.h"
+#include "platform/x11/screens/CutOut.h"
 #include "platform/x11/session/X11Accessibility.h"
 
 #include <gtest/gtest.h>

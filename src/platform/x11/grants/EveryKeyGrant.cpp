@@ -26,7 +26,6 @@ EveryKeyGrant::EveryKeyGrant(
       handler_(std::move(handler)),
       retries_(pauses, [this] { obtain(); }) {
     subscription_ = connection.subscribe([this](const auto& event) { handle(event); });
-    keyboard.observe(&context_, [this] { labels_ = KeyLabels::read(connection_); });
     obtain();
 }
 
@@ -49,7 +48,7 @@ void EveryKeyGrant::obtain() {
     }
     window_ = window;
     followModifiers(true);
-    labels_ = KeyLabels::read(connection_);
+    keyboard_.labels(); // before the first key needs them
     retries_.noteSuccess();
     setState(State::granted);
 }
@@ -99,7 +98,7 @@ void EveryKeyGrant::handlePress(const xcb_input_key_press_event_t& press) {
     const auto keycode = static_cast<xcb_keycode_t>(press.detail);
     const unsigned group = press.group.effective;
     // Of modifier keys only the change of flags is told.
-    if (labels_.isModifier(keycode, group))
+    if (keyboard_.labels().isModifier(keycode, group))
         return;
     const EventFlags flags =
         keyboard_.modifiers().flags(static_cast<std::uint8_t>(press.mods.effective));
@@ -108,7 +107,7 @@ void EveryKeyGrant::handlePress(const xcb_input_key_press_event_t& press) {
     handler(
         {.keyCode = keyboard_.positions().position(keycode).value_or(kNoKeyCode),
          .flags = flags,
-         .charactersIgnoringModifiers = labels_.label(keycode, group, shift),
+         .charactersIgnoringModifiers = keyboard_.labels().label(keycode, group, shift),
          .isFresh = !(press.flags & XCB_INPUT_KEY_EVENT_FLAGS_KEY_REPEAT)});
 }
 

@@ -3,7 +3,6 @@
 #include "platform/InputGrants.h"
 #include "platform/x11/base/XInput.h"
 #include "platform/x11/grants/Retries.h"
-#include "platform/x11/keyboard/KeyLabels.h"
 #include "platform/x11/keyboard/X11Keyboard.h"
 
 #include <QPointer>
@@ -34,9 +33,7 @@ private:
     const QPointer<QWidget> view_;
     const InputGrants::KeyHandler handler_;
     xcb_window_t window_ = XCB_WINDOW_NONE; ///< while the keyboard is ours
-    KeyLabels labels_;
     Retries retries_;
-    QObject context_;
     X11Connection::Subscription subscription_;
 };
 

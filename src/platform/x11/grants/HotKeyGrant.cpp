@@ -2,7 +2,6 @@
 
 #include "foundation/LocalizedString.h"
 #include "platform/x11/grants/ChordStates.h"
-#include "platform/x11/keyboard/KeyLabels.h"
 
 #include <algorithm>
 
@@ -118,7 +117,7 @@ const QString& HotKeyGrant::name() {
         if (chord_.requiredFlags & flag)
             parts << modifier;
     }
-    parts << KeyLabels::read(connection_).label(keycode_, 0, false).toUpper();
+    parts << keyboard_.labels().label(keycode_, 0, false).toUpper();
     return name_ = u"⌨️ "_s + parts.join(u'+');
 }
 

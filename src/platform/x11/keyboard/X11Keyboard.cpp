@@ -41,9 +41,16 @@ void X11Keyboard::observe(const QObject* context, const std::function<void()>& h
     QObject::connect(&changed_, &QTimer::timeout, context, handler);
 }
 
+const KeyLabels& X11Keyboard::labels() const {
+    if (!labels_)
+        labels_ = KeyLabels::read(connection_);
+    return *labels_;
+}
+
 void X11Keyboard::read() {
     positions_ = KeyPositions::read(connection_);
     modifiers_ = ModifierMap::read(connection_);
+    labels_.reset();
 }
 
 } // namespace velmora

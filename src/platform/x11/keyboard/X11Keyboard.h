@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/x11/base/X11Connection.h"
+#include "platform/x11/keyboard/KeyLabels.h"
 #include "platform/x11/keyboard/KeyPositions.h"
 #include "platform/x11/keyboard/ModifierMap.h"
 
@@ -22,6 +23,8 @@ public:
 
     const KeyPositions& positions() const { return positions_; }
     const ModifierMap& modifiers() const { return modifiers_; }
+    /// Read when first asked for: it takes a few milliseconds.
+    const KeyLabels& labels() const;
 
     /// Calls `handler` after each change, as long as `context` lives.
     void observe(const QObject* context, const std::function<void()>& handler) const;
@@ -34,6 +37,7 @@ private:
     uint8_t xkbEvent_ = 0;
     KeyPositions positions_;
     ModifierMap modifiers_;
+    mutable std::optional<KeyLabels> labels_; ///< of the present map, once asked for
     QTimer changed_;
     X11Connection::Subscription subscription_;
 };

@@ -4,6 +4,16 @@
 #include <span>
 
 namespace velmora {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr RaiseLimiter::Time kLookInterval = 50ms;
+constexpr RaiseLimiter::Time kFirstInterval = 50ms;
+constexpr RaiseLimiter::Time kLongestInterval = 10s;
+constexpr RaiseLimiter::Time kShortestCalm = 1s;
+
+} // namespace
 
 std::vector<Restacking> restackings(std::uint32_t panel, const std::vector<WindowAbove>& above) {
     const auto isLocker = [](const WindowAbove& window) { return window.cover == Cover::locker; };
@@ -19,6 +29,21 @@ std::vector<Restacking> restackings(std::uint32_t panel, const std::vector<Windo
             steps.push_back({window.id, steps.back().window});
     }
     return steps;
+}
+
+RaiseLimiter::Time RaiseLimiter::delay(Time now) const {
+    Time next = now;
+    if (lastLook_)
+        next = std::max(next, *lastLook_ + kLookInterval);
+    if (lastRaise_)
+        next = std::max(next, *lastRaise_ + interval_);
+    return next - now;
+}
+
+void RaiseLimiter::raised(Time now) {
+    const bool calm = !lastRaise_ || now - *lastRaise_ > std::max(2 * interval_, kShortestCalm);
+    interval_ = calm ? kFirstInterval : std::min(2 * interval_, kLongestInterval);
+    lastRaise_ = now;
 }
 
 } // namespace velmora

@@ -2,7 +2,6 @@
 
 #include "platform/x11/base/X11Connection.h"
 #include "platform/x11/panel/PanelStacking.h"
-#include "platform/x11/panel/RaiseLimiter.h"
 
 #include <QElapsedTimer>
 #include <QRect>

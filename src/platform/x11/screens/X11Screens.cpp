@@ -2,9 +2,8 @@
 
 #include "platform/x11/base/WindowQueries.h"
 #include "platform/x11/base/X11Connection.h"
-#include "platform/x11/screens/NotchedLaptops.h"
+#include "platform/x11/screens/CutOut.h"
 #include "platform/x11/screens/PrimaryOutput.h"
-#include "platform/x11/screens/SafeAreaInsets.h"
 
 #include <QFile>
 #include <QGuiApplication>

@@ -2,7 +2,7 @@
 
 #include "platform/x11/grants/X11InputGrants.h"
 #include "platform/x11/keyboard/X11Keyboard.h"
-#include "platform/x11/panel/X11PanelWindows.h"
+#include "platform/x11/panel/X11PanelWindow.h"
 #include "platform/x11/screens/X11Screens.h"
 #include "platform/x11/session/X11Accessibility.h"
 #include "platform/x11/session/X11Appearance.h"

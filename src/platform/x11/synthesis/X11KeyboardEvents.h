@@ -2,7 +2,6 @@
 
 #include "platform/KeyboardEvents.h"
 #include "platform/x11/keyboard/X11Keyboard.h"
-#include "platform/x11/synthesis/Typist.h"
 
 namespace velmora {
 
@@ -10,7 +9,8 @@ namespace velmora {
 class X11KeyboardEvents : public KeyboardEvents {
 public:
     /// `keyboard` must outlive this.
-    explicit X11KeyboardEvents(const X11Keyboard& keyboard) : keyboard_(keyboard) {}
+    explicit X11KeyboardEvents(const X11Keyboard& keyboard);
+    ~X11KeyboardEvents() override;
 
     void prepare() override;
     /// Nothing when the server lacks XTEST, XKB or XInput 2.
@@ -20,6 +20,8 @@ public:
     void post(const KeyboardEvent& event) override;
 
 private:
+    class Typist;
+
     const X11Keyboard& keyboard_;
     std::unique_ptr<Typist> typist_;
 };

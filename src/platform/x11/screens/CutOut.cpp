@@ -1,4 +1,4 @@
-#include "platform/x11/screens/NotchedLaptops.h"
+#include "platform/x11/screens/CutOut.h"
 
 #include <QList>
 #include <algorithm>
@@ -43,6 +43,18 @@ bool isOf(const QByteArray& name, const NotchedLaptop& laptop) {
 }
 
 } // namespace
+
+std::optional<QMargins> statedInsets(const std::vector<std::uint32_t>& values, QSize screenSize) {
+    if (values.size() != 4)
+        return {};
+    const std::uint64_t top = values[0], left = values[1], bottom = values[2], right = values[3];
+    if (top + bottom >= static_cast<std::uint64_t>(screenSize.height()) ||
+        left + right >= static_cast<std::uint64_t>(screenSize.width()))
+        return {};
+    return QMargins(
+        static_cast<int>(left), static_cast<int>(top), static_cast<int>(right),
+        static_cast<int>(bottom));
+}
 
 int knownCutoutHeight(const QByteArray& compatible, QSize mode) {
     const QList<QByteArray> names = compatible.split('\0');
