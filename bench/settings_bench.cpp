@@ -5,13 +5,10 @@
 #include "foundation/UserDefaults.h"
 #include "model/ShortcutManager.h"
 #include "overlay/ContentView.h"
-#include "platform/Platform.h"
-#include "platform/freedesktop/LateGio.h"
 #include "platform/x11/base/QtConnection.h"
 #include "platform/x11/session/X11Session.h"
 #include "settings/SettingsWindow.h"
 #include "settings/applications/AppPickerView.h"
-#include "support/FakeTrayHost.h"
 #include "support/TestDisplay.h"
 #include "viewkit/Sheet.h"
 
@@ -206,25 +203,11 @@ int main(int argc, char** argv) {
     writeDesktopEntries(home.path() + u"/data"_s);
     TestDisplay display;
     display.startWindowManager(u"openbox"_s);
-    const auto session = X11Session::create();
+    const auto session = X11Session::open();
     if (!session)
         return 1;
     Application application(argc, argv);
-    LateAppearance appearance;
-    LateWorkspace workspace;
-    FakeTrayHost trayHost;
-    const Platform platform{
-        .accessibility = session->accessibility(),
-        .appearance = appearance,
-        .inputGrants = session->inputGrants(),
-        .keyboardEvents = session->keyboardEvents(),
-        .panelWindows = session->panelWindows(),
-        .screens = session->screens(),
-        .trayHost = trayHost,
-        .windowActivation = session->windowActivation(),
-        .workspace = workspace,
-    };
-    Platform::setCurrent(platform);
+    Session::setCurrent(*session);
     QApplication::setQuitOnLastWindowClosed(false);
 
     std::printf("| what | measured |\n|---|---|\n");

@@ -3,7 +3,7 @@
 #include "actions/KeyNames.h"
 #include "foundation/ChildProcess.h"
 #include "foundation/Log.h"
-#include "platform/Platform.h"
+#include "platform/Session.h"
 #include "platform/Workspace.h"
 
 #include <QScopeGuard>
@@ -28,7 +28,7 @@ Overloaded(Visitors...) -> Overloaded<Visitors...>;
 
 ActionEngine& ActionEngine::shared() {
     static auto* const instance =
-        new ActionEngine(Platform::current().workspace, Platform::current().keyboardEvents);
+        new ActionEngine(Session::current().workspace(), Session::current().keyboardEvents());
     return *instance;
 }
 

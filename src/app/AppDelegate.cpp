@@ -16,7 +16,7 @@
 #include "overlay/ScreenManager.h"
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
-#include "platform/Platform.h"
+#include "platform/Session.h"
 #include "settings/SettingsWindow.h"
 #include "viewkit/PopupMenu.h"
 #include "viewkit/WindowTheme.h"
@@ -49,11 +49,11 @@ bool hasRoomForWindows() {
 } // namespace
 
 AppDelegate::AppDelegate(RemoteControl& remoteControl)
-    : overlayController(ScreenManager::shared(), Platform::current().panelWindows),
+    : overlayController(ScreenManager::shared(), Session::current().panelWindows()),
       hotKeyManager(HotKeyManager::shared()),
       mouseButtonManager(MouseButtonManager::shared()),
       statusBarController(
-          Platform::current().trayHost, [] { ActionMessages::shared().send(u"showSettings"_s); }),
+          Session::current().trayHost(), [] { ActionMessages::shared().send(u"showSettings"_s); }),
       remoteControl_(remoteControl) {}
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -86,7 +86,7 @@ void AppDelegate::checkTermsAndStart() {
     WindowTheme::setSchemeSource([] {
         // While it is the desktop's: the first window brings its own.
         const bool isDark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
-        Platform::current().appearance.observe([isDark](std::optional<bool> prefersDark) {
+        Session::current().appearance().observe([isDark](std::optional<bool> prefersDark) {
             WindowTheme::setColorScheme(
                 prefersDark.value_or(isDark) ? ColorScheme::dark : ColorScheme::light);
         });
@@ -106,9 +106,9 @@ void AppDelegate::showTerms() {
 }
 
 void AppDelegate::startServices() {
-    Accessibility& accessibility = Platform::current().accessibility;
+    Accessibility& accessibility = Session::current().accessibility();
     accessibility.setPromptHandler([&accessibility] {
-        showTrustNotice(Platform::current().windowActivation, accessibility.missingExtensions());
+        showTrustNotice(Session::current().windowActivation(), accessibility.missingExtensions());
     });
     // Nothing waits for the answer.
     accessibility.isProcessTrustedWithPrompt();

@@ -3,7 +3,7 @@
 #include "app/TermsOfServiceView.h"
 #include "foundation/LocalizedString.h"
 #include "foundation/UserDefaults.h"
-#include "platform/Platform.h"
+#include "platform/Session.h"
 #include "platform/WindowActivation.h"
 #include "viewkit/WindowTheme.h"
 
@@ -34,7 +34,7 @@ protected:
 
 TermsOfServiceWindow& TermsOfServiceWindow::shared() {
     static auto* instance =
-        new TermsOfServiceWindow(UserDefaults::standard(), Platform::current().windowActivation);
+        new TermsOfServiceWindow(UserDefaults::standard(), Session::current().windowActivation());
     return *instance;
 }
 

@@ -17,10 +17,10 @@ public:
     /// The one delegate, for the life of the process.
     static std::unique_ptr<AppDelegate> appDelegate;
 
-    /// Runs the application on the current platform; returns its exit status when the event loop
-    /// ends. The application object must exist. `remoteControl` has the program's place; `command`
-    /// is carried out once the application is up.
-    static int main(RemoteControl& remoteControl, RemoteCommand command);
+    /// Runs the application in the current session, with the program's arguments; returns its exit
+    /// status when the event loop ends. `remoteControl` has the program's place; `command` is
+    /// carried out once the application is up.
+    static int main(int argc, char** argv, RemoteControl& remoteControl, RemoteCommand command);
 };
 
 } // namespace velmora

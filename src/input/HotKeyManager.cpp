@@ -2,7 +2,7 @@
 
 #include "foundation/MainQueue.h"
 #include "platform/Accessibility.h"
-#include "platform/Platform.h"
+#include "platform/Session.h"
 
 #include <QKeyEvent>
 
@@ -10,7 +10,7 @@ namespace velmora {
 
 HotKeyManager& HotKeyManager::shared() {
     static auto* instance =
-        new HotKeyManager(Platform::current().inputGrants, Platform::current().accessibility);
+        new HotKeyManager(Session::current().inputGrants(), Session::current().accessibility());
     return *instance;
 }
 

@@ -4,7 +4,7 @@
 #include "foundation/MainQueue.h"
 #include "foundation/UserDefaults.h"
 #include "platform/Accessibility.h"
-#include "platform/Platform.h"
+#include "platform/Session.h"
 
 #include <algorithm>
 #include <set>
@@ -16,8 +16,8 @@ namespace velmora {
 
 MouseButtonManager& MouseButtonManager::shared() {
     static auto* instance = new MouseButtonManager(
-        UserDefaults::standard(), Platform::current().inputGrants,
-        Platform::current().accessibility,
+        UserDefaults::standard(), Session::current().inputGrants(),
+        Session::current().accessibility(),
         [](const ShortcutAction& action) { ActionEngine::shared().execute(action); });
     return *instance;
 }

@@ -1,6 +1,6 @@
 #include "overlay/ScreenManager.h"
 
-#include "platform/Platform.h"
+#include "platform/Session.h"
 
 namespace velmora {
 namespace {
@@ -11,7 +11,7 @@ constexpr double kNotchWidthRatio = 0.3;
 } // namespace
 
 ScreenManager& ScreenManager::shared() {
-    static auto* const instance = new ScreenManager(Platform::current().screens);
+    static auto* const instance = new ScreenManager(Session::current().screens());
     return *instance;
 }
 

@@ -7,7 +7,7 @@
 #include "input/MouseButtonManager.h"
 #include "model/ShortcutManager.h"
 #include "overlay/ScreenManager.h"
-#include "platform/Platform.h"
+#include "platform/Session.h"
 #include "platform/WindowActivation.h"
 #include "settings/AboutView.h"
 #include "settings/MainMenuBar.h"
@@ -82,11 +82,11 @@ private:
 
 SettingsWindow& SettingsWindow::shared() {
     static auto* instance =
-        new SettingsWindow(UserDefaults::standard(), Platform::current().windowActivation, [] {
+        new SettingsWindow(UserDefaults::standard(), Session::current().windowActivation(), [] {
             return SettingsServices{
                 .shortcutManager = ShortcutManager::shared(),
                 .mouseManager = MouseButtonManager::shared(),
-                .inputGrants = Platform::current().inputGrants,
+                .inputGrants = Session::current().inputGrants(),
                 .infoDictionary = Bundle::infoDictionary(),
                 .barHeight = qCeil(ScreenManager::shared().getMenuBarHeight())};
         });

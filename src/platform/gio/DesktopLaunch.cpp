@@ -1,10 +1,10 @@
 #include "platform/gio/DesktopLaunch.h"
 
-#include "platform/freedesktop/TerminalCommand.h"
 #include "platform/gio/GioPointer.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <unistd.h>
 #include <variant>
 
@@ -53,6 +53,30 @@ std::variant<Entry, QString> edited(const Entry& entry, const Edit& edit) {
     if (!changed)
         return whyUnusable(QString::fromUtf8(path));
     return changed;
+}
+
+/// What to put before a command to run it in a terminal emulator; nothing when none is installed.
+std::optional<QString> terminalCommand() {
+    // The user's choice, the system's choice, then by name.
+    static constexpr struct {
+        QStringView program;
+        QStringView argument;
+    } terminals[] = {
+        {u"xdg-terminal-exec", u""},
+        {u"x-terminal-emulator", u"-e"},
+        {u"gnome-terminal", u"--"},
+        {u"konsole", u"-e"},
+        {u"xfce4-terminal", u"-x"},
+        {u"mate-terminal", u"-x"},
+        {u"kitty", u""},
+        {u"alacritty", u"-e"},
+        {u"foot", u""},
+        {u"xterm", u"-e"},
+    };
+    for (const auto& terminal : terminals)
+        if (!QStandardPaths::findExecutable(terminal.program.toString()).isEmpty())
+            return u"%1 %2"_s.arg(terminal.program, terminal.argument);
+    return std::nullopt;
 }
 
 /// The same entry with its command run in the user's terminal emulator. GIO has a list of terminals

@@ -17,6 +17,7 @@ struct GioDelete {
     void operator()(GDBusConnection* object) const { g_object_unref(object); }
     void operator()(GFile* object) const { g_object_unref(object); }
     void operator()(GKeyFile* file) const { g_key_file_free(file); }
+    void operator()(GSettingsSchema* schema) const { g_settings_schema_unref(schema); }
     void operator()(GMainContext* context) const { g_main_context_unref(context); }
     void operator()(gchar* text) const { g_free(text); }
     void operator()(gchar** texts) const { g_strfreev(texts); }

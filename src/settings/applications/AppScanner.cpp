@@ -1,7 +1,7 @@
 #include "settings/applications/AppScanner.h"
 
 #include "foundation/RegularFile.h"
-#include "platform/Platform.h"
+#include "platform/Session.h"
 #include "settings/applications/PropertyList.h"
 
 #include <QCollator>
@@ -120,7 +120,7 @@ const AppScanner& AppScanner::shared() {
         {.folders =
              {u"/Applications"_s, u"/System/Applications"_s, QDir::homePath() + u"/Applications"_s},
          .finder = u"/System/Library/CoreServices/Finder.app"_s,
-         .installed = [workspace = &Platform::current().workspace] {
+         .installed = [workspace = &Session::current().workspace()] {
              return workspace->installedApplications();
          }});
     return *instance;

@@ -12,7 +12,7 @@ namespace velmora::test {
 struct Service {
     /// Those of a running session, or of `fake`.
     explicit Service(KeyboardEvents* fake = nullptr)
-        : session(fake ? nullptr : X11Session::create()),
+        : session(fake ? nullptr : X11Session::open()),
           events(fake ? *fake : session->keyboardEvents()) {}
 
     std::unique_ptr<X11Session> session;

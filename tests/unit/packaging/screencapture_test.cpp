@@ -1,7 +1,6 @@
 // The screencapture command, run with made-up screenshot tools that write down their arguments.
 
 #include "foundation/Bundle.h"
-#include "foundation/HelperPath.h"
 
 #include <QFile>
 #include <QProcess>
@@ -73,13 +72,4 @@ TEST(Screencapture, UsesTheToolsThatAreThere) {
         const QString last = all.trimmed().section(u' ', -1);
         EXPECT_TRUE(!all.contains(u"xclip -s"_s) || !QFile::exists(last.section(u'/', 0, -2)));
     }
-}
-
-TEST(HelperPath, IsLastAndThereOnce) {
-    const QByteArray before = qgetenv("PATH");
-    appendHelperPath();
-    appendHelperPath();
-    EXPECT_EQ(qgetenv("PATH"), before + ':' + Bundle::helperPath().value().toUtf8());
-    EXPECT_FALSE(QStandardPaths::findExecutable(u"screencapture"_s).isEmpty());
-    qputenv("PATH", before);
 }

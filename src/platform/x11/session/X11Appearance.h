@@ -1,12 +1,14 @@
 #pragma once
 
-#include "platform/Appearance.h"
+#include "platform/freedesktop/DesktopAppearance.h"
 #include "platform/x11/base/X11Connection.h"
 
 namespace velmora {
 
-/// The appearance that follows from the theme which a desktop's XSETTINGS manager names: dark where
-/// a part of its name is "dark" ("Greybird-dark"), else no preference.
+/// The appearance that the desktop's own settings ask for, and where these have no preference, what
+/// follows from the theme which its XSETTINGS manager names: dark where a part of that name is
+/// "dark"
+/// ("Greybird-dark").
 class X11Appearance : public Appearance {
 public:
     explicit X11Appearance(X11Connection& connection) : connection_(connection) {}
@@ -17,12 +19,16 @@ private:
     void findManager();
     void readTheme();
     void handle(const xcb_generic_event_t& event);
+    void tell() const;
 
     X11Connection& connection_;
     X11Connection::Subscription subscription_;
     xcb_window_t manager_ = XCB_WINDOW_NONE;
     xcb_atom_t selection_ = XCB_ATOM_NONE;
     xcb_atom_t property_ = XCB_ATOM_NONE;
+    DesktopAppearance desktop_;
+    std::optional<bool> desktopPrefers_;
+    std::optional<bool> themePrefers_;
     Handler handler_;
 };
 

@@ -1,5 +1,8 @@
 #include "platform/x11/session/X11Session.h"
 
+#include "platform/freedesktop/DesktopWorkspace.h"
+#include "platform/freedesktop/Gio.h"
+#include "platform/freedesktop/SessionBus.h"
 #include "platform/x11/grants/X11InputGrants.h"
 #include "platform/x11/keyboard/X11Keyboard.h"
 #include "platform/x11/panel/X11PanelWindow.h"
@@ -24,6 +27,7 @@ struct X11Session::Services {
           screens(connection),
           trayHost(connection),
           windowActivation(connection) {
+        startNoSessionBus();
         connection.startDelivery();
     }
 
@@ -36,9 +40,10 @@ struct X11Session::Services {
     X11Screens screens;
     X11TrayHost trayHost;
     X11WindowActivation windowActivation;
+    DesktopWorkspace workspace;
 };
 
-std::unique_ptr<X11Session> X11Session::create() {
+std::unique_ptr<X11Session> X11Session::open() {
     auto connection = X11Connection::open();
     if (!connection)
         return nullptr;
@@ -54,6 +59,14 @@ X11Session::Services& X11Session::services() {
     if (!services_)
         services_ = std::make_unique<Services>(*connection_);
     return *services_;
+}
+
+QByteArrayList X11Session::qtArguments() const {
+    return {"-platform", "xcb", "-display", qgetenv("DISPLAY")};
+}
+
+QString X11Session::name() const {
+    return qEnvironmentVariable("DISPLAY");
 }
 
 Accessibility& X11Session::accessibility() {
@@ -86,6 +99,16 @@ TrayHost& X11Session::trayHost() {
 
 WindowActivation& X11Session::windowActivation() {
     return services().windowActivation;
+}
+
+Workspace& X11Session::workspace() {
+    return services().workspace;
+}
+
+void X11Session::prepareTheRest() {
+    // Not with the first use: by then an update may have replaced the module.
+    gio();
+    keyboardEvents().prepare();
 }
 
 } // namespace velmora

@@ -1,36 +1,33 @@
 #pragma once
 
+#include "platform/Session.h"
+
 #include <memory>
 
 namespace velmora {
 
-class Accessibility;
-class Appearance;
-class InputGrants;
-class KeyboardEvents;
-class PanelWindows;
-class Screens;
-class TrayHost;
-class WindowActivation;
 class X11Connection;
 
-/// The services of an X11 session over one connection of their own beside Qt's.
-class X11Session {
+/// The services of an X11 session over one connection of their own beside Qt's, with those of the
+/// freedesktop ones.
+class X11Session final : public Session {
 public:
-    /// Connects to the display that the environment names; nothing when that fails. Needs no
-    /// application object; the services do.
-    static std::unique_ptr<X11Session> create();
-    ~X11Session();
+    /// Connects to the display that the environment names; nothing when that fails.
+    static std::unique_ptr<X11Session> open();
+    ~X11Session() override;
 
-    Accessibility& accessibility();
-    Appearance& appearance();
-    InputGrants& inputGrants();
-    KeyboardEvents& keyboardEvents();
-    PanelWindows& panelWindows();
-    Screens& screens();
-    /// Needs no application object.
-    TrayHost& trayHost();
-    WindowActivation& windowActivation();
+    QByteArrayList qtArguments() const override;
+    QString name() const override;
+    Accessibility& accessibility() override;
+    Appearance& appearance() override;
+    InputGrants& inputGrants() override;
+    KeyboardEvents& keyboardEvents() override;
+    PanelWindows& panelWindows() override;
+    Screens& screens() override;
+    TrayHost& trayHost() override;
+    WindowActivation& windowActivation() override;
+    Workspace& workspace() override;
+    void prepareTheRest() override;
 
 private:
     explicit X11Session(std::unique_ptr<X11Connection> connection);

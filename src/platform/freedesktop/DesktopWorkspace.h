@@ -4,11 +4,10 @@
 
 namespace velmora {
 
-/// The workspace over desktop entries and default handlers, by way of GIO. An identifier is the id
-/// of a desktop entry, with or without ".desktop", or else that of a well-known application for
-/// which a substitute is found (applicationRole). Changes of entries and handlers made while the
-/// program runs are noticed.
-class GioWorkspace : public Workspace {
+/// The workspace over desktop entries and default handlers. An identifier is the id of a desktop
+/// entry, with or without ".desktop", or else that of a well-known application for which a
+/// substitute is found (applicationRole). Without GIO there is nothing but the list.
+class DesktopWorkspace : public Workspace {
 public:
     std::optional<QString> applicationLocation(const QString& identifier) const override;
     QStringList applicationLocations(const QString& identifier) const override;

@@ -1,4 +1,4 @@
-#include "platform/gio/GioWorkspace.h"
+#include "platform/freedesktop/DesktopWorkspace.h"
 
 #include "ApplicationsFolder.h"
 
@@ -19,7 +19,7 @@ namespace {
 const bool isolated = qputenv("XDG_DATA_DIRS", "/nonexistent") &&
                       qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
 
-class GioWorkspaceTest : public testing::Test {
+class DesktopWorkspaceTest : public testing::Test {
 protected:
     using Location = std::optional<QString>;
 
@@ -39,12 +39,12 @@ protected:
     }
 
     test::ApplicationsFolder folder;
-    GioWorkspace workspace;
+    DesktopWorkspace workspace;
 };
 
 } // namespace
 
-TEST_F(GioWorkspaceTest, FindsEntriesByIdentifier) {
+TEST_F(DesktopWorkspaceTest, FindsEntriesByIdentifier) {
     const QString plain = folder.add(u"editor"_s);
     const QString reversed = folder.add(u"org.example.Editor"_s);
     folder.add(u"gone"_s, u"Exec=/nonexistent/program"_s);
@@ -69,7 +69,7 @@ TEST_F(GioWorkspaceTest, FindsEntriesByIdentifier) {
     EXPECT_TRUE(becomes(u"late"_s, {}));
 }
 
-TEST_F(GioWorkspaceTest, FindsWhatPlaysAWellKnownApplication) {
+TEST_F(DesktopWorkspaceTest, FindsWhatPlaysAWellKnownApplication) {
     const QString browser = folder.add(u"browser"_s);
     const QString other = folder.add(u"other"_s);
     const QString chromium = folder.add(u"chromium"_s);
@@ -88,7 +88,7 @@ TEST_F(GioWorkspaceTest, FindsWhatPlaysAWellKnownApplication) {
     EXPECT_EQ(workspace.applicationLocations(u"com.google.Chrome"_s), (QStringList{own, chromium}));
 }
 
-TEST_F(GioWorkspaceTest, StartsTheProgramAsItsEntrySays) {
+TEST_F(DesktopWorkspaceTest, StartsTheProgramAsItsEntrySays) {
     const QString location = folder.add(
         u"app"_s, u"Icon=icon\nPath=%1\nExec=env VIA=%% %2 \"two words\" %f %U %i"_s.arg(
                       folder.file(QString()), folder.program()));
@@ -102,7 +102,7 @@ TEST_F(GioWorkspaceTest, StartsTheProgramAsItsEntrySays) {
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "it is a child of ours";
 }
 
-TEST_F(GioWorkspaceTest, RunsTerminalProgramsInTheTerminalEmulator) {
+TEST_F(DesktopWorkspaceTest, RunsTerminalProgramsInTheTerminalEmulator) {
     const QByteArray path = qgetenv("PATH");
     const QString tools = folder.file(u"bin"_s);
     const QString location =
@@ -121,7 +121,7 @@ TEST_F(GioWorkspaceTest, RunsTerminalProgramsInTheTerminalEmulator) {
     qputenv("PATH", path);
 }
 
-TEST_F(GioWorkspaceTest, SaysWhyAnApplicationDoesNotStart) {
+TEST_F(DesktopWorkspaceTest, SaysWhyAnApplicationDoesNotStart) {
     const std::pair<QString, QString> cases[] = {
         {folder.path(u"missing"_s), u"No such file or directory"_s},
         {folder.path({}), u"is a folder, not a desktop entry"_s},
@@ -180,7 +180,7 @@ private:
 
 } // namespace
 
-TEST_F(GioWorkspaceTest, ActivatesOverTheBus) {
+TEST_F(DesktopWorkspaceTest, ActivatesOverTheBus) {
     const QString lines = u"DBusActivatable=true\nExec="_s + folder.program();
     const QString present = folder.add(u"org.example.Present"_s, lines);
     const QString absent = folder.add(u"org.example.Absent"_s, lines);
@@ -199,4 +199,4 @@ TEST_F(GioWorkspaceTest, ActivatesOverTheBus) {
     folder.nextReport();
 }
 
-#include "GioWorkspace_test.moc"
+#include "DesktopWorkspace_test.moc"
