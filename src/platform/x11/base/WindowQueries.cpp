@@ -23,7 +23,9 @@ void alsoSelectEvents(X11Connection& connection, xcb_window_t window, xcb_event_
         connection, xcb_get_window_attributes(connection, window), nullptr));
     const std::uint32_t mask =
         (attributes ? attributes->your_event_mask : 0) | static_cast<std::uint32_t>(events);
-    xcb_change_window_attributes(connection, window, XCB_CW_EVENT_MASK, &mask);
+    const auto cookie =
+        xcb_change_window_attributes_checked(connection, window, XCB_CW_EVENT_MASK, &mask);
+    xcb_discard_reply(connection, cookie.sequence);
     xcb_flush(connection);
 }
 

@@ -15,7 +15,7 @@ std::vector<std::uint32_t> readProperty(
     X11Connection& connection, xcb_window_t window, const QByteArray& name, xcb_atom_t type);
 
 /// Adds `events` to what `connection` gets to hear of `window`: its services share one event mask
-/// a window.
+/// a window. Nothing happens where the window has gone.
 void alsoSelectEvents(X11Connection& connection, xcb_window_t window, xcb_event_mask_t events);
 
 } // namespace velmora

@@ -77,9 +77,10 @@ void X11WindowActivation::handle(const xcb_generic_event_t& event) {
 
 void X11WindowActivation::askServerTime() {
     // Appends nothing; the server announces the change with its time all the same.
-    xcb_change_property(
+    const auto cookie = xcb_change_property_checked(
         connection_, XCB_PROP_MODE_APPEND, window_, connection_.atom(kTimeProperty),
         XCB_ATOM_CARDINAL, 32, 0, nullptr);
+    xcb_discard_reply(connection_, cookie.sequence); // the window may be closed by now
     xcb_flush(connection_);
 }
 
