@@ -6,10 +6,8 @@
 #include "settings/StorageNotice.h"
 #include "viewkit/Theme.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
@@ -25,19 +23,16 @@ using Theme::defaultPadding;
 constexpr int childSpacing = 20;
 constexpr int titleFontSize = 22;
 constexpr int buttonLabelWidth = 80;
-constexpr double cornerRadius = 8;
 
 /// The body of the terms in a vertically scrolling area with a rounded, bordered background.
 class TermsText : public QScrollArea {
 public:
     TermsText() {
         setObjectName(u"termsText"_s);
-        setFrameShape(QFrame::NoFrame);
+        setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         setWidgetResizable(true);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-        // The border is painted by this widget; the viewport keeps inside it.
-        setViewportMargins(2, 2, 0, 2);
         viewport()->setAutoFillBackground(false);
 
         //: Terms of Service Content
@@ -50,26 +45,6 @@ public:
         // setWidget() turned it on; the rounded ground shows through.
         text->setAutoFillBackground(false);
         setAccessibleName(localizedString("tos.title"));
-    }
-
-protected:
-    bool event(QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            QPainter painter(this);
-            painter.setRenderHint(QPainter::Antialiasing);
-            const bool focused = hasFocus();
-            painter.setBrush(palette().base());
-            painter.setPen(
-                focused ? QPen(palette().highlight().color(), 2)
-                        : QPen(QColor(128, 128, 128, 77), 1)); // gray at opacity 0.3
-            const double inset = focused ? 1 : 0.5;
-            painter.drawRoundedRect(
-                QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
-            return true;
-        }
-        if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
-            update();
-        return QScrollArea::event(event);
     }
 };
 

@@ -9,6 +9,7 @@
 #include "foundation/Log.h"
 #include "platform/Session.h"
 #include "viewkit/AccessibleViews.h"
+#include "viewkit/Style.h"
 
 #include <QApplication>
 #include <QThreadPool>
@@ -60,6 +61,7 @@ int VelmoraApp::main(int argc, char** argv, RemoteControl& remoteControl, Remote
     // that takes no time.
     std::jthread fontConfiguration([] { FcInit(); });
     QtArguments arguments(argc, argv);
+    QApplication::setStyle(new Style); // first, or Qt makes one of its own
     const QApplication application(arguments.count(), arguments.values());
     fontConfiguration.join(); // from here on the environment may change
     QApplication::setQuitOnLastWindowClosed(false);

@@ -6,6 +6,7 @@
 #include "input/KeyCaptureAccessible.h"
 #include "input/WindowKeyEvent.h"
 #include "model/ShortcutAction.h"
+#include "viewkit/Rounded.h"
 #include "viewkit/Theme.h"
 
 #include <QKeyEvent>
@@ -18,8 +19,6 @@ using namespace Qt::StringLiterals;
 namespace velmora {
 namespace {
 
-constexpr double cornerRadius = 6;
-constexpr double focusBorderWidth = 2;
 constexpr int textInset = 10;
 constexpr int placeholderFontSize = 13;
 constexpr int combinationFontSize = 14;
@@ -228,13 +227,9 @@ void KeyCaptureNSView::paintEvent(QPaintEvent*) {
 }
 
 void KeyCaptureNSView::draw(QPainter& painter) const {
-    const double inset = hasFocus() ? focusBorderWidth / 2 : 0;
-    painter.setBrush(palette().base());
-    painter.setPen(
-        hasFocus() ? QPen(palette().highlight().color(), focusBorderWidth) : QPen(Qt::NoPen));
-    painter.drawRoundedRect(
-        QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius - inset,
-        cornerRadius - inset);
+    Rounded::fill(painter, rect(), Rounded::controlRadius, palette().color(QPalette::Base));
+    if (hasFocus())
+        Rounded::drawFocusRing(painter, rect(), Rounded::controlRadius);
 
     const bool isEmpty = shown_.modifiers.isEmpty() && shown_.key.isEmpty();
     const QFont textFont = isEmpty ? Theme::systemFont(placeholderFontSize)

@@ -4,6 +4,7 @@
 #include "input/KeyCaptureField.h"
 #include "input/KeyCaptureNSView.h"
 #include "viewkit/PlainButton.h"
+#include "viewkit/Rounded.h"
 #include "viewkit/Theme.h"
 
 #include <QHBoxLayout>
@@ -18,7 +19,6 @@ namespace {
 constexpr int fieldHeight = 40;
 constexpr int childSpacing = 4;
 constexpr int footerFontSize = 11;
-constexpr double cornerRadius = 6;
 constexpr int outlineWidth = 2;
 constexpr QColor outlineColor(128, 128, 128, 77); // gray at opacity 0.3
 
@@ -33,12 +33,9 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(
-            QPen(isFocused_->value() ? palette().highlight().color() : outlineColor, outlineWidth));
-        const double inset = outlineWidth / 2.0;
-        painter.drawRoundedRect(
-            QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
+        Rounded::drawFocusRing(
+            painter, rect(), Rounded::controlRadius + outlineWidth / 2.0,
+            isFocused_->value() ? WindowTheme::colors().accent : outlineColor);
     }
 
 private:

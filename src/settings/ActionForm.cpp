@@ -23,6 +23,7 @@ namespace {
 
 constexpr int commandHeight = 80;
 constexpr int commandPadding = 4;
+constexpr int commandMargin = 6;     ///< between its frame and the text
 constexpr int keyCaptureHeight = 42; ///< of its field and outline
 constexpr int parameterSpacing = 4;
 constexpr int noteFontSize = 10; ///< below a field
@@ -88,7 +89,7 @@ ActionForm::ActionForm(const QString& heading, ActionFields fields, InputGrants&
     keyNotifier_ = keyValue_->addNotifier([this] { Q_EMIT fieldsChanged(); });
     typePicker->setCurrentIndex(static_cast<int>(fields_.type));
     setType(fields_.type);
-    connect(typePicker, &QComboBox::currentIndexChanged, this, [this](int index) {
+    connect(typePicker, &PopUpButton::currentIndexChanged, this, [this](int index) {
         setType(static_cast<ActionType>(index));
         Q_EMIT typeChanged();
         Q_EMIT fieldsChanged();
@@ -165,6 +166,7 @@ QWidget* ActionForm::makeCommandParameter() {
     font.setPixelSize(WindowTheme::fontSize);
     command->setFont(font);
     command->setFixedHeight(commandHeight);
+    command->document()->setDocumentMargin(commandMargin);
     command->setTabChangesFocus(true);
     command->setAccessibleName(localizedString("label_command"));
     connect(command, &QPlainTextEdit::textChanged, this, [this, command] {

@@ -32,9 +32,8 @@ FormGroup::FormGroup(const QString& heading) {
     setAccessibleName(heading);
     QLabel* title = headline(heading);
     title->setForegroundRole(QPalette::PlaceholderText); // the secondary colour
-    auto* box = new QWidget;
-    box->setAttribute(Qt::WA_StyledBackground);
-    box->setProperty("box", true);
+    auto* box = new QFrame;
+    box->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     rows_ = new QVBoxLayout(box);
     rows_->setContentsMargins(
         Theme::defaultPadding, Theme::defaultPadding, Theme::defaultPadding, Theme::defaultPadding);

@@ -1,5 +1,6 @@
 #include "settings/IconButton.h"
 
+#include "viewkit/Rounded.h"
 #include "viewkit/Symbols.h"
 #include "viewkit/Theme.h"
 
@@ -11,8 +12,6 @@ namespace {
 
 constexpr int cellSide = 50;
 constexpr int symbolFontSize = 24;
-constexpr double cornerRadius = 8;
-constexpr double outlineWidth = 2;
 
 } // namespace
 
@@ -31,40 +30,30 @@ IconButton::IconButton(const QString& icon, bool isSelected, std::function<void(
 void IconButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor accent = palette().color(QPalette::Highlight);
+    const QColor accent = WindowTheme::colors().accent;
     const QRectF cell =
         QRectF(rect()).marginsRemoved(QMarginsF(ringMargin, ringMargin, ringMargin, ringMargin));
     const float strength = isDown() ? 2.5F : isHovered() ? 1.7F : 1.0F;
-    painter.setBrush(
+    Rounded::fill(
+        painter, cell, Rounded::areaRadius,
         isSelected() ? Theme::withOpacity(accent, 0.2F * strength)
                      : Theme::withOpacity(Qt::gray, 0.1F * strength));
-    painter.setPen(Qt::NoPen);
-    painter.drawRoundedRect(cell, cornerRadius, cornerRadius);
-    painter.setBrush(Qt::NoBrush);
-    if (isSelected()) {
-        constexpr double inset = outlineWidth / 2;
-        painter.setPen(QPen(accent, outlineWidth));
-        painter.drawRoundedRect(
-            cell.adjusted(inset, inset, -inset, -inset), cornerRadius - inset,
-            cornerRadius - inset);
-    }
-    if (hasFocus()) {
-        constexpr double distance = 2.5;
-        painter.setPen(QPen(accent, 2));
-        painter.drawRoundedRect(
-            cell.adjusted(-distance, -distance, distance, distance), cornerRadius + distance,
-            cornerRadius + distance);
-    }
+    if (isSelected())
+        Rounded::drawFocusRing(painter, cell, Rounded::areaRadius);
+    if (hasFocus())
+        Rounded::drawFocusRing(
+            painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5),
+            Rounded::areaRadius + ringMargin - 0.5);
     const double side = Symbols::sideLength(symbolFontSize);
     QRectF symbol(0, 0, side, side);
     symbol.moveCenter(cell.center());
     if (Symbols::contains(icon_)) {
-        Symbols::paint(painter, icon_, symbol, palette().color(QPalette::WindowText));
+        Symbols::paint(painter, icon_, symbol, WindowTheme::colors().text);
         return;
     }
     // Stands in for a symbol that is not there: an empty frame, as the bar shows none either.
-    painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1.5, Qt::DashLine));
-    painter.drawRoundedRect(symbol, cornerRadius / 2, cornerRadius / 2);
+    painter.setPen(QPen(WindowTheme::colors().secondaryText, 1.5, Qt::DashLine));
+    painter.drawRoundedRect(symbol, Rounded::areaRadius / 2, Rounded::areaRadius / 2);
 }
 
 void IconButton::keyPressEvent(QKeyEvent* event) {

@@ -53,10 +53,6 @@ MainMenuBar::MainMenuBar(const QList<MenuModel>& menus) {
     connect(open, &QShortcut::activated, this, [this] { setActiveAction(actions().value(0)); });
 }
 
-bool MainMenuBar::eventFilter(QObject* /*object*/, QEvent* /*event*/) {
-    return false;
-}
-
 void MainMenuBar::addEntries(PopupMenu& menu, const QList<MenuEntry>& entries) {
     for (const MenuEntry& entry : entries) {
         if (entry.isSeparator()) {

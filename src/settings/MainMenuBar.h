@@ -10,8 +10,7 @@ class PopupMenu;
 
 /// The application's main menu as a window's menu bar. Messages of editing ("copy:", …) act on the
 /// field with the keyboard focus and are off while there is none; all others are sent as action
-/// messages. F10 opens it from the keyboard; Alt alone does not, being the hot key's modifier: its
-/// release after Option+M would take the keyboard away from the window.
+/// messages. F10 opens it from the keyboard; Alt alone, the hot key's modifier, does not.
 class MainMenuBar : public QMenuBar {
     Q_OBJECT
 public:
@@ -19,10 +18,6 @@ public:
 
     /// The entries whose key equivalents act everywhere in the window: all but those of editing.
     const QList<QAction*>& commands() const { return commands_; }
-
-protected:
-    /// Where the base class watches for Alt.
-    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void addEntries(PopupMenu& menu, const QList<MenuEntry>& entries);

@@ -5,6 +5,7 @@
 #include "settings/RecordRowDelegate.h"
 #include "viewkit/FormParts.h"
 #include "viewkit/PopupMenu.h"
+#include "viewkit/WindowTheme.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -16,6 +17,7 @@
 namespace velmora {
 namespace {
 
+constexpr int padding = 3; ///< between frame and rows
 /// While a row is dragged this close to an edge, the list scrolls.
 constexpr int scrollZone = 20;
 constexpr int scrollInterval = 16; // milliseconds
@@ -39,7 +41,8 @@ bool movesThroughRows(int key) {
 
 RecordListView::RecordListView(RecordListModel& model)
     : delegate_(new RecordRowDelegate(model, this)) {
-    setProperty("inset", true);
+    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    setViewportMargins(padding, padding, padding, padding);
     setModel(&model);
     setItemDelegate(delegate_);
     setUniformItemSizes(true);
@@ -212,7 +215,7 @@ void RecordListView::paintEvent(QPaintEvent* event) {
         viewport()->height() - 1);
     QPainter painter(viewport());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().highlight().color(), 2));
+    painter.setPen(QPen(WindowTheme::colors().accent, 2));
     painter.drawLine(QPointF(2 * knob + 2, y), QPointF(viewport()->width() - 4, y));
     painter.drawEllipse(QPointF(knob + 2, qMax(y, knob + 1)), knob, knob);
 }

@@ -1,6 +1,7 @@
 #include "settings/RecordRowDelegate.h"
 
 #include "settings/RecordListModel.h"
+#include "viewkit/Rounded.h"
 #include "viewkit/Symbols.h"
 #include "viewkit/Theme.h"
 #include "viewkit/TwoLineRow.h"
@@ -15,7 +16,6 @@ namespace {
 constexpr int verticalPadding = 4;
 constexpr int horizontalPadding = 8;
 constexpr int symbolFrame = 24;
-constexpr double selectionRadius = 6;
 constexpr double badgeRadius = 4;
 constexpr int badgeHorizontalPadding = 8;
 constexpr int badgeVerticalPadding = 2;
@@ -28,14 +28,12 @@ struct RowColours {
 };
 
 RowColours colours(const QStyleOptionViewItem& option) {
-    const QColor text = option.palette.color(QPalette::Text);
-    const QColor secondary = option.palette.color(QPalette::PlaceholderText);
+    const QColor text = WindowTheme::colors().text;
+    const QColor secondary = WindowTheme::colors().secondaryText;
     const bool hasFocus = option.widget && option.widget->hasFocus();
     if (option.state.testFlag(QStyle::State_Selected)) {
         if (hasFocus)
-            return {
-                option.palette.color(QPalette::Highlight), Qt::white,
-                Theme::withOpacity(Qt::white, 0.85F)};
+            return {WindowTheme::colors().accent, Qt::white, Theme::withOpacity(Qt::white, 0.85F)};
         return {Theme::withOpacity(text, 0.12F), text, text};
     }
     if (option.state.testFlag(QStyle::State_MouseOver))
@@ -69,13 +67,10 @@ void RecordRowDelegate::paint(
     const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const bool isCurrent = view && view->hasFocus() && view->currentIndex() == index && !isSelected;
+    const QRectF ground = QRectF(option.rect).adjusted(1, 1, -1, -1);
+    Rounded::fill(*painter, ground, Rounded::controlRadius, colour.ground);
     if (isCurrent || index == menuIndex_)
-        painter->setPen(Theme::withOpacity(option.palette.color(QPalette::Highlight), 0.7F));
-    else
-        painter->setPen(Qt::NoPen);
-    painter->setBrush(colour.ground);
-    painter->drawRoundedRect(
-        QRectF(option.rect).adjusted(1.5, 1.5, -1.5, -1.5), selectionRadius, selectionRadius);
+        Rounded::drawFocusRing(*painter, ground, Rounded::controlRadius);
 
     TwoLineRow layout(
         option.rect.adjusted(horizontalPadding, 0, -horizontalPadding, 0), option.direction,
@@ -88,9 +83,9 @@ void RecordRowDelegate::paint(
             metrics.horizontalAdvance(row.badge) + 2 * badgeHorizontalPadding,
             metrics.height() + 2 * badgeVerticalPadding);
         const QRect badge = layout.takeMark(size, Theme::defaultSpacing);
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(Theme::withOpacity(colour.secondary, isSelected ? 0.2F : 0.1F));
-        painter->drawRoundedRect(badge, badgeRadius, badgeRadius);
+        Rounded::fill(
+            *painter, badge, badgeRadius,
+            Theme::withOpacity(colour.secondary, isSelected ? 0.2F : 0.1F));
         painter->setPen(colour.secondary);
         painter->setFont(TwoLineRow::detailFont());
         painter->drawText(badge, Qt::AlignCenter | Qt::TextSingleLine, row.badge);

@@ -12,9 +12,14 @@ using namespace Qt::StringLiterals;
 
 namespace velmora {
 
+namespace {
+/// More room between a tab's symbol and its title than the style leaves, in points.
+constexpr int iconTextSpacing = 6;
+} // namespace
+
 SettingsView::SettingsView(const SettingsServices& services) {
     const int side = Symbols::sideLength(WindowTheme::fontSize);
-    setIconSize(QSize(side, side));
+    setIconSize(QSize(side + iconTextSpacing, side));
     setMinimumSize(contentSize);
     tabBar()->setDrawBase(false);
     tabBar()->setExpanding(false);

@@ -113,7 +113,7 @@ void SettingsWindow::show() {
         makeWindow();
     activation_.makeKeyAndOrderFront(*window_);
     // An open sheet holds the window's input; a sheet may have one of its own.
-    for (Sheet* sheet : window_->findChildren<Sheet*>()) {
+    for (QDialog* sheet : window_->findChildren<QDialog*>()) {
         if (sheet->isVisible())
             activation_.makeKeyAndOrderFront(*sheet);
     }

@@ -50,10 +50,7 @@ VersionLine::VersionLine(std::optional<QVariantMap> infoDictionary)
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     setFixedHeight(versionLineRoom());
     setFont(Theme::systemFont(captionFontSize));
-    if (isKnown_)
-        setForegroundRole(QPalette::PlaceholderText);
-    else
-        setStyleSheet(u"color: red"_s);
+    setForegroundRole(isKnown_ ? QPalette::PlaceholderText : QPalette::BrightText);
 }
 
 void VersionLine::showEvent(QShowEvent* event) {

@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QMenu>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -40,7 +41,10 @@ public:
 private:
     QMenu* openMenu() const {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        return menu && menu->parentWidget() == widget() ? menu : nullptr;
+        QWidget* opener = menu ? menu->parentWidget() : nullptr;
+        if (qobject_cast<QPushButton*>(opener))
+            opener = opener->window();
+        return opener == widget() ? menu : nullptr;
     }
 };
 

@@ -1,66 +1,38 @@
 #include "viewkit/Alert.h"
 
-#include "viewkit/Sheet.h"
-#include "viewkit/Theme.h"
+#include "viewkit/DestructiveButton.h"
+#include "viewkit/WindowTheme.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
-
-using namespace Qt::StringLiterals;
+#include <QGridLayout>
+#include <QIcon>
 
 namespace velmora {
-namespace {
 
-constexpr int textWidth = 340;
-constexpr int titleSize = 14;
-constexpr int margin = 20;
-
-QLabel* textLabel(const QString& text) {
-    auto* label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setFixedWidth(textWidth);
-    return label;
+QMessageBox* makeMessage(const QString& title, const QString& message, QWidget* window) {
+    constexpr int leastWidth = 400;
+    constexpr int margin = 20;
+    constexpr QSize iconSize(48, 48);
+    auto* box = new QMessageBox(window);
+    WindowTheme::follow(*box);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowTitle(window ? title : QStringLiteral("Velmora"));
+    box->setText(QStringLiteral("<b>%1</b>").arg(title.toHtmlEscaped()));
+    box->setInformativeText(message);
+    box->setIconPixmap(box->windowIcon().pixmap(iconSize, box->devicePixelRatio()));
+    auto& grid = static_cast<QGridLayout&>(*box->layout());
+    grid.setContentsMargins(margin, margin, margin, margin);
+    grid.addItem(new QSpacerItem(leastWidth - 2 * margin, 0), grid.rowCount(), 0, 1, -1);
+    return box;
 }
 
-} // namespace
-
 void presentAlert(QWidget& presenter, const AlertTexts& texts, std::function<void()> onConfirm) {
-    auto content = std::make_unique<QWidget>();
-    QWidget* view = content.get();
-    view->setWindowTitle(texts.title);
-    view->setAccessibleName(texts.title);
-    view->setAccessibleDescription(texts.message);
-
-    QLabel* title = textLabel(texts.title);
-    title->setFont(Theme::systemFont(titleSize, QFont::DemiBold));
-    auto* cancel = new QPushButton(texts.cancel);
-    cancel->setDefault(true);
-    auto* destructive = new QPushButton(texts.destructive);
-    destructive->setProperty("destructive", true);
-    QObject::connect(cancel, &QPushButton::clicked, view, [view] { Sheet::dismiss(*view); });
-    QObject::connect(
-        destructive, &QPushButton::clicked, view, [view, confirm = std::move(onConfirm)] {
-            Sheet::dismiss(*view);
-            confirm();
-        });
-
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(Theme::defaultSpacing);
-    buttons->addStretch();
-    buttons->addWidget(cancel);
-    buttons->addWidget(destructive);
-    auto* stack = new QVBoxLayout(view);
-    stack->setContentsMargins(margin, margin, margin, margin);
-    stack->setSpacing(Theme::defaultSpacing);
-    stack->addWidget(title);
-    stack->addWidget(textLabel(texts.message));
-    stack->addSpacing(Theme::defaultSpacing);
-    stack->addLayout(buttons);
-    view->setFocusProxy(cancel);
-    Sheet::present(presenter, std::move(content));
+    QWidget& window = *presenter.window();
+    QMessageBox* alert = makeMessage(texts.title, texts.message, &window);
+    alert->addActions(window.actions());
+    alert->setDefaultButton(alert->addButton(texts.cancel, QMessageBox::RejectRole));
+    alert->addButton(new DestructiveButton(texts.destructive), QMessageBox::AcceptRole);
+    QObject::connect(alert, &QDialog::accepted, &presenter, std::move(onConfirm));
+    alert->open();
 }
 
 } // namespace velmora

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QString>
+#include <QMessageBox>
 #include <functional>
-
-class QWidget;
 
 namespace velmora {
 
@@ -15,8 +13,12 @@ struct AlertTexts {
     QString destructive; ///< goes ahead
 };
 
-/// Asks in a sheet over the window of `presenter`; `onConfirm` runs when the user goes ahead, after
-/// the sheet was dismissed.
+/// Asks over the window of `presenter`, which gets no input meanwhile; `onConfirm` runs when the
+/// user goes ahead, after the question has gone. The actions of the window act in it too.
 void presentAlert(QWidget& presenter, const AlertTexts& texts, std::function<void()> onConfirm);
+
+/// A message of `title` over `message`, yet without buttons, for `window` or, without one, for the
+/// program. It destroys itself when it is closed.
+QMessageBox* makeMessage(const QString& title, const QString& message, QWidget* window);
 
 } // namespace velmora

@@ -2,70 +2,75 @@
 
 #include "viewkit/PopupMenu.h"
 
-#include <QAbstractItemView>
 #include <QKeyEvent>
-#include <QPainter>
-#include <QPainterPath>
-#include <QWheelEvent>
+#include <QStyleOptionButton>
+#include <algorithm>
 
 namespace velmora {
-namespace {
 
-constexpr double chevronInset = 14; ///< its centre from the trailing edge
-constexpr double chevronHalfWidth = 3.5;
-constexpr double chevronHeight = 3.5;
-constexpr double chevronDistance = 2; ///< from the middle line
-
-} // namespace
-
-PopUpButton::PopUpButton(const QString& name) {
+PopUpButton::PopUpButton(const QString& name) : items_(new PopupMenu(this)) {
     setAccessibleName(name);
-    view()->setAccessibleName(name);
-    setFocusPolicy(Qt::StrongFocus);
-    constexpr int everyItem = 32;
-    setMaxVisibleItems(everyItem);
-    // Queued: the keyboard and the pointer make an item the current one right after selecting it.
-    connect(
-        view()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-        &PopUpButton::takeSelection, Qt::QueuedConnection);
-    view()->installEventFilter(this);
+    setAutoDefault(false);
+    items_->setAccessibleName(name);
+    // Not setMenu(), which opens it in an event loop of its own.
+    connect(this, &QPushButton::pressed, this, &PopUpButton::openMenu);
+    connect(items_, &QMenu::aboutToHide, this, [this] { setDown(false); });
 }
 
-bool PopUpButton::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && PopupMenu::filter(static_cast<QKeyEvent&>(*event)))
-        return true;
-    // What the pointer was over last would stay selected, and what is selected cannot be selected
-    // again. Queued: the choice is still to be read from there.
-    if (event->type() == QEvent::Hide)
-        QMetaObject::invokeMethod(
-            view()->selectionModel(), &QItemSelectionModel::clear, Qt::QueuedConnection);
-    return QComboBox::eventFilter(watched, event);
+void PopUpButton::openMenu() {
+    items_->setMinimumWidth(width());
+    const QPoint below = isRightToLeft() ? QPoint(width() - items_->sizeHint().width(), height())
+                                         : QPoint(0, height());
+    items_->popup(mapToGlobal(below));
+    items_->setActiveAction(items_->actions().value(currentIndex_));
 }
 
-void PopUpButton::takeSelection() {
-    const QModelIndexList selected = view()->selectionModel()->selectedIndexes();
-    if (selected.isEmpty() || selected.first() == view()->currentIndex())
+void PopUpButton::initStyleOption(QStyleOptionButton* option) const {
+    QPushButton::initStyleOption(option);
+    option->features |= QStyleOptionButton::HasMenu;
+}
+
+void PopUpButton::addItem(const QString& title, const QVariant& value) {
+    const int index = count();
+    QAction* item = items_->addItem(title, {}, [this, index] { setCurrentIndex(index); });
+    item->setCheckable(true);
+    item->setData(value);
+    updateGeometry();
+    if (currentIndex_ < 0)
+        setCurrentIndex(index);
+}
+
+int PopUpButton::count() const {
+    return int(items_->actions().size());
+}
+
+void PopUpButton::setCurrentIndex(int index) {
+    const QList<QAction*> items = items_->actions();
+    for (int i = 0; i < items.size(); ++i)
+        items[i]->setChecked(i == index);
+    if (std::exchange(currentIndex_, index) == index)
         return;
-    setCurrentIndex(selected.first().row());
-    hidePopup();
-    view()->selectionModel()->clear();
+    setText(items[index]->text());
+    setAccessibleDescription(items[index]->iconText());
+    Q_EMIT currentIndexChanged(index);
 }
 
-void PopUpButton::paintEvent(QPaintEvent* event) {
-    QComboBox::paintEvent(event);
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(
-        palette().color(QPalette::ButtonText), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const double x = isRightToLeft() ? chevronInset : width() - chevronInset;
-    const double middle = height() / 2.0;
-    for (const int direction : {-1, 1}) {
-        const double base = middle + direction * chevronDistance;
-        QPainterPath chevron(QPointF(x - chevronHalfWidth, base));
-        chevron.lineTo(x, base + direction * chevronHeight);
-        chevron.lineTo(x + chevronHalfWidth, base);
-        painter.drawPath(chevron);
-    }
+QVariant PopUpButton::currentData() const {
+    return items_->actions().at(currentIndex_)->data();
+}
+
+int PopUpButton::findData(const QVariant& value) const {
+    const QList<QAction*> items = items_->actions();
+    const auto found = std::ranges::find(items, value, &QAction::data);
+    return found == items.end() ? -1 : int(found - items.begin());
+}
+
+QSize PopUpButton::sizeHint() const {
+    int widest = 0;
+    for (const QAction* item : items_->actions())
+        widest = qMax(widest, fontMetrics().horizontalAdvance(item->text()));
+    const QSize size = QPushButton::sizeHint();
+    return size + QSize(widest - fontMetrics().horizontalAdvance(text()), 0);
 }
 
 void PopUpButton::keyPressEvent(QKeyEvent* event) {
@@ -76,19 +81,11 @@ void PopUpButton::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_PageDown:
     case Qt::Key_Home:
     case Qt::Key_End:
-    case Qt::Key_Space:
-        showPopup();
+        openMenu();
         break;
     default:
-        if (event->text().isEmpty())
-            QComboBox::keyPressEvent(event);
-        else
-            event->ignore(); // a letter would choose an item
+        QPushButton::keyPressEvent(event);
     }
-}
-
-void PopUpButton::wheelEvent(QWheelEvent* event) {
-    event->ignore();
 }
 
 } // namespace velmora

@@ -6,7 +6,7 @@
 
 namespace velmora {
 
-/// A small menu of our own look. While it is open its key equivalents act, and those of its
+/// A small menu. While it is open its key equivalents act, and those of its
 /// window's actions.
 class PopupMenu : public QMenu {
     Q_OBJECT
@@ -28,15 +28,9 @@ public:
     /// Sets the filter of all menus. While a menu is open it holds the keyboard, and with it what
     /// global hot keys would get.
     static void setKeyFilter(KeyFilter filter);
-    /// Whether the filter dealt with `event`, which reached another kind of open menu.
-    static bool filter(const QKeyEvent& event);
 
 protected:
-    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    void applyStyle();
 };
 
 } // namespace velmora

@@ -1,5 +1,8 @@
 #include "viewkit/SegmentedPicker.h"
 
+#include "viewkit/Rounded.h"
+#include "viewkit/WindowTheme.h"
+
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -8,7 +11,6 @@
 namespace velmora {
 namespace {
 
-constexpr double cornerRadius = 6;
 constexpr int horizontalPadding = 10;
 constexpr int segmentHeight = 26;
 
@@ -30,24 +32,17 @@ protected:
 
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        if (isChecked()) {
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(palette().highlight());
-            painter.drawRoundedRect(
-                QRectF(rect()).adjusted(2, 2, -2, -2), cornerRadius - 2, cornerRadius - 2);
-        }
+        const auto& colors = WindowTheme::colors();
+        constexpr double radius = Rounded::controlRadius;
+        const QRectF bounds = rect();
+        if (isChecked())
+            Rounded::fill(painter, bounds.adjusted(2, 2, -2, -2), radius - 2, colors.accent);
         if (hasFocus()) {
-            painter.setPen(QPen(palette().highlight().color(), 2));
-            painter.setBrush(Qt::NoBrush);
-            painter.drawRoundedRect(
-                QRectF(rect()).adjusted(1, 1, -1, -1), cornerRadius - 1, cornerRadius - 1);
-            painter.setPen(QPen(palette().highlightedText().color(), 1));
-            painter.drawRoundedRect(
-                QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5), cornerRadius - 3, cornerRadius - 3);
+            Rounded::fill(
+                painter, bounds.adjusted(3, 3, -3, -3), radius - 2.5, Qt::transparent, Qt::white);
+            Rounded::drawFocusRing(painter, bounds, radius);
         }
-        painter.setPen(
-            palette().color(isChecked() ? QPalette::HighlightedText : QPalette::ButtonText));
+        painter.setPen(isChecked() ? QColor(Qt::white) : colors.text);
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, title_);
     }
 
@@ -79,11 +74,8 @@ void SegmentedPicker::setCurrentIndex(int index) {
 
 void SegmentedPicker::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(palette().button());
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRoundedRect(
-        QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
+    const auto& colors = WindowTheme::colors();
+    Rounded::fill(painter, rect(), Rounded::controlRadius, colors.button, colors.border);
 }
 
 } // namespace velmora

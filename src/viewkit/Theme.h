@@ -13,11 +13,6 @@ inline constexpr int defaultSpacing = 8;
 /// The system font at `size` points (device-independent pixels).
 QFont systemFont(int size, QFont::Weight weight = QFont::Normal);
 
-/// The accent colour of a scheme. White text on it keeps a contrast of at least 4.5 to 1.
-constexpr QColor accent(bool dark) {
-    return dark ? QColor(0x2a, 0x72, 0xdc) : QColor(0x0a, 0x62, 0xcf);
-}
-
 /// `colour` at `opacity`, 0 to 1.
 QColor withOpacity(QColor colour, float opacity);
 

@@ -1,12 +1,8 @@
 #include "viewkit/ToolTip.h"
 
-#include "viewkit/Theme.h"
-
 #include <QHelpEvent>
-#include <QPalette>
 #include <QTextBoundaryFinder>
 #include <QToolTip>
-#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -32,19 +28,6 @@ qsizetype lineEnd(const QString& text, qsizetype start) {
     return limit;
 }
 
-/// The look of all tool tips, which belongs to the application: set on the first one.
-void applyLook() {
-    static const bool once [[maybe_unused]] = [] {
-        QPalette palette = QToolTip::palette();
-        palette.setColor(QPalette::ToolTipBase, QColor(0x26, 0x26, 0x2b));
-        // The colour of the frame; the text brings its own.
-        palette.setColor(QPalette::ToolTipText, QColor(0x55, 0x55, 0x5d));
-        QToolTip::setPalette(palette);
-        QToolTip::setFont(Theme::systemFont(12));
-        return true;
-    }();
-}
-
 } // namespace
 
 QString markup(const QString& text) {
@@ -63,14 +46,10 @@ QString markup(const QString& text) {
 }
 
 void show(const QHelpEvent& event, QWidget* view, const QString& text) {
-    applyLook();
     if (text.isEmpty())
         QToolTip::hideText();
-    else if (view->testAttribute(Qt::WA_StyleSheet))
-        QToolTip::showText(event.globalPos(), markup(text), view);
     else
-        QToolTip::showText(
-            event.globalPos(), u"<div style='color:#f2f2f4'>"_s + markup(text) + u"</div>"_s, view);
+        QToolTip::showText(event.globalPos(), markup(text), view);
 }
 
 } // namespace velmora::ToolTip

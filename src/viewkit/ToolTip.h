@@ -12,8 +12,7 @@ namespace velmora::ToolTip {
 /// characters (also inside a word), cut with an ellipsis after 1,000.
 QString markup(const QString& text);
 
-/// Answers a tool-tip request on `view` with `text`; hides the tool tip when it is empty. Light on
-/// dark, unless a style sheet says how tool tips of `view` look.
+/// Answers a tool-tip request on `view` with `text`; hides the tool tip when it is empty.
 void show(const QHelpEvent& event, QWidget* view, const QString& text);
 
 } // namespace velmora::ToolTip

@@ -3,13 +3,14 @@
 #include "foundation/LocalizedString.h"
 #include "settings/applications/AppListModel.h"
 #include "viewkit/FormParts.h"
+#include "viewkit/Rounded.h"
 #include "viewkit/Symbols.h"
 #include "viewkit/Theme.h"
 #include "viewkit/TwoLineRow.h"
+#include "viewkit/WindowTheme.h"
 
 #include <QElapsedTimer>
 #include <QPainter>
-#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 using namespace Qt::StringLiterals;
@@ -24,7 +25,6 @@ constexpr int rowMargin = 8; ///< beside a row's box
 constexpr int horizontalPadding = 12;
 constexpr int verticalPadding = 8;
 constexpr int textSpacing = 12; ///< between picture, texts and mark
-constexpr double cornerRadius = 6;
 constexpr int fallbackSymbolSize = 24;
 constexpr int checkmarkSize = 13;
 /// How long looking up icons may hold the main thread before it lets events in.
@@ -67,16 +67,14 @@ private:
     void paintApp(
         QPainter& painter, const QRect& box, Qt::LayoutDirection direction, const AppInfo& app,
         bool hovered, bool current) const {
-        const QPalette& palette = view_.palette();
-        const QColor accent = palette.color(QPalette::Highlight);
-        const QColor text = palette.color(QPalette::WindowText);
+        const auto& colors = WindowTheme::colors();
         const bool isSelected = view_.model_.isSelected(app);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(current ? QPen(accent, 2) : QPen(Qt::NoPen));
-        painter.setBrush(
-            isSelected ? Theme::withOpacity(accent, 0.1F)
+        Rounded::fill(
+            painter, box, Rounded::controlRadius,
+            isSelected ? Theme::withOpacity(colors.accent, 0.1F)
                        : Theme::withOpacity(Qt::gray, hovered ? 0.12F : 0));
-        painter.drawRoundedRect(box.adjusted(1, 1, -1, -1), cornerRadius, cornerRadius);
+        if (current)
+            Rounded::drawFocusRing(painter, box, Rounded::controlRadius);
 
         TwoLineRow row(
             box.adjusted(horizontalPadding, 0, -horizontalPadding, 0), direction, AppIcons::side,
@@ -84,46 +82,42 @@ private:
         const QPixmap icon = view_.icon(app);
         if (icon.isNull()) {
             const int side = Symbols::sideLength(fallbackSymbolSize);
-            Symbols::paint(painter, u"app"_s, row.picture(square(side)), text);
+            Symbols::paint(painter, u"app"_s, row.picture(square(side)), colors.text);
         } else {
             // An icon that comes smaller is centred rather than blown up.
             painter.drawPixmap(row.picture(icon.deviceIndependentSize().toSize()), icon);
         }
         if (isSelected) {
             const int side = Symbols::sideLength(checkmarkSize);
-            Symbols::paint(painter, u"checkmark"_s, row.takeMark(square(side), textSpacing), accent);
+            Symbols::paint(
+                painter, u"checkmark"_s, row.takeMark(square(side), textSpacing), colors.accent);
         }
-        row.paintTexts(
-            painter, app.name, text, app.bundleId, palette.color(QPalette::PlaceholderText));
+        row.paintTexts(painter, app.name, colors.text, app.bundleId, colors.secondaryText);
     }
 
     void paintButton(
         QPainter& painter, const QStyleOptionViewItem& option, const QString& title, bool hovered,
         bool focused) const {
+        const QStyle& style = *view_.style();
         QStyleOptionButton button;
-        button.initFrom(&view_.buttonLook_);
         button.palette = view_.palette();
+        button.direction = option.direction;
         button.fontMetrics = QFontMetrics(view_.font());
         button.text = title;
         button.state = QStyle::State_Enabled | QStyle::State_Raised;
         button.state.setFlag(QStyle::State_MouseOver, hovered);
         button.state.setFlag(QStyle::State_HasFocus, focused);
-        QStyle& style = *view_.buttonLook_.style();
         const QSize text = button.fontMetrics.size(Qt::TextShowMnemonic, title);
-        button.rect.setSize(
-            style.sizeFromContents(QStyle::CT_PushButton, &button, text, &view_.buttonLook_));
+        button.rect.setSize(style.sizeFromContents(QStyle::CT_PushButton, &button, text));
         button.rect.moveCenter(option.rect.center());
         painter.setFont(view_.font());
-        style.drawControl(QStyle::CE_PushButton, &button, &painter, &view_.buttonLook_);
+        style.drawControl(QStyle::CE_PushButton, &button, &painter);
     }
 
     const AppListView& view_;
 };
 
-AppListView::AppListView(AppListModel& model) : model_(model), buttonLook_(this) {
-    buttonLook_.hide();
-    buttonLook_.setAutoDefault(false);
-    buttonLook_.setFocusPolicy(Qt::NoFocus);
+AppListView::AppListView(AppListModel& model) : model_(model) {
     setModel(&model);
     setItemDelegate(new Delegate(*this));
     itemDelegate()->setParent(this);
@@ -133,14 +127,9 @@ AppListView::AppListView(AppListModel& model) : model_(model), buttonLook_(this)
     setUniformItemSizes(true);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // so that rows keep their width
     setSelectionMode(SingleSelection);
     setMouseTracking(true);
-    // Always there, so that rows keep their width; off, without a handle, while all rows are in
-    // sight.
-    connect(
-        verticalScrollBar(), &QScrollBar::rangeChanged, verticalScrollBar(),
-        [this](int, int maximum) { verticalScrollBar()->setEnabled(maximum > 0); });
     connect(this, &QListView::clicked, this, &AppListView::rowPicked);
     // Queued: picking may change the rows, or close the list.
     connect(
@@ -182,10 +171,10 @@ bool AppListView::moveCurrent(int key) {
 
 void AppListView::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
-    if (model_.isLoaded())
-        paintEmptyHint(
-            *this,
-            localizedString(model_.isSearching() ? "picker_app_no_match" : "picker_app_none"));
+    const char* hint = !model_.isLoaded()     ? "picker_app_loading"
+                       : model_.isSearching() ? "picker_app_no_match"
+                                              : "picker_app_none";
+    paintEmptyHint(*this, localizedString(hint));
 }
 
 void AppListView::pickSelected() {

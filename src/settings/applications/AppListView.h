@@ -3,7 +3,6 @@
 #include "settings/applications/AppIcons.h"
 
 #include <QListView>
-#include <QPushButton>
 #include <QTimer>
 
 namespace velmora {
@@ -45,7 +44,6 @@ private:
     AppListModel& model_;
     AppIcons icons_;
     mutable QTimer iconTimer_;
-    QPushButton buttonLook_; ///< never shown: gives its look to the row that offers all
 };
 
 } // namespace velmora

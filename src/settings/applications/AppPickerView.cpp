@@ -5,15 +5,12 @@
 #include "settings/applications/AppListView.h"
 #include "settings/applications/SearchField.h"
 #include "viewkit/FormParts.h"
-#include "viewkit/ProgressIndicator.h"
 #include "viewkit/Sheet.h"
 #include "viewkit/Theme.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPointer>
-#include <QStackedLayout>
 #include <QThreadPool>
 #include <QVBoxLayout>
 #include <memory>
@@ -59,29 +56,13 @@ AppPickerView::AppPickerView(
     stack->addLayout(searchRow);
     stack->addSpacing(dividerPadding);
     stack->addWidget(divider());
-    pages_ = new QStackedLayout;
-    pages_->addWidget(makeLoadingView());
-    pages_->addWidget(list_);
-    stack->addLayout(pages_, 1);
+    stack->addWidget(list_, 1);
     // The end of the program waits for the thread.
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { scan_.request_stop(); });
 }
 
 AppPickerView::~AppPickerView() {
     scan_.request_stop();
-}
-
-QWidget* AppPickerView::makeLoadingView() {
-    auto* view = new QWidget;
-    auto* stack = new QVBoxLayout(view);
-    stack->setSpacing(Theme::defaultSpacing);
-    auto* title = new QLabel(localizedString("picker_app_loading"));
-    title->setTextFormat(Qt::PlainText);
-    stack->addStretch();
-    stack->addWidget(new ProgressIndicator, 0, Qt::AlignHCenter);
-    stack->addWidget(title, 0, Qt::AlignHCenter);
-    stack->addStretch();
-    return view;
 }
 
 void AppPickerView::showEvent(QShowEvent* event) {
@@ -106,7 +87,6 @@ void AppPickerView::loadApps() {
             MainQueue::submit([self, apps, stop] {
                 if (!self || stop.stop_requested())
                     return;
-                self->pages_->setCurrentWidget(self->list_);
                 self->model_.setApps(std::move(*apps));
                 self->goToFirstFound();
             });

@@ -7,7 +7,6 @@
 #include <functional>
 
 class QModelIndex;
-class QStackedLayout;
 
 namespace velmora {
 
@@ -36,7 +35,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QWidget* makeLoadingView();
     void loadApps();
     void setSearchText(const QString& text);
     /// Makes the first row that was found the current one, which Return picks.
@@ -50,7 +48,6 @@ private:
     AppListModel model_;
     SearchField* searchField_;
     AppListView* list_;
-    QStackedLayout* pages_; ///< the progress, then the list
 };
 
 } // namespace velmora

@@ -2,6 +2,7 @@
 
 #include "foundation/LocalizedString.h"
 #include "viewkit/PlainButton.h"
+#include "viewkit/Rounded.h"
 #include "viewkit/Symbols.h"
 #include "viewkit/Theme.h"
 #include "viewkit/WindowTheme.h"
@@ -17,7 +18,6 @@ namespace velmora {
 namespace {
 
 constexpr int padding = 8;
-constexpr double cornerRadius = 8;
 
 int symbolSide() {
     return Symbols::sideLength(WindowTheme::fontSize);
@@ -36,14 +36,11 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
         Symbols::paint(
             painter, u"xmark.circle.fill"_s, QRectF(rect()).adjusted(2, 2, -2, -2),
             palette().color(isHovered() ? QPalette::WindowText : QPalette::PlaceholderText));
-        if (hasFocus()) {
-            painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-            painter.drawEllipse(QRectF(rect()).adjusted(1, 1, -1, -1));
-        }
+        if (hasFocus())
+            Rounded::drawFocusRing(painter, rect(), width() / 2.0);
     }
 
     void keyPressEvent(QKeyEvent* event) override {
@@ -60,7 +57,6 @@ SearchField::SearchField(const QString& placeholder) : clearButton_(new ClearBut
     edit_.setPlaceholderText(placeholder);
     edit_.setAccessibleName(placeholder);
     edit_.setFrame(false);
-    edit_.setProperty("plain", true);
     edit_.installEventFilter(this);
     setFocusProxy(&edit_);
     clearButton_->hide();
@@ -82,14 +78,9 @@ SearchField::SearchField(const QString& placeholder) : clearButton_(new ClearBut
 
 void SearchField::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(Theme::withOpacity(Qt::gray, 0.1F));
-    const bool focused = edit_.hasFocus();
-    painter.setPen(focused ? QPen(palette().color(QPalette::Highlight), 2) : QPen(Qt::NoPen));
-    const double inset = focused ? 1 : 0;
-    painter.drawRoundedRect(
-        QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius - inset,
-        cornerRadius - inset);
+    Rounded::fill(painter, rect(), Rounded::areaRadius, Theme::withOpacity(Qt::gray, 0.1F));
+    if (edit_.hasFocus())
+        Rounded::drawFocusRing(painter, rect(), Rounded::areaRadius);
     const double side = symbolSide();
     Symbols::paint(
         painter, u"magnifyingglass"_s, QRectF(padding, (height() - side) / 2, side, side),

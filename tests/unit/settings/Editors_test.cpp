@@ -226,18 +226,4 @@ TEST_F(EditorTest, AButtonThatIsNotOfferedSurvivesEditing) {
     }
 }
 
-TEST_F(EditorTest, PickersChangeOnlyInTheirMenu) {
-    PopUpButton& picker = named<PopUpButton>(openMouse(), u"mouse_btn_label"_s);
-    picker.addItem(u"x"_s); // which a letter would choose
-    QTest::keyClick(&picker, Qt::Key_X);
-    QWheelEvent wheel({}, {}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&picker, &wheel);
-    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Space}) {
-        EXPECT_EQ(picker.currentData(), 3);
-        QTest::keyClick(&picker, key);
-        EXPECT_TRUE(picker.view()->isVisible());
-        picker.hidePopup();
-    }
-}
-
 } // namespace

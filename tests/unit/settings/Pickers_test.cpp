@@ -71,7 +71,7 @@ protected:
     }
     void waitForRows() {
         gate.release();
-        ASSERT_TRUE(waitFor([this] { return list().isVisible(); }));
+        ASSERT_TRUE(waitFor([this] { return picker->model().isLoaded(); }));
     }
 
     QLineEdit& edit() { return *picker->findChild<QLineEdit*>(); }

@@ -14,6 +14,7 @@
 #include "support/FakeInputGrants.h"
 #include "support/TestDisplay.h"
 #include "viewkit/Sheet.h"
+#include "viewkit/Style.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -114,6 +115,7 @@ TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
     QApplication::setActiveWindow(&window);
     const auto* bar = window.findChild<MainMenuBar*>();
     EXPECT_EQ(bar->actions()[0]->menu()->actions()[0]->text(), u"Tom && Jerry"_s);
+    QApplication::setStyle(new Style);
     // Alt alone is the hot key's: the window never sees the M.
     QTest::keyClick(&window, Qt::Key_Alt);
     EXPECT_FALSE(bar->activeAction());

@@ -1,7 +1,5 @@
-#include "viewkit/PopUpButton.h"
 #include "viewkit/PopupMenu.h"
 
-#include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <gtest/gtest.h>
@@ -32,17 +30,6 @@ TEST(PopupMenu, KeyEquivalentsActWhileItIsOpenUnlessTheFilterTakesThem) {
         menu.close();
     }
     EXPECT_EQ(chosen, QList{Qt::Key_Q});
-    PopUpButton button(u"Kind"_s);
-    button.addItems({u"a"_s, u"b"_s});
-    button.show();
-    button.showPopup();
-    for (const bool filtered : {true, false}) {
-        PopupMenu::setKeyFilter([filtered](const QKeyEvent&) { return filtered; });
-        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
-        QCoreApplication::sendEvent(button.view(), &down);
-        EXPECT_EQ(button.view()->currentIndex().row(), filtered ? 0 : 1);
-    }
-    button.hidePopup();
     PopupMenu::setKeyFilter({});
 }
 
