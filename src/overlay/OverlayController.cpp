@@ -22,10 +22,8 @@ void OverlayController::setup(std::unique_ptr<QWidget> view) {
 void OverlayController::toggleOverlay() {
     if (!panel)
         return;
-    const bool wasVisible = isOverlayVisible;
-    panel->setAlphaValue(wasVisible ? 0.0 : 1.0);
-    panel->setIgnoresMouseEvents(wasVisible);
-    isOverlayVisible = !wasVisible;
+    isOverlayVisible = !isOverlayVisible;
+    panel->setPresented(isOverlayVisible);
 }
 
 } // namespace velmora

@@ -2,6 +2,7 @@
 
 #include "platform/PanelWindow.h"
 
+#include <QWidget>
 #include <memory>
 
 namespace velmora {
@@ -11,24 +12,16 @@ namespace velmora {
 /// thread only.
 class OverlayPanel {
 public:
-    /// Non-activating panel (0x80) with a full-size content view (0x8000).
-    static constexpr unsigned styleMask = 0x8080;
-    /// The status-window level.
-    static constexpr int level = 25;
-    /// Joins all spaces (0x1), may stand beside full-screen windows (0x100).
-    static constexpr unsigned collectionBehavior = 0x101;
-
     /// `contentRect` in points, bottom-left origin of the primary screen.
-    OverlayPanel(PanelWindows& windows, const QRectF& contentRect);
+    OverlayPanel(PanelWindows& windows, const QRectF& contentRect)
+        : window_(windows.create(contentRect)) {}
 
-    /// 0.0 hides the panel, 1.0 shows it; at once, without unmapping it.
-    void setAlphaValue(double alpha) { window_->setAlphaValue(alpha); }
-
-    /// True lets every click through to what lies beneath.
-    void setIgnoresMouseEvents(bool ignores) { window_->setIgnoresMouseEvents(ignores); }
+    /// Shown at first. Hidden it is transparent and lets every click through to what lies beneath;
+    /// at once, without unmapping it.
+    void setPresented(bool presented) { window_->setPresented(presented); }
 
     /// Fills the panel with `view`, which it owns from now on.
-    void setContentView(std::unique_ptr<QWidget> view);
+    void setContentView(std::unique_ptr<QWidget> view) { window_->setContentView(view.release()); }
 
 private:
     std::unique_ptr<PanelWindow> window_;

@@ -15,11 +15,11 @@ namespace velmora::test {
 class FakePanels final : public PanelWindows {
 public:
     /// Whether a panel's content is to be seen at a point (bottom-left origin).
-    bool shows(const QPointF& point) const { return panelAt(point, false); }
+    bool shows(const QPointF& point) const { return panelAt(point); }
 
-    /// Presses the left button there; what is below a panel that ignores it feels nothing.
+    /// Presses the left button there; where none is presented nothing feels it.
     void click(const QPointF& point) {
-        if (const Panel* panel = panelAt(point, true)) {
+        if (const Panel* panel = panelAt(point)) {
             const QPointF local(point.x() - panel->frame.left(), panel->frame.bottom() - point.y());
             QMouseEvent press(
                 QEvent::MouseButtonPress, local, local, Qt::LeftButton, Qt::LeftButton, {});
@@ -27,7 +27,7 @@ public:
         }
     }
 
-    std::unique_ptr<PanelWindow> create(const QRectF& contentRect, unsigned) override {
+    std::unique_ptr<PanelWindow> create(const QRectF& contentRect) override {
         return std::make_unique<Panel>(*this, contentRect);
     }
 
@@ -40,14 +40,7 @@ private:
             std::erase(panels, this);
             delete view;
         }
-        void setLevel(int) override {}
-        void setCollectionBehavior(unsigned) override {}
-        void setBackgroundColor(const QColor&) override {}
-        void setHasShadow(bool) override {}
-        void setOpaque(bool) override {}
-        void setIgnoresMouseEvents(bool ignores) override { ignoresMouse = ignores; }
-        void setAlphaValue(double value) override { alpha = value; }
-        void orderFrontRegardless() override { isInFront = true; }
+        void setPresented(bool presented) override { isPresented = presented; }
         void setContentView(QWidget* content) override {
             delete view;
             view = content;
@@ -57,14 +50,12 @@ private:
         const QRectF frame;
         std::vector<Panel*>& panels;
         QPointer<QWidget> view;
-        bool ignoresMouse = false, isInFront = false;
-        double alpha = 1;
+        bool isPresented = true;
     };
 
-    const Panel* panelAt(const QPointF& point, bool forMouse) const {
+    const Panel* panelAt(const QPointF& point) const {
         const auto found = std::ranges::find_if(panels_, [&](const Panel* panel) {
-            return panel->frame.contains(point) && panel->isInFront && panel->alpha > 0 &&
-                   panel->view && !(forMouse && panel->ignoresMouse);
+            return panel->frame.contains(point) && panel->isPresented && panel->view;
         });
         return found == panels_.end() ? nullptr : *found;
     }

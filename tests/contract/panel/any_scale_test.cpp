@@ -63,10 +63,7 @@ TEST_F(AnyScale, StripIsCoveredToThePixel) {
     const QRectF frame = screens.mainScreen()->frame;
     for (const int pixels : {36, 32}) {
         const double height = pixels / ratio;
-        const auto panel =
-            panels.create({0, frame.height() - height, frame.width(), height}, 0x8080);
-        panel->setOpaque(false);
-        panel->orderFrontRegardless();
+        const auto panel = panels.create({0, frame.height() - height, frame.width(), height});
         auto* const view = new GradientView;
         panel->setContentView(view);
         const auto id = static_cast<xcb_window_t>(view->window()->winId());
@@ -92,11 +89,9 @@ TEST_F(AnyScale, StripIsCoveredToThePixel) {
 TEST_F(AnyScale, ALockerStaysAboveAndAnApplicationAsHighAsTheScreenDoesNot) {
     X11PanelWindows panels(*connection);
     const QRectF screen = screens.mainScreen()->frame;
-    const auto panel = panels.create({0, screen.height() - 24, screen.width(), 24}, 0x8080);
+    const auto panel = panels.create({0, screen.height() - 24, screen.width(), 24});
     auto* const view = new GradientView;
     panel->setContentView(view);
-    panel->setLevel(25);
-    panel->orderFrontRegardless();
     const auto id = static_cast<xcb_window_t>(view->window()->winId());
     const auto isAbovePanel = [&](const Popup& popup) {
         return stackPosition(client, popup.id) > stackPosition(client, id);

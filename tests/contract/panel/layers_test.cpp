@@ -80,21 +80,17 @@ protected:
     const std::unique_ptr<World> world = GetParam().make();
 };
 
-TEST_P(Layers, APanelIsSeenAndFeelsClicksAsItIsSet) {
-    auto panel = world->panels().create({0, top - height, width, height}, 0x8080);
+TEST_P(Layers, APanelIsSeenAndFeelsClicksWhileItIsPresented) {
+    auto panel = world->panels().create({0, top - height, width, height});
     const QPointF inside(700, top - 12), below(700, top - height - 12);
-    panel->setOpaque(false);
-    panel->orderFrontRegardless();
     const QPointer<GradientView> view(new GradientView);
     panel->setContentView(view);
     EXPECT_EQ(view->width(), width);
-    for (const auto& [ignores, alpha] :
-         {std::pair(false, 1.0), {true, 1.0}, {true, 0.0}, {false, 0.0}, {false, 1.0}}) {
-        SCOPED_TRACE(testing::Message() << ignores << ' ' << alpha);
-        panel->setIgnoresMouseEvents(ignores);
-        panel->setAlphaValue(alpha);
-        EXPECT_TRUE(waitFor([&] { return world->shows(inside) == (alpha > 0); }));
-        const int presses = view->presses + (!ignores && alpha > 0);
+    for (const bool presented : {true, false, true}) {
+        SCOPED_TRACE(presented);
+        panel->setPresented(presented);
+        EXPECT_TRUE(waitFor([&] { return world->shows(inside) == presented; }));
+        const int presses = view->presses + presented;
         world->click(below);
         world->click(inside);
         EXPECT_TRUE(waitFor([&] { return view->presses == presses; }));

@@ -17,13 +17,6 @@ const QPoint kOnPanel(700, 12);
 class PanelWindowContract : public SessionTest {
 protected:
     PanelWindowContract() {
-        panel->setLevel(25);
-        panel->setCollectionBehavior(0x101);
-        panel->setBackgroundColor(Qt::transparent);
-        panel->setHasShadow(false);
-        panel->setOpaque(false);
-        panel->setIgnoresMouseEvents(false);
-        panel->orderFrontRegardless();
         panel->setContentView(view);
         EXPECT_TRUE(waitFor([this] { return panelShows(); }));
     }
@@ -86,7 +79,7 @@ protected:
     X11PanelWindows windows{*connection};
     GradientView* const view = new GradientView;
     std::unique_ptr<PanelWindow> panel = windows.create(
-        {0, double(displaySize.height() - kHeight), double(displaySize.width()), kHeight}, 0x8080);
+        {0, double(displaySize.height() - kHeight), double(displaySize.width()), kHeight});
 };
 
 TEST_P(PanelWindowContract, ShowsAndTakesClicksAboveAFullScreenWindowAsItIsSetAndNeverTheFocus) {
@@ -108,14 +101,12 @@ TEST_P(PanelWindowContract, ShowsAndTakesClicksAboveAFullScreenWindowAsItIsSetAn
         EXPECT_FALSE(view->isActiveWindow());
 
         // Hidden it lets the clicks through, and is still mapped.
-        panel->setIgnoresMouseEvents(true);
-        panel->setAlphaValue(0.0);
+        panel->setPresented(false);
         EXPECT_TRUE(waitFor([this] { return pixel(client, kOnPanel) == 0xffffffff; }));
         EXPECT_GE(position(id), 0);
         clickOnPanel();
         EXPECT_TRUE(front.waitForInput(2));
-        panel->setIgnoresMouseEvents(false);
-        panel->setAlphaValue(1.0);
+        panel->setPresented(true);
         EXPECT_EQ(panelId(), id);
     }
 }
@@ -191,8 +182,8 @@ TEST_P(PanelWindowContract, LeavesAWarOverTheTop) {
     }));
     EXPECT_LE(raises, 10);
     // Shown again by the user it comes to the top at once all the same.
-    panel->setAlphaValue(0.0);
-    panel->setAlphaValue(1.0);
+    panel->setPresented(false);
+    panel->setPresented(true);
     client.sync();
     EXPECT_GT(position(panelId()), position(rival.id));
 }

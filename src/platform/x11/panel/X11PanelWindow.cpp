@@ -14,69 +14,41 @@ using namespace Qt::StringLiterals;
 namespace velmora {
 
 X11PanelWindow::X11PanelWindow(X11Connection& connection, const PanelFrame& frame)
-    : connection_(connection), extent_(frame.pixels) {
+    : extent_(frame.pixels) {
     window_.setWindowFlags(
         Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
-        Qt::WindowDoesNotAcceptFocus | Qt::X11BypassWindowManagerHint);
+        Qt::WindowDoesNotAcceptFocus | Qt::X11BypassWindowManagerHint | Qt::NoDropShadowWindowHint);
     window_.setWindowTitle(u"Velmora"_s); // for programs that list windows
     window_.setAttribute(Qt::WA_ShowWithoutActivating);
+    window_.setAttribute(Qt::WA_TranslucentBackground);
+    QPalette palette = window_.palette();
+    palette.setColor(QPalette::Window, Qt::transparent);
+    window_.setPalette(palette);
     window_.setGeometry(frame.points);
     auto* const layout = new QVBoxLayout(&window_);
     layout->setContentsMargins({});
     // The frame is fixed: content that wants more room does not get it.
     layout->setSizeConstraint(QLayout::SetNoConstraint);
+    if (frame.points.isEmpty())
+        return;
+    qApp->installNativeEventFilter(this);
+    applyExtent();
+    window_.show();
+    window_.raise();
+    syncQtConnection();
+    stackKeeper_ =
+        std::make_unique<X11StackKeeper>(connection, static_cast<xcb_window_t>(window_.winId()));
 }
 
 X11PanelWindow::~X11PanelWindow() = default;
 
-void X11PanelWindow::setLevel(int level) {
-    // Level 0 is that of ordinary windows.
-    keptAbove_ = level > 0;
-}
-
-void X11PanelWindow::setCollectionBehavior(unsigned) {
-    // Window managers leave an override-redirect window on every workspace and beside full-screen
-    // windows; there is no other way to be.
-}
-
-void X11PanelWindow::setBackgroundColor(const QColor& color) {
-    QPalette palette = window_.palette();
-    palette.setColor(QPalette::Window, color);
-    window_.setPalette(palette);
-}
-
-void X11PanelWindow::setHasShadow(bool hasShadow) {
-    window_.setWindowFlag(Qt::NoDropShadowWindowHint, !hasShadow);
-}
-
-void X11PanelWindow::setOpaque(bool opaque) {
-    window_.setAttribute(Qt::WA_TranslucentBackground, !opaque);
-}
-
-void X11PanelWindow::setIgnoresMouseEvents(bool ignores) {
-    ignoresMouseEvents_ = ignores;
-    applyShapes();
-}
-
-void X11PanelWindow::setAlphaValue(double alpha) {
-    invisible_ = !(alpha > 0);
-    applyShapes();
-    if (!invisible_ && stackKeeper_)
-        stackKeeper_->raiseNow();
-}
-
-void X11PanelWindow::orderFrontRegardless() {
-    if (window_.size().isEmpty())
+void X11PanelWindow::setPresented(bool presented) {
+    isPresented_ = presented;
+    if (!stackKeeper_)
         return;
-    qApp->installNativeEventFilter(this); // no matter how often
-    applyExtent();
-    window_.show();
-    window_.raise();
     applyShapes();
-    syncQtConnection();
-    if (keptAbove_ && !stackKeeper_)
-        stackKeeper_ = std::make_unique<X11StackKeeper>(
-            connection_, static_cast<xcb_window_t>(window_.winId()));
+    if (isPresented_)
+        stackKeeper_->raiseNow();
 }
 
 void X11PanelWindow::setContentView(QWidget* view) {
@@ -105,28 +77,22 @@ void X11PanelWindow::applyExtent() {
 }
 
 void X11PanelWindow::applyShapes() {
-    if (!window_.isVisible())
-        return;
     const auto window = static_cast<xcb_window_t>(window_.winId());
-    const auto apply = [window](xcb_shape_kind_t kind, bool empty) {
-        if (empty)
+    for (const xcb_shape_kind_t kind : {XCB_SHAPE_SK_BOUNDING, XCB_SHAPE_SK_INPUT}) {
+        if (isPresented_)
+            xcb_shape_mask(qtConnection(), XCB_SHAPE_SO_SET, kind, window, 0, 0, XCB_NONE);
+        else
             xcb_shape_rectangles(
                 qtConnection(), XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, window, 0, 0, 0,
                 nullptr);
-        else
-            xcb_shape_mask(qtConnection(), XCB_SHAPE_SO_SET, kind, window, 0, 0, XCB_NONE);
-    };
-    apply(XCB_SHAPE_SK_BOUNDING, invisible_);
-    apply(XCB_SHAPE_SK_INPUT, ignoresMouseEvents_);
+    }
     xcb_flush(qtConnection());
 }
 
 X11PanelWindows::X11PanelWindows(X11Connection& connection)
     : connection_(connection), screens_(connection) {}
 
-std::unique_ptr<PanelWindow>
-X11PanelWindows::create(const QRectF& contentRect, [[maybe_unused]] unsigned styleMask) {
-    // Every override-redirect window is a non-activating panel whose content fills it.
+std::unique_ptr<PanelWindow> X11PanelWindows::create(const QRectF& contentRect) {
     const auto screen = screens_.mainScreen();
     const QScreen* const qtScreen = QGuiApplication::primaryScreen();
     // Qt leaves the place of a screen in pixels.

@@ -19,22 +19,16 @@ struct PanelFrame {
     QRect points; ///< the least one of whole points, in Qt's coordinates, that covers it
 };
 
-/// An override-redirect window: no window manager moves, covers or focuses it. Hiding empties its
-/// shape; it stays mapped, with or without a compositor.
+/// An override-redirect window: no window manager moves, covers or focuses it, and all leave it on
+/// every workspace and beside full-screen windows. Not presented, it has empty shapes; it stays
+/// mapped, with or without a compositor.
 class X11PanelWindow : public PanelWindow, private QAbstractNativeEventFilter {
 public:
     /// An empty frame never appears: X knows no window without an extent.
     X11PanelWindow(X11Connection& connection, const PanelFrame& frame);
     ~X11PanelWindow() override;
 
-    void setLevel(int level) override;
-    void setCollectionBehavior(unsigned behavior) override;
-    void setBackgroundColor(const QColor& color) override;
-    void setHasShadow(bool hasShadow) override;
-    void setOpaque(bool opaque) override;
-    void setIgnoresMouseEvents(bool ignores) override;
-    void setAlphaValue(double alpha) override;
-    void orderFrontRegardless() override;
+    void setPresented(bool presented) override;
     void setContentView(QWidget* view) override;
 
 private:
@@ -42,17 +36,13 @@ private:
     /// screen's end cuts.
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
     void applyExtent();
-    /// Gives a window on screen the shapes that its state asks for: empty ones, or its whole
-    /// extent.
+    /// Gives the window empty shapes, or its whole extent.
     void applyShapes();
 
-    X11Connection& connection_;
-    QRect extent_; ///< pixels
-    bool keptAbove_ = false;
-    bool invisible_ = false;
-    bool ignoresMouseEvents_ = false;
+    const QRect extent_; ///< pixels
+    bool isPresented_ = true;
     QWidget window_;
-    std::unique_ptr<X11StackKeeper> stackKeeper_; ///< from the first showing on
+    std::unique_ptr<X11StackKeeper> stackKeeper_; ///< null for an empty frame
 };
 
 /// Makes the session's panel windows. Needs a QApplication on the X server of `connection`.
@@ -60,7 +50,7 @@ class X11PanelWindows : public PanelWindows {
 public:
     explicit X11PanelWindows(X11Connection& connection);
 
-    std::unique_ptr<PanelWindow> create(const QRectF& contentRect, unsigned styleMask) override;
+    std::unique_ptr<PanelWindow> create(const QRectF& contentRect) override;
 
 private:
     X11Connection& connection_;
