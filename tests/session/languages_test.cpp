@@ -24,7 +24,11 @@ TEST(Languages, AreTheSessions) {
         Session session({.agreed = false, .environment = {u"LANG="_s + language, u"LANGUAGE"_s}});
         session.launch();
         EXPECT_TRUE(waitFor([&] { return session.activeTitle() == title; }))
-            << language.toStdString() << ": " << session.activeTitle().toStdString();
+            << language.toStdString() << ": " << session.activeTitle().toStdString()
+            << (session.program().isRunning() ? ", running" : ", ended") << ", windows: "
+            << session.client().property(session.client().root(), "_NET_CLIENT_LIST").size()
+            << ", focus: " << inputFocus(session.client()) << '\n'
+            << session.log().join(u'\n').toStdString();
     }
 }
 
