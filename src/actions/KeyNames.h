@@ -7,8 +7,8 @@
 #include <array>
 #include <optional>
 
-/// The vocabulary of key and modifier names that stored actions, key synthesis and key capture
-/// share.
+/// The names of keys and modifiers, the same in stored actions, when keys are typed and when they
+/// are recorded.
 namespace velmora::KeyNames {
 
 /// A modifier by name and the event flag that stands for it.

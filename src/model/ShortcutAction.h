@@ -26,7 +26,7 @@ struct ExecuteShellCommand {
     bool operator==(const ExecuteShellCommand&) const = default;
 };
 
-/// Synthesise a key combination, given in the vocabulary of key and modifier names.
+/// Type a key combination. The names are those of KeyNames.
 struct PressKeyCombo {
     QStringList modifiers; ///< ordered; the order counts for equality
     QString key;
@@ -39,8 +39,8 @@ using ShortcutAction = std::variant<LaunchApp, OpenUrl, ExecuteShellCommand, Pre
 /// Agrees with equality.
 size_t qHash(const ShortcutAction& action, size_t seed = 0) noexcept;
 
-/// Modifiers in the words of this platform's keyboards: "Super" for Command. Names outside the
-/// vocabulary stay as they are.
+/// Modifiers in the words of this platform's keyboards: "Super" for Command. Names that no
+/// modifier has stay as they are.
 QStringList modifierWords(const QStringList& modifiers);
 
 /// One localized line that describes the action to the user.

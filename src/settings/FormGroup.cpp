@@ -16,7 +16,7 @@ namespace {
 constexpr int rowSpacing = 12;
 constexpr int labelWidth = 100;
 
-/// The width of all labels: the given one, or more where a language needs it.
+/// The width of all labels: `labelWidth`, or more where a language needs it.
 int labelColumnWidth(const QFontMetrics& metrics) {
     int width = labelWidth;
     for (const char* key :

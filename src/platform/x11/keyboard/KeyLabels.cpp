@@ -39,7 +39,7 @@ QString character(xkb_keysym_t symbol) {
 }
 
 QString name(xkb_keysym_t symbol) {
-    // "Delete" is another key, backspace, in the vocabulary above this room.
+    // "Delete" is the name of another key, backspace, in stored actions.
     if (symbol == XKB_KEY_Delete || symbol == XKB_KEY_KP_Delete)
         return u"⌦"_s;
     if (symbol == XKB_KEY_KP_Enter)
