@@ -65,17 +65,8 @@ IconPickerView::IconPickerView(
     setWindowTitle(title);
     setFixedSize(contentSize);
 
-    scrollArea_ = new QScrollArea;
-    scrollArea_->setFrameShape(QFrame::NoFrame);
-    scrollArea_->setFocusPolicy(Qt::NoFocus);
-    scrollArea_->setWidgetResizable(true);
-    scrollArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrollArea_ = scrollArea(makeGrid(selectedIcon, std::move(onPick)), title);
     scrollArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    scrollArea_->viewport()->setAutoFillBackground(false);
-    scrollArea_->setWidget(makeGrid(selectedIcon, std::move(onPick)));
-    scrollArea_->widget()->setAutoFillBackground(false);
-    scrollArea_->setAccessibleName(title);
-
     auto* stack = new QVBoxLayout(this);
     stack->setContentsMargins(0, 0, 0, 0);
     stack->setSpacing(0);

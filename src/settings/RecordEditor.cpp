@@ -32,22 +32,21 @@ RecordEditor::RecordEditor(Kind kind, std::function<void()> onCancel, InputGrant
       actionForm_(new ActionForm(
           kind_.actionHeading, kind_.action ? ActionFields(*kind_.action) : ActionFields(),
           inputGrants)),
-      scrollArea_(new QScrollArea),
+      scrollArea_(scrollArea(makeForm(), kind_.heading)),
       save_(new QPushButton(localizedString("button_save"))) {
     constexpr int padding = Theme::defaultPadding;
     setWindowTitle(kind_.heading);
     QLabel* heading = headline(kind_.heading);
     heading->setAlignment(Qt::AlignCenter);
-    scrollArea_->setFrameShape(QFrame::NoFrame);
-    scrollArea_->setFocusPolicy(Qt::NoFocus);
-    scrollArea_->setWidgetResizable(true);
-    scrollArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scrollArea_->viewport()->setAutoFillBackground(false);
-    QWidget* form = makeForm();
-    scrollArea_->setWidget(form);
-    form->setAutoFillBackground(false);
+    QWidget* form = scrollArea_->widget();
     form->installEventFilter(this);
-    scrollArea_->setAccessibleName(kind_.heading);
+    // The scroll bar takes its room from the margin: the form's lines stay where they are.
+    connect(
+        scrollArea_->verticalScrollBar(), &QScrollBar::rangeChanged, form,
+        [this, form](int, int maximum) {
+            const int bar = maximum > 0 ? scrollArea_->verticalScrollBar()->sizeHint().width() : 0;
+            form->layout()->setContentsMargins(padding, 0, padding - bar, 0);
+        });
 
     auto* cancel = new QPushButton(localizedString("button_cancel"));
     connect(cancel, &QPushButton::clicked, this, onCancel_);
@@ -92,13 +91,6 @@ QWidget* RecordEditor::makeForm() {
     groups->addWidget(kind_.group);
     groups->addWidget(actionForm_);
     groups->addStretch();
-    // The scroll bar takes its room from the margin: the form's lines stay where they are.
-    connect(
-        scrollArea_->verticalScrollBar(), &QScrollBar::rangeChanged, groups,
-        [this, groups](int, int maximum) {
-            const int bar = maximum > 0 ? scrollArea_->verticalScrollBar()->sizeHint().width() : 0;
-            groups->setContentsMargins(padding, 0, padding - bar, 0);
-        });
     connect(kind_.group, &FormGroup::changed, this, &RecordEditor::updateSaveButton);
     connect(actionForm_, &ActionForm::fieldsChanged, this, &RecordEditor::updateSaveButton);
     connect(

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollArea>
 
 namespace velmora {
 
@@ -34,6 +35,19 @@ QWidget* sheetHeader(const QString& title, const QString& close, QWidget& conten
     row->addStretch();
     row->addWidget(button);
     return header;
+}
+
+QScrollArea* scrollArea(QWidget* content, const QString& name) {
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->viewport()->setAutoFillBackground(false);
+    area->setWidget(content);
+    content->setAutoFillBackground(false);
+    area->setAccessibleName(name);
+    return area;
 }
 
 QWidget* divider() {
