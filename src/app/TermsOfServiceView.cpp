@@ -33,7 +33,6 @@ public:
         setWidgetResizable(true);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-        viewport()->setAutoFillBackground(false);
 
         //: Terms of Service Content
         auto* text = new QLabel(localizedString("tos.content"));

@@ -111,10 +111,9 @@ int ShortcutButtonView::labelWidth(int titleWidth) const {
 }
 
 QSize ShortcutButtonView::sizeHint() const {
-    static const int height = std::max(
-        Symbols::sideLength(symbolFontSize),
-        static_cast<int>(std::ceil(titleFont().metrics.height())));
-    return {labelWidth(shownTitleWidth()), height + 2 * verticalPadding};
+    // Whatever the title's font: those of some scripts ask for more than their glyphs take.
+    const int height = Symbols::sideLength(symbolFontSize) + 2 * verticalPadding;
+    return {labelWidth(shownTitleWidth()), height};
 }
 
 QString ShortcutButtonView::help() const {

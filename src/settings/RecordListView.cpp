@@ -51,7 +51,6 @@ RecordListView::RecordListView(RecordListModel& model)
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setMouseTracking(true);
-    viewport()->setAutoFillBackground(false);
     connect(this, &QListView::doubleClicked, this, [this](const QModelIndex& index) {
         Q_EMIT editRequested(index.row());
     });

@@ -6,6 +6,7 @@
 #include "viewkit/Theme.h"
 #include "viewkit/WindowTheme.h"
 
+#include <QAbstractScrollArea>
 #include <QDialogButtonBox>
 #include <QFrame>
 #include <QPainter>
@@ -82,6 +83,10 @@ Style::Style() : QProxyStyle(u"fusion"_s) {}
 
 void Style::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
+    // Its frame is filled by drawPrimitive(), and the viewport's corners would cover the ring.
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(widget);
+        area && area->frameShape() == QFrame::StyledPanel)
+        area->viewport()->setAutoFillBackground(false);
     if (!widget->inherits("QTipLabel"))
         return;
     QPalette palette = widget->palette();
