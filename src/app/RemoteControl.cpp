@@ -26,7 +26,7 @@ constexpr char done = '1'; ///< the answer to a command that was carried out
 constexpr int pauseBetweenLooks = 5; // milliseconds
 
 QString settingsFolder() {
-    const QString folder =
+    QString folder =
         QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/velmora"_s;
     QDir().mkpath(folder);
     return folder;
@@ -84,7 +84,7 @@ RemoteControl::claim(const QByteArray& command, std::chrono::milliseconds patien
 }
 
 bool RemoteControl::openLock() {
-    const QByteArray lockName = name_.chopped(qstrlen("socket")) + "lock";
+    const QByteArray lockName = name_.chopped(QByteArrayView("socket").size()) + "lock";
     for (const QString& path : {qEnvironmentVariable("XDG_RUNTIME_DIR"), settingsFolder()}) {
         if (!QDir::isAbsolutePath(path))
             continue;

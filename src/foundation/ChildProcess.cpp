@@ -95,6 +95,7 @@ int spawn(const Request& request, const FileDescriptor& output, pid_t& process) 
     for (const QString& argument : request.arguments)
         texts.push_back(argument.toUtf8());
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (QByteArray& text : texts)
         pointers.push_back(text.data());
     pointers.push_back(nullptr);
@@ -272,7 +273,7 @@ private:
         complete(std::move(child.completion), std::move(outcome));
     }
 
-    static constexpr qsizetype bufferSize = 64 * 1024;
+    static constexpr qsizetype bufferSize = qsizetype{64} * 1024;
 
     FileDescriptor wake_;
     std::mutex mutex_;

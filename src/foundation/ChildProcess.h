@@ -21,7 +21,7 @@ struct Outcome {
 };
 
 /// Bytes of output kept of one run, and of all that go on at a time.
-inline constexpr qsizetype outputLimit = 64 * 1024 * 1024;
+inline constexpr qsizetype outputLimit = qsizetype{64} * 1024 * 1024;
 inline constexpr qsizetype allOutputLimit = 4 * outputLimit;
 
 /// Starts `program` with `arguments`; environment, working directory and standard input are

@@ -19,7 +19,7 @@ namespace velmora {
 namespace {
 
 /// Bytes of an entry; translated entries of large programs come near a tenth of it.
-constexpr qint64 sizeLimit = 1024 * 1024;
+constexpr qint64 sizeLimit = qint64{1024} * 1024;
 
 QByteArrayList localesOfSession() {
     QByteArray locale;

@@ -18,7 +18,7 @@ namespace velmora {
 namespace {
 
 /// Bytes of an information dictionary; real ones stay far below.
-constexpr qint64 sizeLimit = 1024 * 1024;
+constexpr qint64 sizeLimit = qint64{1024} * 1024;
 
 const QSet<QString> popularBundleIds = {
     u"com.apple.Safari"_s,        u"com.apple.finder"_s,

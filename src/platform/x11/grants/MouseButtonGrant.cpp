@@ -82,6 +82,7 @@ bool MouseButtonGrant::take() {
 
 std::vector<std::uint16_t> MouseButtonGrant::grab(const std::vector<std::uint16_t>& masks) {
     std::vector<xcb_void_cookie_t> asked;
+    asked.reserve(masks.size());
     for (const std::uint16_t mask : masks)
         asked.push_back(xcb_grab_button_checked(
             connection_, false, connection_.root(), XCB_EVENT_MASK_BUTTON_PRESS,
