@@ -16,6 +16,7 @@
 #include "overlay/ScreenManager.h"
 #include "platform/Accessibility.h"
 #include "platform/Appearance.h"
+#include "platform/Screens.h"
 #include "platform/Session.h"
 #include "settings/SettingsWindow.h"
 #include "viewkit/PopupMenu.h"
@@ -49,7 +50,7 @@ bool hasRoomForWindows() {
 } // namespace
 
 AppDelegate::AppDelegate(RemoteControl& remoteControl)
-    : overlayController(ScreenManager::shared(), Session::current().panelWindows()),
+    : overlayController(ScreenManager::shared(), Session::current().panels()),
       hotKeyManager(HotKeyManager::shared()),
       mouseButtonManager(MouseButtonManager::shared()),
       statusBarController(
@@ -158,9 +159,12 @@ void AppDelegate::comeForward() {
 }
 
 void AppDelegate::setupOverlay() {
-    overlayController.setup(std::make_unique<ContentView>(
+    auto view = std::make_unique<ContentView>(
         ShortcutManager::shared(), [] { return ScreenManager::shared().hasNotch(); },
-        [](const ShortcutAction& action) { ActionEngine::shared().execute(action); }));
+        [](const ShortcutAction& action) { ActionEngine::shared().execute(action); });
+    QObject::connect(
+        &Session::current().screens(), &Screens::changed, view.get(), &ContentView::followScreen);
+    overlayController.setup(std::move(view));
 }
 
 void AppDelegate::setupStatusBar() {

@@ -17,6 +17,9 @@ public:
         ShortcutManager& shortcutManager, std::function<bool()> hasNotch, ExecuteAction execute,
         QWidget* parent = nullptr);
 
+    /// Takes in at once how the screen is now.
+    void followScreen() { rebuild(); }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -1,22 +1,14 @@
 #include "overlay/OverlayController.h"
 
-#include "overlay/ScreenManager.h"
-
 #include <QWidget>
 
 namespace velmora {
 
-OverlayController::OverlayController(const ScreenManager& screenManager, PanelWindows& panelWindows)
-    : screenManager_(screenManager), panelWindows_(panelWindows) {}
+OverlayController::OverlayController(const ScreenManager& screenManager, Panels& panels)
+    : screenManager_(screenManager), panels_(panels) {}
 
 void OverlayController::setup(std::unique_ptr<QWidget> view) {
-    const double height = screenManager_.getMenuBarHeight();
-    const QRectF frame = screenManager_.getScreenFrame();
-    // The primary screen's lower-left corner is the global origin: no offset.
-    auto newPanel = std::make_unique<OverlayPanel>(
-        panelWindows_, QRectF(0, frame.height() - height, frame.width(), height));
-    newPanel->setContentView(std::move(view));
-    panel = std::move(newPanel);
+    panel = std::make_unique<OverlayPanel>(screenManager_, panels_, std::move(view));
 }
 
 void OverlayController::toggleOverlay() {

@@ -16,10 +16,10 @@ class OverlayController : public QObject {
 
 public:
     /// Makes no window yet. Both services outlive the controller.
-    OverlayController(const ScreenManager& screenManager, PanelWindows& panelWindows);
+    OverlayController(const ScreenManager& screenManager, Panels& panels);
 
     /// Puts a panel filled with `view` over the menu-bar strip of the primary screen, in place of
-    /// any earlier one. Later changes of the screen do not move it.
+    /// any earlier one.
     void setup(std::unique_ptr<QWidget> view);
 
     /// Flips the bar between shown and hidden (transparent and click-through, never unmapped).
@@ -31,7 +31,7 @@ public:
 
 private:
     const ScreenManager& screenManager_;
-    PanelWindows& panelWindows_;
+    Panels& panels_;
 };
 
 } // namespace velmora

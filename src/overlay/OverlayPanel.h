@@ -1,30 +1,33 @@
 #pragma once
 
-#include "platform/PanelWindow.h"
+#include "platform/Panel.h"
 
-#include <QWidget>
+#include <QObject>
 #include <memory>
+
+class QWidget;
 
 namespace velmora {
 
-/// The bar's window: borderless, over the menu-bar strip, on every workspace, never taking the
-/// focus. On screen from its construction to its destruction; its geometry never changes. Main
-/// thread only.
-class OverlayPanel {
+class ScreenManager;
+
+/// The bar's window, over the menu-bar strip of the primary screen: on screen from its construction
+/// to its destruction, it follows the screen. Main thread only.
+class OverlayPanel : public QObject {
+    Q_OBJECT
 public:
-    /// `contentRect` in points, bottom-left origin of the primary screen.
-    OverlayPanel(PanelWindows& windows, const QRectF& contentRect)
-        : window_(windows.create(contentRect)) {}
+    /// `view` fills it. `screenManager` outlives the panel.
+    OverlayPanel(const ScreenManager& screenManager, Panels& panels, std::unique_ptr<QWidget> view);
 
-    /// Shown at first. Hidden it is transparent and lets every click through to what lies beneath;
-    /// at once, without unmapping it.
-    void setPresented(bool presented) { window_->setPresented(presented); }
-
-    /// Fills the panel with `view`, which it owns from now on.
-    void setContentView(std::unique_ptr<QWidget> view) { window_->setContentView(view.release()); }
+    /// Whether the panel is seen and takes clicks; at once, without unmapping it.
+    void setPresented(bool presented);
 
 private:
-    std::unique_ptr<PanelWindow> window_;
+    void request();
+
+    const ScreenManager& screenManager_;
+    std::unique_ptr<Panel> panel_;
+    PanelRequest request_;
 };
 
 } // namespace velmora

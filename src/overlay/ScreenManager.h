@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Screen.h"
+#include "platform/Screens.h"
 
 #include <QMarginsF>
 #include <QRectF>
@@ -26,6 +26,9 @@ public:
 
     /// The process-wide instance over the session's screens.
     static ScreenManager& shared();
+
+    /// Tells when what follows from them may have changed.
+    const Screens& screens() const { return screens_; }
 
     /// Absent when the session reports no screen.
     std::optional<Screen> getPrimaryScreen() const;

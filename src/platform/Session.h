@@ -9,7 +9,7 @@ class Accessibility;
 class Appearance;
 class InputGrants;
 class KeyboardEvents;
-class PanelWindows;
+class Panels;
 class Screens;
 class TrayHost;
 class WindowActivation;
@@ -39,7 +39,7 @@ public:
     virtual Appearance& appearance() = 0;
     virtual InputGrants& inputGrants() = 0;
     virtual KeyboardEvents& keyboardEvents() = 0;
-    virtual PanelWindows& panelWindows() = 0;
+    virtual Panels& panels() = 0;
     virtual Screens& screens() = 0;
     virtual TrayHost& trayHost() = 0;
     virtual WindowActivation& windowActivation() = 0;

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/PanelWindow.h"
+#include "platform/Panel.h"
+#include "support/FakeScreens.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QWidget>
 #include <algorithm>
 #include <vector>
@@ -12,55 +12,62 @@
 namespace velmora::test {
 
 /// Panels that nobody sees and a pointer that only they feel.
-class FakePanels final : public PanelWindows {
+class FakePanels final : public Panels {
 public:
+    explicit FakePanels(const FakeScreens& screens) : screens_(screens) {}
+
     /// Whether a panel's content is to be seen at a point (bottom-left origin).
     bool shows(const QPointF& point) const { return panelAt(point); }
 
-    /// Presses the left button there; where none is presented nothing feels it.
+    /// Presses the left button there; what is below a panel that is not presented feels nothing.
     void click(const QPointF& point) {
-        if (const Panel* panel = panelAt(point)) {
-            const QPointF local(point.x() - panel->frame.left(), panel->frame.bottom() - point.y());
+        if (const FakePanel* panel = panelAt(point)) {
+            const QRectF frame = panel->frame();
+            const QPointF local(point.x() - frame.left(), frame.bottom() - point.y());
             QMouseEvent press(
                 QEvent::MouseButtonPress, local, local, Qt::LeftButton, Qt::LeftButton, {});
-            QCoreApplication::sendEvent(panel->view, &press);
+            QCoreApplication::sendEvent(panel->view.get(), &press);
         }
     }
 
-    std::unique_ptr<PanelWindow> create(const QRectF& contentRect) override {
-        return std::make_unique<Panel>(*this, contentRect);
+    std::unique_ptr<Panel> create(std::unique_ptr<QWidget> view) override {
+        return std::make_unique<FakePanel>(*this, std::move(view));
     }
 
 private:
-    struct Panel final : PanelWindow {
-        Panel(FakePanels& session, const QRectF& rect) : frame(rect), panels(session.panels_) {
-            panels.push_back(this);
+    struct FakePanel final : Panel {
+        FakePanel(FakePanels& session, std::unique_ptr<QWidget> content)
+            : panels(session), view(std::move(content)) {
+            panels.panels_.push_back(this);
+            QObject::connect(&panels.screens_, &Screens::changed, view.get(), [this] { place(); });
         }
-        ~Panel() override {
-            std::erase(panels, this);
-            delete view;
+        ~FakePanel() override { std::erase(panels.panels_, this); }
+        void request(const PanelRequest& request) override {
+            wanted = request;
+            place();
         }
-        void setPresented(bool presented) override { isPresented = presented; }
-        void setContentView(QWidget* content) override {
-            delete view;
-            view = content;
-            view->setGeometry(QRectF(0, 0, frame.width(), frame.height()).toRect());
+        QRectF frame() const {
+            const auto& screen = panels.screens_.screen;
+            if (!screen || !wanted.presented)
+                return {};
+            const QRectF strip = screen->frame;
+            return {0, strip.height() - wanted.height, strip.width(), wanted.height};
         }
+        void place() { view->setGeometry(QRectF({}, frame().size()).toRect()); }
 
-        const QRectF frame;
-        std::vector<Panel*>& panels;
-        QPointer<QWidget> view;
-        bool isPresented = true;
+        FakePanels& panels;
+        PanelRequest wanted;
+        const std::unique_ptr<QWidget> view;
     };
 
-    const Panel* panelAt(const QPointF& point) const {
-        const auto found = std::ranges::find_if(panels_, [&](const Panel* panel) {
-            return panel->frame.contains(point) && panel->isPresented && panel->view;
-        });
+    const FakePanel* panelAt(const QPointF& point) const {
+        const auto found = std::ranges::find_if(
+            panels_, [&](const FakePanel* panel) { return panel->frame().contains(point); });
         return found == panels_.end() ? nullptr : *found;
     }
 
-    std::vector<Panel*> panels_;
+    const FakeScreens& screens_;
+    std::vector<FakePanel*> panels_;
 };
 
 } // namespace velmora::test

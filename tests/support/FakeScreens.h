@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Screen.h"
+#include "platform/Screens.h"
 
 namespace velmora::test {
 
@@ -8,6 +8,12 @@ namespace velmora::test {
 class FakeScreens : public Screens {
 public:
     std::optional<Screen> mainScreen() const override { return screen; }
+
+    /// Sets it and tells.
+    void change(const std::optional<Screen>& now) {
+        screen = now;
+        Q_EMIT changed();
+    }
 
     std::optional<Screen> screen;
 };

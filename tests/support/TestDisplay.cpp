@@ -59,6 +59,21 @@ void TestDisplay::kill() {
     processes_.front()->waitForFinished();
 }
 
+void TestDisplay::setResolution(QSize size) {
+    const QString output = u"screen"_s;
+    if (size.isEmpty()) {
+        run(u"xrandr"_s, {u"--output"_s, output, u"--off"_s});
+        return;
+    }
+    const QString width = QString::number(size.width()), height = QString::number(size.height());
+    const QString mode = width + u'x' + height;
+    // Does nothing where the mode is there.
+    run(u"xrandr"_s, QStringList{u"--newmode"_s, mode, u"1"_s} +
+                         QStringList{width, width, width, width, height, height, height, height});
+    run(u"xrandr"_s, {u"--addmode"_s, output, mode});
+    run(u"xrandr"_s, {u"--output"_s, output, u"--mode"_s, mode});
+}
+
 QProcess& TestDisplay::start(
     const QString& program, const QStringList& arguments, const QProcessEnvironment& environment) {
     auto process = std::make_unique<QProcess>();

@@ -2,6 +2,7 @@
 
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QSize>
 #include <QString>
 #include <QTemporaryDir>
 #include <memory>
@@ -18,6 +19,10 @@ public:
 
     /// Ends the server at once, with its clients still connected.
     void kill();
+
+    /// Gives the only output that resolution in pixels, no larger than at the start; turns it off
+    /// for none.
+    void setResolution(QSize size);
 
     /// Starts `program` on this display and ends it with the object; waits until it runs.
     QProcess& start(

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/PanelWindow.h"
 #include "support/Desktop.h"
 
 #include <QLinearGradient>

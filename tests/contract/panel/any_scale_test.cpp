@@ -2,7 +2,7 @@
 
 #include "contract/panel/PanelProbe.h"
 #include "contract/panel/SessionTest.h"
-#include "platform/x11/panel/X11PanelWindow.h"
+#include "platform/x11/panel/X11Panel.h"
 #include "platform/x11/screens/X11Screens.h"
 
 #include <QGuiApplication>
@@ -59,13 +59,11 @@ TEST_F(AnyScale, OutputPropertyComesBeforeTheRootWindows) {
 }
 
 TEST_F(AnyScale, StripIsCoveredToThePixel) {
-    X11PanelWindows panels(*connection);
-    const QRectF frame = screens.mainScreen()->frame;
+    X11Panels panels(*connection, screens);
     for (const int pixels : {36, 32}) {
-        const double height = pixels / ratio;
-        const auto panel = panels.create({0, frame.height() - height, frame.width(), height});
         auto* const view = new GradientView;
-        panel->setContentView(view);
+        const auto panel = panels.create(std::unique_ptr<QWidget>(view));
+        panel->request({.height = pixels / ratio});
         const auto id = static_cast<xcb_window_t>(view->window()->winId());
         const auto windows = topWindows(client);
         const auto own = std::ranges::find(windows, id, &TopWindow::id);
@@ -87,11 +85,10 @@ TEST_F(AnyScale, StripIsCoveredToThePixel) {
 }
 
 TEST_F(AnyScale, ALockerStaysAboveAndAnApplicationAsHighAsTheScreenDoesNot) {
-    X11PanelWindows panels(*connection);
-    const QRectF screen = screens.mainScreen()->frame;
-    const auto panel = panels.create({0, screen.height() - 24, screen.width(), 24});
+    X11Panels panels(*connection, screens);
     auto* const view = new GradientView;
-    panel->setContentView(view);
+    const auto panel = panels.create(std::unique_ptr<QWidget>(view));
+    panel->request({.height = 24});
     const auto id = static_cast<xcb_window_t>(view->window()->winId());
     const auto isAbovePanel = [&](const Popup& popup) {
         return stackPosition(client, popup.id) > stackPosition(client, id);

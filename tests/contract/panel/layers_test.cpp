@@ -2,7 +2,7 @@
 
 #include "contract/panel/PanelProbe.h"
 #include "contract/panel/SessionTest.h"
-#include "platform/x11/panel/X11PanelWindow.h"
+#include "platform/x11/panel/X11Panel.h"
 #include "platform/x11/screens/X11Screens.h"
 #include "support/FakePanels.h"
 #include "support/FakeScreens.h"
@@ -19,33 +19,39 @@ constexpr double top = displaySize.height();
 class World {
 public:
     virtual ~World() = default;
-    virtual PanelWindows& panels() = 0;
+    virtual Panels& panels() = 0;
     virtual Screens& screens() = 0;
     /// Points here and below have their origin at the bottom left.
     virtual void click(const QPointF& point) = 0;
     virtual bool shows(const QPointF& point) = 0;
     virtual void setCutout(unsigned points) = 0;
+    /// Gives the screen that size; an empty one turns it off.
+    virtual void resize(QSize size) = 0;
 };
 
 class FakeWorld final : public World {
 public:
     FakeWorld() { setCutout(0); }
-    PanelWindows& panels() override { return panels_; }
+    Panels& panels() override { return panels_; }
     Screens& screens() override { return screens_; }
     void click(const QPointF& point) override { panels_.click(point); }
     bool shows(const QPointF& point) override { return panels_.shows(point); }
     void setCutout(unsigned points) override { screens_.screen = screenOf(width, top, points); }
+    void resize(QSize size) override {
+        screens_.change(
+            size.isEmpty() ? std::nullopt : std::optional(screenOf(size.width(), size.height())));
+    }
 
 private:
-    FakePanels panels_;
     FakeScreens screens_;
+    FakePanels panels_{screens_};
 };
 
 class X11World final : public World {
 public:
     X11World() { connection_->startDelivery(); }
     ~X11World() override { setCutout(0); }
-    PanelWindows& panels() override { return panels_; }
+    Panels& panels() override { return panels_; }
     Screens& screens() override { return screens_; }
     void click(const QPointF& point) override {
         driver_.move(pixelAt(point).x(), pixelAt(point).y());
@@ -59,15 +65,24 @@ public:
             XCB_ATOM_CARDINAL, 32, 4, insets);
         client_.sync();
     }
+    void resize(QSize size) override {
+        if (!size.isEmpty())
+            height_ = size.height();
+        display->setResolution(size);
+    }
 
 private:
-    static QPoint pixelAt(const QPointF& point) { return {int(point.x()), int(top - point.y())}; }
+    QPoint pixelAt(const QPointF& point) const {
+        return {int(point.x()), int(height_ - point.y())};
+    }
+
+    double height_ = top; // of the screen
 
     XClient client_;
     Driver driver_;
     std::unique_ptr<X11Connection> connection_ = X11Connection::open();
-    X11PanelWindows panels_{*connection_};
     X11Screens screens_{*connection_};
+    X11Panels panels_{*connection_, screens_};
 };
 
 struct Layer {
@@ -81,14 +96,13 @@ protected:
 };
 
 TEST_P(Layers, APanelIsSeenAndFeelsClicksWhileItIsPresented) {
-    auto panel = world->panels().create({0, top - height, width, height});
+    auto owned = std::make_unique<GradientView>();
+    const QPointer<GradientView> view(owned.get());
+    auto panel = world->panels().create(std::move(owned));
     const QPointF inside(700, top - 12), below(700, top - height - 12);
-    const QPointer<GradientView> view(new GradientView);
-    panel->setContentView(view);
-    EXPECT_EQ(view->width(), width);
     for (const bool presented : {true, false, true}) {
         SCOPED_TRACE(presented);
-        panel->setPresented(presented);
+        panel->request({.height = height, .presented = presented});
         EXPECT_TRUE(waitFor([&] { return world->shows(inside) == presented; }));
         const int presses = view->presses + presented;
         world->click(below);
@@ -109,6 +123,32 @@ TEST_P(Layers, TheScreenIsAskedAnewEachTime) {
         ASSERT_TRUE(screen);
         EXPECT_EQ(screen->frame, QRectF(0, 0, width, top));
         EXPECT_EQ(screen->safeAreaInsets, QMarginsF(0, cutout, 0, 0));
+    }
+}
+
+TEST_P(Layers, APanelFollowsItsScreen) {
+    auto owned = std::make_unique<GradientView>();
+    const GradientView& view = *owned;
+    const auto panel = world->panels().create(std::move(owned));
+    panel->request({.height = height});
+    int told = 0;
+    QObject::connect(&world->screens(), &Screens::changed, &view, [&] { ++told; });
+    for (const QSize size : {QSize(1024, 600), QSize(), QSize(800, 600), displaySize}) {
+        SCOPED_TRACE(testing::Message() << size.width());
+        const int before = told;
+        world->resize(size);
+        if (size.isEmpty()) {
+            // A server may leave what is seen nowhere as it was.
+            const bool isThere = world->screens().mainScreen().has_value();
+            EXPECT_TRUE(waitFor([&] { return world->shows({500, 600 - height / 2}) == isThere; }));
+            continue;
+        }
+        EXPECT_TRUE(waitFor([&] { return told > before; }));
+        EXPECT_EQ(world->screens().mainScreen()->frame, QRectF({}, size));
+        EXPECT_TRUE(waitFor([&] {
+            return world->shows({size.width() - 3.0, size.height() - height / 2});
+        }));
+        EXPECT_EQ(view.width(), size.width());
     }
 }
 

@@ -1,7 +1,8 @@
 #include "contract/panel/PanelProbe.h"
 #include "contract/panel/SessionTest.h"
-#include "platform/x11/panel/X11PanelWindow.h"
+#include "platform/x11/panel/X11Panel.h"
 #include "platform/x11/panel/X11StackKeeper.h"
+#include "platform/x11/screens/X11Screens.h"
 
 #include <QElapsedTimer>
 #include <QMenu>
@@ -17,7 +18,7 @@ const QPoint kOnPanel(700, 12);
 class PanelWindowContract : public SessionTest {
 protected:
     PanelWindowContract() {
-        panel->setContentView(view);
+        setPresented(true);
         EXPECT_TRUE(waitFor([this] { return panelShows(); }));
     }
 
@@ -75,11 +76,15 @@ protected:
         }));
     }
 
+    void setPresented(bool presented) const {
+        panel->request({.height = kHeight, .presented = presented});
+    }
+
     Driver driver;
-    X11PanelWindows windows{*connection};
+    X11Screens screens{*connection};
+    X11Panels panels{*connection, screens};
     GradientView* const view = new GradientView;
-    std::unique_ptr<PanelWindow> panel = windows.create(
-        {0, double(displaySize.height() - kHeight), double(displaySize.width()), kHeight});
+    const std::unique_ptr<Panel> panel = panels.create(std::unique_ptr<QWidget>(view));
 };
 
 TEST_P(PanelWindowContract, ShowsAndTakesClicksAboveAFullScreenWindowAsItIsSetAndNeverTheFocus) {
@@ -101,12 +106,12 @@ TEST_P(PanelWindowContract, ShowsAndTakesClicksAboveAFullScreenWindowAsItIsSetAn
         EXPECT_FALSE(view->isActiveWindow());
 
         // Hidden it lets the clicks through, and is still mapped.
-        panel->setPresented(false);
+        setPresented(false);
         EXPECT_TRUE(waitFor([this] { return pixel(client, kOnPanel) == 0xffffffff; }));
         EXPECT_GE(position(id), 0);
         clickOnPanel();
         EXPECT_TRUE(front.waitForInput(2));
-        panel->setPresented(true);
+        setPresented(true);
         EXPECT_EQ(panelId(), id);
     }
 }
@@ -182,8 +187,8 @@ TEST_P(PanelWindowContract, LeavesAWarOverTheTop) {
     }));
     EXPECT_LE(raises, 10);
     // Shown again by the user it comes to the top at once all the same.
-    panel->setPresented(false);
-    panel->setPresented(true);
+    setPresented(false);
+    setPresented(true);
     client.sync();
     EXPECT_GT(position(panelId()), position(rival.id));
 }

@@ -34,8 +34,8 @@ protected:
 
     test::FakeScreens screens_;
     ScreenManager screenManager_{screens_};
-    test::FakePanels windows_;
-    OverlayController controller_{screenManager_, windows_};
+    test::FakePanels panels_{screens_};
+    OverlayController controller_{screenManager_, panels_};
     test::FakeAccessibility accessibility_;
     test::FakeInputGrants inputGrants_;
     HotKeyManager manager_{inputGrants_, accessibility_, 1ms};

@@ -3,7 +3,6 @@
 #include "platform/x11/base/WindowQueries.h"
 #include "platform/x11/base/X11Connection.h"
 #include "platform/x11/screens/CutOut.h"
-#include "platform/x11/screens/PrimaryOutput.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -13,42 +12,83 @@
 using namespace Qt::StringLiterals;
 
 namespace velmora {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// One change comes as several events.
+constexpr auto kOneChange = 20ms;
+/// Longer than what lies between the changes of an output that flaps.
+constexpr auto kCalm = 150ms;
+
+} // namespace
 
 X11Screens::X11Screens(X11Connection& connection, std::function<QByteArray()> readCompatible)
-    : connection_(connection), readCompatible_(std::move(readCompatible)) {}
+    : connection_(connection), readCompatible_(std::move(readCompatible)) {
+    settling_.setSingleShot(true);
+    settling_.setTimerType(Qt::PreciseTimer);
+    settling_.callOnTimeout(this, [this] {
+        sinceTold_.start();
+        Q_EMIT changed();
+    });
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &X11Screens::noteChange);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &X11Screens::noteChange);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](const QScreen* screen) {
+        follow(screen);
+        noteChange();
+    });
+    for (const QScreen* const screen : QGuiApplication::screens())
+        follow(screen);
+}
 
-std::optional<Screen> X11Screens::mainScreen() const {
+void X11Screens::follow(const QScreen* screen) {
+    connect(screen, &QScreen::geometryChanged, this, &X11Screens::noteChange);
+    connect(screen, &QScreen::logicalDotsPerInchChanged, this, &X11Screens::noteChange);
+}
+
+void X11Screens::noteChange() {
+    const bool calm = !sinceTold_.isValid() || sinceTold_.elapsed() > kCalm.count();
+    if (!calm)
+        settling_.start(kCalm);
+    else if (!settling_.isActive())
+        settling_.start(kOneChange);
+}
+
+std::optional<X11Screens::Primary> X11Screens::primary() const {
     const QScreen* const screen = QGuiApplication::primaryScreen();
     // Qt keeps a placeholder of no size while no output is connected.
     if (!screen || screen->size().isEmpty())
         return {};
     const double ratio = screen->devicePixelRatio();
     const auto output = readPrimaryOutput(connection_);
+    QSize pixels = (QSizeF(screen->size()) * ratio).toSize();
+    // Qt rounds to whole points; with a fractional ratio the output's own size is exact.
+    if (output && std::abs(output->size.width() - pixels.width()) < ratio &&
+        std::abs(output->size.height() - pixels.height()) < ratio)
+        pixels = output->size;
+    // Qt leaves the place of a screen in pixels.
+    return Primary{{screen->geometry().topLeft(), pixels}, ratio, output};
+}
 
-    QSizeF size = screen->size();
-    QSize pixels = (size * ratio).toSize();
-    if (output) {
-        // Qt rounds to whole points; with a fractional ratio the output's own size is exact.
-        const QSizeF exact = QSizeF(output->size) / ratio;
-        if (std::abs(exact.width() - size.width()) < 1 &&
-            std::abs(exact.height() - size.height()) < 1) {
-            size = exact;
-            pixels = output->size;
-        }
-    }
-
+std::optional<Screen> X11Screens::mainScreen() const {
+    const auto screen = primary();
+    if (!screen)
+        return {};
+    const QSize size = screen->pixels.size();
+    const auto& output = screen->output;
     std::optional<QMargins> insets;
     if (output)
         insets = statedInsets(
-            readOutputCardinals(connection_, output->output, "safe_area_insets"), pixels);
+            readOutputCardinals(connection_, output->output, "safe_area_insets"), size);
     if (!insets)
         insets = statedInsets(
             readProperty(connection_, connection_.root(), "_SAFE_AREA_INSETS", XCB_ATOM_CARDINAL),
-            pixels);
+            size);
     if (!insets && output && output->upright)
-        insets = QMargins(0, knownCutoutHeight(readCompatible_(), pixels), 0, 0);
+        insets = QMargins(0, knownCutoutHeight(readCompatible_(), size), 0, 0);
     return Screen{
-        .frame = {{0, 0}, size}, .safeAreaInsets = QMarginsF(insets.value_or(QMargins())) / ratio};
+        .frame = {{0, 0}, QSizeF(size) / screen->ratio},
+        .safeAreaInsets = QMarginsF(insets.value_or(QMargins())) / screen->ratio};
 }
 
 QByteArray X11Screens::deviceTreeNames() {

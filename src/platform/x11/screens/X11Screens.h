@@ -1,9 +1,15 @@
 #pragma once
 
-#include "platform/Screen.h"
+#include "platform/Screens.h"
+#include "platform/x11/screens/PrimaryOutput.h"
 
 #include <QByteArray>
+#include <QElapsedTimer>
+#include <QRect>
+#include <QTimer>
 #include <functional>
+
+class QScreen;
 
 namespace velmora {
 
@@ -15,19 +21,33 @@ class X11Connection;
 /// 2. the property "_SAFE_AREA_INSETS" of the root window,
 /// both four CARDINALs (top, left, bottom, right) in pixels;
 /// 3. the profile of a laptop known to have a notch.
-class X11Screens : public Screens {
+class X11Screens final : public Screens {
 public:
-    /// `readCompatible` gives the device tree's list of names of this machine, empty without one.
+    /// The primary screen on the server.
+    struct Primary {
+        QRect pixels; ///< of the root window
+        double ratio; ///< pixels a point
+        std::optional<PrimaryOutput> output;
+    };
+
+    /// Needs the application object. `readCompatible` gives the device tree's list of names of this
+    /// machine, empty without one.
     explicit X11Screens(
         X11Connection& connection, std::function<QByteArray()> readCompatible = deviceTreeNames);
 
     std::optional<Screen> mainScreen() const override;
+    /// Nothing while no output is connected.
+    std::optional<Primary> primary() const;
 
 private:
     static QByteArray deviceTreeNames();
+    void follow(const QScreen* screen);
+    void noteChange();
 
     X11Connection& connection_;
     std::function<QByteArray()> readCompatible_;
+    QTimer settling_;
+    QElapsedTimer sinceTold_;
 };
 
 } // namespace velmora

@@ -5,7 +5,7 @@
 #include "platform/freedesktop/SessionBus.h"
 #include "platform/x11/grants/X11InputGrants.h"
 #include "platform/x11/keyboard/X11Keyboard.h"
-#include "platform/x11/panel/X11PanelWindow.h"
+#include "platform/x11/panel/X11Panel.h"
 #include "platform/x11/screens/X11Screens.h"
 #include "platform/x11/session/X11Accessibility.h"
 #include "platform/x11/session/X11Appearance.h"
@@ -23,8 +23,8 @@ struct X11Session::Services {
           keyboard(connection),
           inputGrants(connection, keyboard),
           keyboardEvents(keyboard),
-          panelWindows(connection),
           screens(connection),
+          panels(connection, screens),
           trayHost(connection),
           windowActivation(connection) {
         startNoSessionBus();
@@ -36,8 +36,8 @@ struct X11Session::Services {
     X11Keyboard keyboard;
     X11InputGrants inputGrants;
     X11KeyboardEvents keyboardEvents;
-    X11PanelWindows panelWindows;
     X11Screens screens;
+    X11Panels panels;
     X11TrayHost trayHost;
     X11WindowActivation windowActivation;
     DesktopWorkspace workspace;
@@ -85,8 +85,8 @@ KeyboardEvents& X11Session::keyboardEvents() {
     return services().keyboardEvents;
 }
 
-PanelWindows& X11Session::panelWindows() {
-    return services().panelWindows;
+Panels& X11Session::panels() {
+    return services().panels;
 }
 
 Screens& X11Session::screens() {

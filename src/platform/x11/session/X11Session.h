@@ -22,7 +22,7 @@ public:
     Appearance& appearance() override;
     InputGrants& inputGrants() override;
     KeyboardEvents& keyboardEvents() override;
-    PanelWindows& panelWindows() override;
+    Panels& panels() override;
     Screens& screens() override;
     TrayHost& trayHost() override;
     WindowActivation& windowActivation() override;
