@@ -17,7 +17,7 @@ void keepUnreadable(
     }
     defaults.setData(copyKey, bytes);
     const QString path = (QStringList(key) << error.codingPath).join(u'/');
-    Log::write(u"⚠️ %1: %2 The list is kept as %3."_s.arg(path, error.description, copyKey));
+    Log::write(u"⚠️ %1: %2 It is kept as %3."_s.arg(path, error.description, copyKey));
 }
 
 } // namespace velmora

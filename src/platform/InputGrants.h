@@ -27,6 +27,7 @@ struct KeyInput {
 struct Chord {
     KeyCode keyCode = 0;
     EventFlags requiredFlags = 0;
+    bool operator==(const Chord&) const = default;
 };
 
 /// What a session can do with the input that it grants.

@@ -1,5 +1,6 @@
 #include "input/HotKeyManager.h"
 
+#include "foundation/UserDefaults.h"
 #include "overlay/ScreenManager.h"
 #include "support/FakeAccessibility.h"
 #include "support/FakeInputGrants.h"
@@ -7,8 +8,10 @@
 #include "support/FakeScreens.h"
 #include "support/TestDisplay.h"
 
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace velmora {
@@ -32,13 +35,16 @@ protected:
         return controller_.isOverlayVisible != before;
     }
 
+    const QTemporaryDir folder_;
+    UserDefaults defaults_{folder_.path() + u"/velmora.conf"_s};
+    Preferences preferences_{defaults_};
     test::FakeScreens screens_;
     ScreenManager screenManager_{screens_};
     test::FakePanels panels_{screens_};
     OverlayController controller_{screenManager_, panels_};
     test::FakeAccessibility accessibility_;
     test::FakeInputGrants inputGrants_;
-    HotKeyManager manager_{inputGrants_, accessibility_, 1ms};
+    HotKeyManager manager_{preferences_, inputGrants_, accessibility_, 1ms};
 };
 
 TEST_F(HotKeyManagerTest, MatchesThePositionOfMWithOptionAmongAnyModifiers) {
@@ -60,6 +66,27 @@ TEST_F(HotKeyManagerTest, WorksOnceTrusted) {
     EXPECT_TRUE(toggles(positionOfM, kCGEventFlagMaskAlternate));
     manager_.setupHotKeys();
     EXPECT_EQ(inputGrants_.grants.size(), 1U);
+}
+
+TEST_F(HotKeyManagerTest, FollowsThePreferencesAndTellsWhatHoldsItUp) {
+    const HotKey superSpace{{u"Command"_s}, 49, u"Space"_s};
+    preferences_.setHotKey(superSpace);
+    EXPECT_TRUE(inputGrants_.grants.empty()) << "nothing is watched yet";
+    manager_.setupHotKeys();
+    EXPECT_TRUE(toggles(49, kCGEventFlagMaskCommand | kCGEventFlagMaskShift));
+    EXPECT_FALSE(toggles(positionOfM, kCGEventFlagMaskAlternate));
+
+    QStringList problems;
+    QObject::connect(&manager_, &HotKeyManager::problemChanged, &manager_, [&] {
+        problems << manager_.problem();
+    });
+    inputGrants_.otherTakes({test::Input::hotKey});
+    preferences_.setHotKey({});
+    inputGrants_.otherTakes({});
+    EXPECT_EQ(problems.size(), 2) << qPrintable(problems.join(u'\n'));
+    EXPECT_EQ(problems.last(), QString());
+    EXPECT_TRUE(toggles(positionOfM, kCGEventFlagMaskAlternate));
+    EXPECT_FALSE(toggles(49, kCGEventFlagMaskCommand));
 }
 
 } // namespace
