@@ -11,6 +11,7 @@
 #include "settings/applications/AppPickerView.h"
 #include "support/TestDisplay.h"
 #include "viewkit/Sheet.h"
+#include "viewkit/Style.h"
 
 #include <QApplication>
 #include <QDir>
@@ -206,6 +207,7 @@ int main(int argc, char** argv) {
     const auto session = X11Session::open();
     if (!session)
         return 1;
+    QApplication::setStyle(new Style);
     Application application(argc, argv);
     Session::setCurrent(*session);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -14,6 +14,8 @@ runtime_packages=(
 )
 # For the guided session of ./run on a machine without a display.
 demo_packages=(xvfb openbox xdotool imagemagick x11-utils fonts-noto-cjk)
+# For packaging/pictures, beside those.
+picture_packages=(xsettingsd x11-xserver-utils)
 # For ./test.
 test_packages=(
     libgtest-dev libgmock-dev xvfb openbox xfwm4 i3-wm picom dbus x11-utils x11-xserver-utils x11-xkb-utils
