@@ -11,7 +11,6 @@
 #include <QFrame>
 #include <QPainter>
 #include <QPlainTextEdit>
-#include <QScrollBar>
 #include <QStyleOption>
 
 using namespace Qt::StringLiterals;
@@ -26,12 +25,6 @@ constexpr QColor toolTipColor(0x26, 0x26, 0x2b);
 constexpr QColor toolTipTextColor(0xf2, 0xf2, 0xf4);
 constexpr QColor toolTipBorderColor(0x55, 0x55, 0x5d);
 constexpr int toolTipFontSize = 12;
-
-// The handle of a scroll bar: its distances to the sides and the ends of the bar.
-constexpr int scrollBarWidth = 12;
-constexpr int scrollBarSide = 2;
-constexpr int scrollBarEnd = 4;
-constexpr int scrollHandleLength = 28; // at least
 
 bool isCard(const QWidget* widget) {
     const auto* frame = qobject_cast<const QFrame*>(widget);
@@ -63,18 +56,6 @@ void paintFrame(QPainter& painter, const QStyleOption& option, const QWidget* wi
         paintWell(
             painter, option, isTextEdit ? Rounded::controlRadius : Rounded::areaRadius,
             colors.outline);
-}
-
-QRect scrollHandle(const QStyleOptionSlider& bar) {
-    const QRect room = bar.rect.adjusted(0, scrollBarEnd, 0, -scrollBarEnd);
-    const int range = bar.maximum - bar.minimum;
-    int length = room.height();
-    if (range > 0)
-        length = int(qint64(length) * bar.pageStep / (qint64(range) + bar.pageStep));
-    length = qBound(qMin(scrollHandleLength, room.height()), length, room.height());
-    const int start = QStyle::sliderPositionFromValue(
-        bar.minimum, bar.maximum, bar.sliderPosition, room.height() - length, bar.upsideDown);
-    return {room.left(), room.top() + start, room.width(), length};
 }
 
 } // namespace
@@ -180,8 +161,7 @@ void Style::drawComplexControl(
     }
     if (bar->minimum == bar->maximum)
         return; // all is in sight
-    const QRectF handle = scrollHandle(*bar).adjusted(scrollBarSide, 0, -scrollBarSide, 0);
-    Rounded::fill(*painter, handle, handle.width() / 2, WindowTheme::colors().scrollHandle);
+    paintScrollHandle(*painter, *bar);
 }
 
 QRect Style::subControlRect(

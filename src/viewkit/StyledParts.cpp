@@ -26,6 +26,8 @@ constexpr int separatorMargin = 8;
 constexpr int checkmarkSide = 12;
 constexpr int checkmarkRoom = 18; ///< in a menu of which an item can be checked
 
+constexpr int scrollHandleSide = 2; ///< between the handle and the sides of its bar
+
 bool has(const QStyleOption& option, QStyle::StateFlag state) {
     return option.state.testFlag(state);
 }
@@ -212,6 +214,23 @@ void paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item) {
     if (parts.size() > 1)
         paintText(parts.last(), Qt::AlignRight);
     painter.restore();
+}
+
+QRect scrollHandle(const QStyleOptionSlider& bar) {
+    const QRect room = bar.rect.adjusted(0, scrollBarEnd, 0, -scrollBarEnd);
+    const int range = bar.maximum - bar.minimum;
+    int length = room.height();
+    if (range > 0)
+        length = int(qint64(length) * bar.pageStep / (qint64(range) + bar.pageStep));
+    length = qBound(qMin(scrollHandleLength, room.height()), length, room.height());
+    const int start = QStyle::sliderPositionFromValue(
+        bar.minimum, bar.maximum, bar.sliderPosition, room.height() - length, bar.upsideDown);
+    return {room.left(), room.top() + start, room.width(), length};
+}
+
+void paintScrollHandle(QPainter& painter, const QStyleOptionSlider& bar) {
+    const QRectF handle = scrollHandle(bar).adjusted(scrollHandleSide, 0, -scrollHandleSide, 0);
+    Rounded::fill(painter, handle, handle.width() / 2, WindowTheme::colors().scrollHandle);
 }
 
 } // namespace velmora

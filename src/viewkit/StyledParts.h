@@ -27,4 +27,13 @@ void paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item);
 /// `contents` is the size of the texts.
 QSize menuItemSize(const QStyleOptionMenuItem& item, const QSize& contents);
 
+// Sizes of a vertical scroll bar, which has no arrows.
+inline constexpr int scrollBarWidth = 12;
+inline constexpr int scrollBarEnd = 4;        ///< free above and below the way of its handle
+inline constexpr int scrollHandleLength = 28; ///< at least
+
+/// The room of the handle, as wide as the bar.
+QRect scrollHandle(const QStyleOptionSlider& bar);
+void paintScrollHandle(QPainter& painter, const QStyleOptionSlider& bar);
+
 } // namespace velmora
