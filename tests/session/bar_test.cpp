@@ -2,9 +2,8 @@
 
 #include "session/Session.h"
 
-#include <QDir>
+#include <QFile>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
@@ -71,38 +70,6 @@ TEST(Bar, EndsWithALineWhereItCannotStart) {
         EXPECT_TRUE(waitFor([&] { return !session.program().isRunning(); }));
         EXPECT_EQ(session.log().filter(line).size(), 1) << session.log().join(u'\n').toStdString();
     }
-}
-
-TEST(Bar, GoesOnWithoutTheSettingsWhereTheyFindNoRoom) {
-    Session session;
-    session.launch();
-    EXPECT_TRUE(waitFor([&] { return session.buttons().size() == 4; }));
-    const auto process = static_cast<pid_t>(session.program().processId());
-    const QString folder = u"/proc/%1/"_s.arg(process);
-    const rlim_t files = static_cast<rlim_t>(QDir(folder + u"fd"_s).entryList().size());
-    const rlim_t pages = Session::readFile(folder + u"statm"_s).split(' ')[0].toULongLong();
-    const struct {
-        __rlimit_resource resource;
-        rlim_t limit;
-    } cases[] = {
-        {RLIMIT_NOFILE, files + 2},
-        {RLIMIT_AS, (pages * 4096) + (64 * 1024 * 1024)},
-    };
-    qsizetype refusals = 0;
-    for (const auto& [resource, limit] : cases) {
-        rlimit before{};
-        ASSERT_EQ(::prlimit(process, resource, nullptr, &before), 0);
-        const rlimit tight{limit, before.rlim_max};
-        ASSERT_EQ(::prlimit(process, resource, &tight, nullptr), 0);
-        session.launchAnother()->waitForFinished();
-        EXPECT_TRUE(waitFor([&] {
-            return session.log().filter(u"The settings do not open"_s).size() == refusals + 1;
-        }));
-        ++refusals;
-        ASSERT_EQ(::prlimit(process, resource, &before, nullptr), 0);
-    }
-    session.launchAnother()->waitForFinished();
-    EXPECT_TRUE(session.waitForSettings());
 }
 
 TEST(Bar, EndsQuietlyWithTheServer) {

@@ -1,4 +1,4 @@
-// Grants of an X server among locks, layouts, other programs and a second user.
+// Grants of an X server among locks, layouts and other programs.
 
 #include "X11World.h"
 
@@ -7,7 +7,6 @@
 #include <QWindow>
 #include <array>
 #include <random>
-#include <xcb/xtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace velmora;
@@ -35,23 +34,6 @@ TEST_F(X11Grants, TheHotKeyFollowsItsKeyAndItsModifier) {
             Driver().tapChord(held, "LEFT"); // reads afresh where the keys are
             return waitFor([&] { return !world.hotKeys.empty(); }, 100);
         })) << qPrintable(arguments.join(u' '));
-    }
-}
-
-TEST_F(X11Grants, ATryThatIsRefusedCostsFewRequests) {
-    world.otherTakes({Input::hotKey, Input::mouseButton});
-    for (const auto& [input, limit] :
-         {std::pair(Input::hotKey, 1U), std::pair(Input::mouseButton, 40U)}) {
-        const auto grant = world.make(input);
-        unsigned last = xcb_no_operation(*world.connection).sequence;
-        unsigned spent = 0;
-        EXPECT_TRUE(waitFor([&] {
-            const unsigned now = xcb_no_operation(*world.connection).sequence;
-            spent = now - std::exchange(last, now) - 1;
-            return spent > 0;
-        })) << "tries again";
-        EXPECT_LE(spent, limit);
-        EXPECT_EQ(grant->state(), State::pending);
     }
 }
 
@@ -130,109 +112,6 @@ TEST_F(X11Grants, EveryKeyChangesNoFocusAndGivesTheLayoutsLetters) {
     QCoreApplication::processEvents();
     EXPECT_EQ(focusChanges, 0);
     EXPECT_TRUE(window.isActiveWindow());
-}
-
-/// A second user at the same screen: master devices of their own, and what XTEST types on there.
-class SecondUser {
-public:
-    SecondUser() {
-        struct {
-            uint16_t type = XCB_INPUT_HIERARCHY_CHANGE_TYPE_ADD_MASTER;
-            uint16_t length = 4;
-            uint16_t nameLength = 6;
-            uint8_t sendsCore = 1;
-            uint8_t isEnabled = 1;
-            char name[8] = "second";
-        } add;
-        Reply<xcb_input_xi_query_version_reply_t>(xcb_input_xi_query_version_reply(
-            client_, xcb_input_xi_query_version(client_, 2, 2), nullptr));
-        xcb_input_xi_change_hierarchy(
-            client_, 1, reinterpret_cast<const xcb_input_hierarchy_change_t*>(&add));
-    }
-    ~SecondUser() {
-        xcb_input_remove_master_t remove{};
-        remove.type = XCB_INPUT_HIERARCHY_CHANGE_TYPE_REMOVE_MASTER;
-        remove.len = sizeof remove / 4;
-        remove.deviceid = device("second pointer");
-        remove.return_mode = XCB_INPUT_CHANGE_MODE_FLOAT;
-        xcb_input_xi_change_hierarchy(
-            client_, 1, reinterpret_cast<const xcb_input_hierarchy_change_t*>(&remove));
-        client_.sync();
-    }
-    void chord(const Driver& keys, bool isDown) {
-        const int type = isDown ? XCB_INPUT_DEVICE_KEY_PRESS : XCB_INPUT_DEVICE_KEY_RELEASE;
-        for (const char* name : {"LALT", keyM.name})
-            send(type, keys.keycode(name), "second XTEST keyboard");
-    }
-    /// Pixels from the screen's top-left corner.
-    void move(int16_t x, int16_t y) {
-        xcb_input_xi_warp_pointer(
-            client_, 0, client_.root(), 0, 0, 0, 0, x << 16, y << 16, device("second pointer"));
-        client_.sync();
-    }
-    void button(uint8_t button, bool isDown) {
-        send(
-            isDown ? XCB_INPUT_DEVICE_BUTTON_PRESS : XCB_INPUT_DEVICE_BUTTON_RELEASE, button,
-            "second XTEST pointer");
-    }
-
-private:
-    void send(int type, uint8_t detail, const char* name) {
-        const auto first = xcb_get_extension_data(client_, &xcb_input_id)->first_event;
-        xcb_test_fake_input(
-            client_, static_cast<uint8_t>(first + type), detail, 0, 0, 0, 0, device(name));
-        client_.sync();
-    }
-    uint8_t device(const QByteArray& name) const {
-        const Reply<xcb_input_xi_query_device_reply_t> reply(xcb_input_xi_query_device_reply(
-            client_, xcb_input_xi_query_device(client_, XCB_INPUT_DEVICE_ALL), nullptr));
-        for (auto info = xcb_input_xi_query_device_infos_iterator(reply.get()); info.rem;
-             xcb_input_xi_device_info_next(&info)) {
-            if (name == QByteArray(
-                            xcb_input_xi_device_info_name(info.data),
-                            xcb_input_xi_device_info_name_length(info.data)))
-                return static_cast<uint8_t>(info.data->deviceid);
-        }
-        qFatal("no %s", name.constData());
-    }
-
-    XClient client_;
-};
-
-TEST_F(X11Grants, ASecondUsersKeyboardAndMouseCountAsWell) {
-    const auto button = world.button(3);
-    const auto releases = [this] {
-        return std::ranges::count(
-            world.witness.events(), XCB_BUTTON_RELEASE, &Witness::Event::type);
-    };
-    for (const bool isThereFirst : {false, true}) {
-        SCOPED_TRACE(isThereFirst);
-        std::optional<SecondUser> user;
-        if (isThereFirst)
-            user.emplace();
-        const auto hotKey = world.hotKey();
-        if (!isThereFirst)
-            user.emplace();
-        user->move(200, 300);
-        world.hotKeys.clear();
-        world.buttons.clear();
-        for (size_t press = 1; press <= 2; ++press) {
-            user->chord(world.driver, true);
-            EXPECT_TRUE(waitFor([&] { return world.hotKeys.size() == press; }));
-            world.settle();
-            user->chord(world.driver, false);
-            world.witness.clear();
-            user->button(X11World::xButton(3), true);
-            EXPECT_TRUE(waitFor([&] { return world.buttons.size() == press; }));
-            world.settle();
-            user->button(X11World::xButton(3), false);
-            EXPECT_TRUE(waitFor([&] { return releases() == 1; }));
-        }
-        world.type(keyM, option);
-        EXPECT_EQ(world.hotKeys.size(), 3U);
-        world.click(3);
-        EXPECT_EQ(world.buttons.size(), 3U);
-    }
 }
 
 // Whatever the user, another program and grants do in whatever order: once the hands are off, no

@@ -117,21 +117,4 @@ TEST_F(ActionEngineTest, PressesKeyCombinations) {
     EXPECT_EQ(keyboard.posted.size(), 2U) << "the key comes up whatever happens";
 }
 
-TEST_F(ActionEngineTest, PostsNothingWhenAStepBeforeFails) {
-    const PressKeyCombo action{{u"Command"_s}, u"C"_s};
-    EXPECT_EQ(execute(PressKeyCombo{{}, u"F%1"_s}), u"❌ Unknown key: F%1"_s);
-    keyboard.createsKeyUp = false;
-    EXPECT_EQ(execute(action), u"❌ Failed to create key up event"_s);
-    keyboard.createsKeyDown = false;
-    EXPECT_EQ(execute(action), u"❌ Failed to create key down event"_s);
-    // A missing source is asked for only once.
-    ActionEngine sourceless{workspace, keyboard};
-    for (const bool hasSource : {false, true}) {
-        keyboard.hasSource = hasSource;
-        sourceless.execute(action);
-        EXPECT_EQ(log.lines().last(), u"❌ Failed to get event source"_s);
-    }
-    EXPECT_TRUE(keyboard.posted.empty());
-}
-
 } // namespace

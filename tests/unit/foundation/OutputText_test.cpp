@@ -32,13 +32,3 @@ TEST(OutputText, KeepsWholeCharactersWhereverThePiecesBreak) {
         }
     }
 }
-
-TEST(OutputText, RejectsWhatIsNotUtf8EvenWhereNothingIsKept) {
-    for (const QByteArray bytes :
-         {"a\xff", "\x80z", "\xc0\x80", "\xed\xa0\x80", "\xf5\x80\x80\x80", "a\xc3", "\xe2\x82",
-          "\xf0\x9f\x98"})
-        for (qsizetype split = 0; split <= bytes.size(); ++split)
-            for (const qsizetype limit : {0, 1, 1000})
-                EXPECT_EQ(fed(bytes, split, limit).take(), std::nullopt)
-                    << bytes.toHex().constData() << " split at " << split << " limit " << limit;
-}

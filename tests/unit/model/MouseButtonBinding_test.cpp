@@ -1,7 +1,5 @@
 #include "model/MouseButtonBinding.h"
 
-#include "support/KeyTexts.h"
-
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -12,21 +10,6 @@ namespace {
 
 constexpr auto least = std::numeric_limits<std::int64_t>::min();
 constexpr auto greatest = std::numeric_limits<std::int64_t>::max();
-
-TEST(MouseButtonBindingTest, ButtonsAreNamedAndCountedFromOne) {
-    const test::KeyTexts texts;
-    const QString format = u"mouse_click_btn_format %1."_s;
-    const std::pair<std::int64_t, QString> cases[] = {
-        {0, u"mouse_click_left"_s},
-        {4, u"mouse_click_btn5"_s},
-        {5, format.arg(u"6"_s)},
-        {-1, format.arg(u"0"_s)},
-        {least, format.arg(u"-9223372036854775807"_s)},
-        {greatest, format.arg(u"9223372036854775808"_s)},
-    };
-    for (const auto& [number, name] : cases)
-        EXPECT_EQ(MouseButtonBinding(number, OpenUrl{}).buttonDisplayName(), name);
-}
 
 TEST(MouseButtonBindingTest, ReadsIntegersOfAnySpellingAndNothingElse) {
     using Kind = DecodingError::Kind;

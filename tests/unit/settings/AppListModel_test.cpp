@@ -29,12 +29,6 @@ TEST(AppListModel, OffersAllFromTheTwentyFirstAndSearchesThroughAll) {
     }
 }
 
-TEST(AppListModel, EveryCopyOfTheChoiceIsMarked) {
-    const AppListModel model(u"org.b"_s);
-    for (const QString& id : {u"org.b"_s, u"org.B"_s, u"org.bb"_s})
-        EXPECT_EQ(model.isSelected({u"B"_s, id, {}}), id == u"org.b"_s);
-}
-
 TEST(AppListModel, TheSearchIgnoresCaseOnly) {
     const QString pairs = u"com.apple.Safari=safari Ärger=ÄR Ärger=a\u0308rger STRAẞE=strasse "
                           "İstanbul=istanbul Işık=ışık Ｗｉｄｔｈ=width ﾒﾓ帳=メモ"_s;

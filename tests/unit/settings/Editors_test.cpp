@@ -14,14 +14,10 @@
 #include "viewkit/SegmentedPicker.h"
 #include "viewkit/Sheet.h"
 
-#include <QAbstractItemView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <utility>
@@ -71,26 +67,6 @@ private:
         return shown;
     }
 };
-
-TEST_F(EditorTest, GrowsWhereTheFormWouldScroll) {
-    window_.move(100, 780);
-    ShortcutEditorView& editor = open();
-    const QRect screen = window_.screen()->availableGeometry();
-    const QScrollBar& scrollBar = *editor.findChild<QScrollArea*>()->verticalScrollBar();
-    EXPECT_EQ(editor.size(), QSize(500, 450));
-    for (const ActionType type :
-         {ActionType::executeShell, ActionType::pressKey, ActionType::launchApp}) {
-        choose(editor, type);
-        EXPECT_TRUE(waitFor([&] {
-            return scrollBar.maximum() == 0 &&
-                   (editor.height() == 450) == (type == ActionType::launchApp) &&
-                   sheet_->size() == editor.size();
-        })) << int(type)
-            << " at " << editor.height();
-        EXPECT_TRUE(screen.contains(sheet_->frameGeometry()))
-            << int(type) << " from " << sheet_->y();
-    }
-}
 
 TEST_F(EditorTest, ANewButtonNeedsItsActionAndATitleOrSymbol) {
     ShortcutEditorView& editor = open();

@@ -2,8 +2,6 @@
 
 #include "settings/applications/PropertyList.h"
 
-#include <QElapsedTimer>
-#include <QtEndian>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -52,31 +50,6 @@ TEST(PropertyList, DamagedBinaryIsHarmless) {
             propertyListStrings(damaged, wanted);
         }
         EXPECT_EQ(propertyListStrings(binaryList.left(i), wanted), Strings());
-    }
-}
-
-// A million references to one long text, as key and as value, in XML as many attributes.
-TEST(PropertyList, TakesNoLongerThanItIsLong) {
-    constexpr int count = 240'000;
-    const auto number = [](quint32 value) {
-        value = qToBigEndian(value);
-        return QByteArray(reinterpret_cast<const char*>(&value), sizeof value);
-    };
-    const QByteArray objects = "bplist00\x6f\x12" + number(100'000) + QByteArray(200'000, 'a');
-    const QByteArray dictionary = // all of its references are to object 0
-        "\xdf\x12" + number(count / 2) + QByteArray(qsizetype(count) * 4, '\0');
-    const QByteArray binary = objects + dictionary + number(8) + number(quint32(objects.size())) +
-                              QByteArray(6, '\0') + "\x04\x04" + number(0) + number(2) + number(0) +
-                              number(1) + number(0) +
-                              number(quint32(objects.size() + dictionary.size()));
-    QByteArray xml = "<plist";
-    for (int i = 0; xml.size() < 1'000'000; ++i)
-        xml += " a" + QByteArray::number(i) + "=''";
-    for (const QByteArray& list : {binary, xml + "><dict/></plist>"}) {
-        QElapsedTimer timer;
-        timer.start();
-        EXPECT_EQ(propertyListStrings(list, wanted), Strings());
-        EXPECT_LT(timer.elapsed(), 5000) << list.left(8).constData();
     }
 }
 

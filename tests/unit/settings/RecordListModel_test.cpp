@@ -2,8 +2,6 @@
 
 #include "settings/RecordListModel.h"
 
-#include "viewkit/TwoLineRow.h"
-
 #include <QAbstractItemModelTester>
 #include <QPersistentModelIndex>
 #include <QRandomGenerator>
@@ -45,10 +43,4 @@ TEST(RecordListModel, FollowsAnyEditAndKeepsRowsOutsideIt) {
         ASSERT_EQ(keptRow.row(), kept) << round;
     }
     delete &model;
-}
-
-TEST(RecordListModel, TitlesTakeOneLine) {
-    EXPECT_EQ(singleLine(u"<b>🗑️ שלום</b>"_s), u"<b>🗑️ שלום</b>"_s);
-    EXPECT_EQ(singleLine(u"a\u2028b\u2029c\u0085d\r\n\te"_s), u"a b c d   e"_s);
-    EXPECT_LE(singleLine(QString(1'000'000, u'x')).size(), 1000);
 }

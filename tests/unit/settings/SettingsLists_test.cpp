@@ -1,14 +1,11 @@
-// Both tabs over real stores: selection, the commands by button, key, menu and drag.
+// The list of buttons over a real store: selection, the commands by button, key, menu and drag.
 
 #include "foundation/UserDefaults.h"
-#include "input/MouseButtonManager.h"
 #include "model/ShortcutManager.h"
-#include "settings/MouseSettingsView.h"
 #include "settings/RecordListView.h"
 #include "settings/RecordRowDelegate.h"
 #include "settings/ShortcutEditorView.h"
 #include "settings/VelmoraSettingsView.h"
-#include "support/FakeAccessibility.h"
 #include "support/FakeInputGrants.h"
 #include "support/Named.h"
 #include "support/TestDisplay.h"
@@ -203,24 +200,6 @@ TEST_F(SettingsListsTest, RowsMoveByDragAndByKey) {
     ASSERT_TRUE(editor());
     EXPECT_EQ(editor()->findChild<QLineEdit*>()->text(), u"a"_s);
     EXPECT_EQ(shown(), u"bcda"_s);
-}
-
-TEST_F(SettingsListsTest, MouseBindingsCannotBeMoved) {
-    test::FakeAccessibility accessibility;
-    MouseButtonManager manager(
-        defaults_, inputGrants_, accessibility, [](const ShortcutAction&) {});
-    for (const int number : {2, 4})
-        manager.addBinding({number, OpenUrl{u"x:"_s}});
-    MouseSettingsView view(manager, inputGrants_);
-    view.show();
-    RecordListView& rows = *view.findChild<RecordListView*>();
-    rows.setCurrentIndex(rows.model()->index(1, 0));
-    QTest::keyClick(&rows, Qt::Key_Up, Qt::AltModifier);
-    EXPECT_EQ(manager.bindings().at(1).buttonNumber, 4);
-    EXPECT_EQ(rows.model()->index(1, 0).data().toString(), u"mouse_click_btn5"_s);
-    QTest::keyClick(&rows, Qt::Key_Delete);
-    EXPECT_EQ(manager.bindings().size(), 1);
-    EXPECT_TRUE(waitFor([&] { return rows.model()->rowCount() == 1; }));
 }
 
 } // namespace

@@ -87,23 +87,6 @@ TEST_F(SettingsWindowTest, IsMadeOnceAndDroppedWhenItCloses) {
     EXPECT_EQ(tabs().currentIndex(), 0);
 }
 
-TEST_F(SettingsWindowTest, KeepsTheFrameThatItHadAtRest) {
-    const QString key = u"NSWindow Frame SettingsWindow"_s;
-    window_.show();
-    window_.window()->move(100, 30);
-    window_.window()->resize(650, 560);
-    // At rest it is saved without being closed.
-    EXPECT_TRUE(waitFor([&] { return defaults_.data(key) == "100 30 650 560 4 4"; }));
-    // Full screen and maximized are no frames of its own.
-    for (const Qt::WindowState state : {Qt::WindowFullScreen, Qt::WindowMaximized}) {
-        window_.show();
-        window_.window()->setWindowState(state);
-        EXPECT_TRUE(waitFor([&] { return window_.window()->size() != QSize(650, 560); }));
-        window_.close();
-        EXPECT_EQ(defaults_.data(key), "100 30 650 560 4 4") << state;
-    }
-}
-
 TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
     window_.setMainMenu(
         {{u""_s, {{u"Tom & Jerry"_s, u"testMessage:"_s, QKeySequence(u"Ctrl+T"_s)}}},

@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QImage>
-#include <QPainter>
 #include <algorithm>
 #include <gtest/gtest.h>
 
@@ -28,21 +27,6 @@ TEST(Symbols, EveryNameOfTheTableDrawsSomethingAndNoOther) {
         EXPECT_FALSE(Symbols::contains(name));
         EXPECT_TRUE(Symbols::pixmap(name, 14, 1, Qt::white).isNull());
     }
-}
-
-TEST(Symbols, PaintsOnWholeDevicePixels) {
-    // At 1.5 pixels a point, x = 1 lies between two pixels.
-    QImage canvas(60, 60, QImage::Format_ARGB32_Premultiplied);
-    canvas.setDevicePixelRatio(1.5);
-    canvas.fill(Qt::transparent);
-    QPainter painter(&canvas);
-    Symbols::paint(painter, u"globe"_s, {1, 1, 14, 14}, Qt::white);
-    painter.end();
-    QImage expected = Symbols::pixmap(u"globe"_s, 14, 1.5, Qt::white).toImage();
-    QImage painted = canvas.copy(2, 2, 21, 21);
-    expected.setDevicePixelRatio(1);
-    painted.setDevicePixelRatio(1);
-    EXPECT_EQ(painted, expected.convertToFormat(painted.format()));
 }
 
 } // namespace

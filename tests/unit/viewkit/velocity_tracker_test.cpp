@@ -69,18 +69,5 @@ TEST(VelocityTracker, TellsTheSpeedAtTheEndOfTheWay) {
     }
 }
 
-TEST(VelocityTracker, StandsJumpsAndAClockThatWrapsAround) {
-    VelocityTracker tracker;
-    EXPECT_EQ(tracker.movement(1), QPointF()) << "a release without a press";
-    tracker.press({0, 0}, 100);
-    tracker.move({30, 4}, 100);
-    EXPECT_EQ(tracker.movement(101), QPointF(30, 4)) << "no faster than the way itself";
-    tracker.press({0, 0}, 0xffffffff - 15);
-    EXPECT_EQ(tracker.movement(0xffffffff), QPointF()) << "a press begins anew";
-    tracker.move({8, 0}, 0xffffffff);
-    tracker.move({16, 0}, 16);
-    EXPECT_NEAR(tracker.movement(17).x(), 8, 0.5);
-}
-
 } // namespace
 } // namespace velmora
