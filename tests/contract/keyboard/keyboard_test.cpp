@@ -92,7 +92,7 @@ TEST_F(Keyboard, PressesThePositionWithExactlyTheFlagsInEveryLayout) {
                 service.tap(key.code, flags);
                 EXPECT_THAT(
                     seen(), ElementsAreArray(pressAndRelease(
-                                 key, static_cast<uint16_t>(maskOf(flags) | group << 13))));
+                                key, static_cast<uint16_t>(maskOf(flags) | group << 13))));
             }
         }
         EXPECT_EQ(keyboardState(client), untouched);

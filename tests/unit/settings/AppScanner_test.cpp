@@ -90,20 +90,4 @@ TEST_F(AppScannerTest, KeepsDuplicatesInTheOrderFoundAndFinderOnce) {
     EXPECT_TRUE(apps[1] == apps[2] && apps[1].id != apps[2].id && !(apps[1] == apps[3]));
 }
 
-TEST_F(AppScannerTest, OrdersAsTheLanguageDoes) {
-    QList<InstalledApplication> installed;
-    for (const QString& name : {u"com.apple.Safari"_s, u"Ärger"_s, u"Beta"_s, u"com.apple.iCal"_s})
-        installed.append({name, name, {}, {}});
-    const QLocale before;
-    for (const bool swedish : {false, true}) {
-        QLocale::setDefault(swedish ? QLocale(QLocale::Swedish) : QLocale::c());
-        EXPECT_EQ(
-            names(scanner(installed).getInstalledApps()).indexOf(u"Ärger"_s), swedish ? 3 : 0);
-    }
-    QLocale::setDefault(before);
-    EXPECT_THAT(
-        names(scanner(installed).getCommonApps()),
-        ElementsAre(u"com.apple.iCal"_s, u"com.apple.Safari"_s));
-}
-
 } // namespace

@@ -1,11 +1,16 @@
 #include "platform/freedesktop/DesktopWorkspace.h"
 
-#include "ApplicationsFolder.h"
+#include "support/TestDisplay.h"
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <QTemporaryDir>
 #include <QUrl>
 #include <QVariantMap>
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -18,6 +23,75 @@ namespace {
 // Before the application object, which may make GLib remember them: none of this machine's entries.
 const bool isolated = qputenv("XDG_DATA_DIRS", "/nonexistent") &&
                       qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+
+/// The user's folder of desktop entries and the default handlers, in the private home of the test
+/// program, with a program to start that writes down how it was started.
+class ApplicationsFolder {
+public:
+    ApplicationsFolder() {
+        write(
+            program(), u"#!/bin/sh\n{ printf 'arg %s\\n' \"$@\"\n"
+                       "echo \"cwd $PWD\"; echo \"via $VIA\"\n"
+                       "set -- $(cat /proc/$$/stat); echo \"session $6\"\n"
+                       "} >'%1.new' && mv '%1.new' '%1'\n"_s.arg(report()));
+        QFile::setPermissions(program(), QFile::ReadOwner | QFile::ExeOwner);
+    }
+    ~ApplicationsFolder() {
+        QDir(path({})).removeRecursively();
+        QFile::remove(handlers());
+    }
+
+    QString program() const { return file(u"program"_s); }
+    QString report() const { return file(u"report"_s); }
+    /// A folder for the test's own files.
+    QString file(const QString& name) const { return files_.filePath(name); }
+
+    /// Full path of the entry "<id>.desktop", or of the folder.
+    QString path(const QString& id) const {
+        return qEnvironmentVariable("XDG_DATA_HOME") + u"/applications"_s +
+               (id.isEmpty() ? id : u'/' + id + u".desktop"_s);
+    }
+
+    /// Writes the entry `id`; `lines` beyond Type and Name, by default an Exec of the program.
+    QString add(const QString& id, const QString& lines = {}) const {
+        write(
+            path(id), u"[Desktop Entry]\nType=Application\nName=Test\n%1\n"_s.arg(
+                          lines.isEmpty() ? u"Exec="_s + program() : lines));
+        return path(id);
+    }
+
+    /// Makes the entry `id` the default handler of `type`, and of nothing else.
+    void setDefault(const QString& type, const QString& id) const {
+        write(handlers(), u"[Default Applications]\n%1=%2.desktop\n"_s.arg(type, id));
+    }
+
+    /// Waits for the program's next report and gives its lines.
+    QStringList nextReport() const {
+        EXPECT_TRUE(waitFor([this] { return QFile::exists(report()); })) << "not started";
+        QFile file(report());
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        const QString text = QString::fromUtf8(file.readAll());
+        file.remove();
+        return text.split(u'\n', Qt::SkipEmptyParts);
+    }
+
+    /// Writes the whole file at once, as editors of such files do.
+    static void write(const QString& path, const QString& text) {
+        QDir().mkpath(QFileInfo(path).path());
+        QSaveFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
+        file.write(text.toUtf8());
+        EXPECT_TRUE(file.commit());
+    }
+
+private:
+    static QString handlers() {
+        return qEnvironmentVariable("XDG_CONFIG_HOME") + u"/mimeapps.list"_s;
+    }
+
+    QTemporaryDir files_;
+};
 
 class DesktopWorkspaceTest : public testing::Test {
 protected:
@@ -38,7 +112,7 @@ protected:
         return waitFor([&] { return workspace.applicationLocation(identifier) == location; });
     }
 
-    test::ApplicationsFolder folder;
+    ApplicationsFolder folder;
     DesktopWorkspace workspace;
 };
 
