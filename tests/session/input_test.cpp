@@ -26,7 +26,10 @@ testing::AssertionResult toggles(Session& session) {
     session.driver().releaseKey("LALT");
     if (changed)
         return testing::AssertionSuccess();
-    return testing::AssertionFailure() << (before ? "still shown" : "still hidden");
+    return testing::AssertionFailure()
+           << (before ? "still shown" : "still hidden") << (session.menu() ? ", menu open" : "")
+           << (isKeyboardFree(session.client()) ? "" : ", keyboard taken") << '\n'
+           << session.log().join(u'\n').toStdString();
 }
 
 TEST(HotKey, TogglesOnEveryLayoutAndTheApplicationInFrontKeepsTheFocus) {
@@ -56,7 +59,7 @@ TEST(HotKey, WorksWhileTheBarsMenuIsOpen) {
     session.launch();
     EXPECT_TRUE(waitFor([&] { return session.isBarShown(); }));
     const size_t windows = topWindows(session.client()).size();
-    session.driver().move(24, 12);
+    session.driver().move(24, 18); // the menu comes up here, below where the bar is looked at
     session.driver().click();
     EXPECT_TRUE(waitFor([&] { return session.menu().has_value(); }));
     EXPECT_TRUE(toggles(session));
