@@ -2,31 +2,38 @@
 
 #include "overlay/ButtonRow.h"
 
-#include <QWidget>
-
 namespace velmora {
 
-/// One way to arrange the buttons in the bar.
+class DraggableNSScrollView;
+
+/// One way to arrange the buttons in the bar: a strip for each side, whose buttons hug that end.
 class BarLayout : public QWidget {
 public:
-    BarLayout(ExecuteAction action, QWidget* parent)
-        : QWidget(parent), execute(std::move(action)) {}
-
     /// Shows the buttons, given in store order.
-    virtual void setShortcuts(const QList<ShortcutButton>& shortcuts) = 0;
+    void setShortcuts(const QList<ShortcutButton>& shortcuts);
+
+    DraggableNSScrollView& leftStrip() const { return *left_; }
+    DraggableNSScrollView& rightStrip() const { return *right_; }
 
     static constexpr int verticalPadding = 4;
     static constexpr int trailingPadding = 12;
 
 protected:
-    /// Those of `shortcuts` that belong to `side`, in their order.
-    static QList<ShortcutButton> group(QList<ShortcutButton> shortcuts, ButtonAlignment side) {
-        shortcuts.removeIf(
-            [side](const ShortcutButton& button) { return button.alignment != side; });
-        return shortcuts;
-    }
+    /// The left strip begins with the menu button if `menuButtonInStrip`.
+    BarLayout(ExecuteAction execute, bool menuButtonInStrip, QWidget* parent);
 
-    const ExecuteAction execute;
+    /// Places the strips in the layout's size; called again when that or their content changes.
+    virtual void placeStrips() = 0;
+
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void layOut();
+
+    const ExecuteAction execute_;
+    const bool menuButtonInStrip_;
+    DraggableNSScrollView* left_;
+    DraggableNSScrollView* right_;
 };
 
 } // namespace velmora

@@ -13,7 +13,6 @@ namespace velmora {
 void ButtonRow::setRootView(const RootView& content) {
     if (content.hasMenuButton && !menuButton_) {
         menuButton_ = new MenuButton(this);
-        menuButton_->setDragThreshold(content.dragThreshold);
         menuButton_->show();
     }
     // Ids may repeat: each view is handed out once.
@@ -24,7 +23,7 @@ void ButtonRow::setRootView(const RootView& content) {
     for (const ShortcutButton& shortcut : content.shortcuts) {
         const auto found = known.find(shortcut.id());
         if (found == known.end() || found->isEmpty()) {
-            buttons_.append(makeButton(shortcut, content));
+            buttons_.append(makeButton(shortcut, content.execute));
         } else {
             buttons_.append(found->takeFirst());
             buttons_.last()->setShortcut(shortcut);
@@ -43,11 +42,10 @@ void ButtonRow::sortChildren() {
     std::for_each(wrong, buttons_.cend(), [](ShortcutButtonView* button) { button->raise(); });
 }
 
-ShortcutButtonView* ButtonRow::makeButton(const ShortcutButton& shortcut, const RootView& content) {
+ShortcutButtonView*
+ButtonRow::makeButton(const ShortcutButton& shortcut, const ExecuteAction& execute) {
     auto* button = new ShortcutButtonView(shortcut, this);
-    button->setDragThreshold(content.dragThreshold);
-    button->setTitleWidthLimit(titleWidthLimit_);
-    connect(button, &ShortcutButtonView::clicked, this, [button, execute = content.execute] {
+    connect(button, &ShortcutButtonView::clicked, this, [button, execute] {
         // A copy: the action may outlive the button.
         const ShortcutAction action = button->shortcut().action;
         execute(action);
@@ -56,20 +54,11 @@ ShortcutButtonView* ButtonRow::makeButton(const ShortcutButton& shortcut, const 
     return button;
 }
 
-int ButtonRow::naturalWidth() const {
-    int width = menuButton_ ? menuButton_->sizeHint().width() + spacing : 0;
-    for (const ShortcutButtonView* button : buttons_)
-        width += button->naturalWidth() + spacing;
-    return std::max(width - spacing, 0);
-}
-
-void ButtonRow::setTitleWidthLimit(int limit) {
-    if (limit == titleWidthLimit_)
-        return;
-    titleWidthLimit_ = limit;
+void ButtonRow::setDragThreshold(std::optional<double> threshold) {
+    if (menuButton_)
+        menuButton_->setDragThreshold(threshold);
     for (ShortcutButtonView* button : std::as_const(buttons_))
-        button->setTitleWidthLimit(limit);
-    layOut();
+        button->setDragThreshold(threshold);
 }
 
 void ButtonRow::resizeEvent(QResizeEvent* event) {

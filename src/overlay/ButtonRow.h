@@ -5,7 +5,6 @@
 #include <QList>
 #include <QWidget>
 #include <functional>
-#include <limits>
 #include <optional>
 
 namespace velmora {
@@ -25,7 +24,6 @@ public:
         bool hasMenuButton = false; ///< in front of the others
         QList<ShortcutButton> shortcuts;
         ExecuteAction execute;
-        std::optional<double> dragThreshold; ///< of the strip that holds the row, if one does
     };
 
     static constexpr int spacing = 6;
@@ -38,18 +36,14 @@ public:
 
     /// The buttons in order.
     const QList<ShortcutButtonView*>& buttons() const { return buttons_; }
-    /// Width in points with every title unshortened.
-    int naturalWidth() const;
-
-    /// Limits every title, also later ones, to that width in points and takes the width that
-    /// results.
-    void setTitleWidthLimit(int limit);
+    /// Sets PlainButton::setDragThreshold() on all buttons that are there.
+    void setDragThreshold(std::optional<double> threshold);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    ShortcutButtonView* makeButton(const ShortcutButton& shortcut, const RootView& content);
+    ShortcutButtonView* makeButton(const ShortcutButton& shortcut, const ExecuteAction& execute);
     /// Puts the child views in the order of the buttons, the order in which assistive programs tell
     /// them.
     void sortChildren();
@@ -58,7 +52,6 @@ private:
 
     MenuButton* menuButton_ = nullptr;
     QList<ShortcutButtonView*> buttons_;
-    int titleWidthLimit_ = std::numeric_limits<int>::max();
 };
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 #include "overlay/ContentView.h"
 
 #include "model/ShortcutManager.h"
+#include "overlay/BarGround.h"
 #include "overlay/NotchAwareLayout.h"
 #include "overlay/StandardLayout.h"
 
@@ -51,8 +52,8 @@ void ContentView::rebuild() {
 
 void ContentView::paintEvent(QPaintEvent*) {
     QLinearGradient gradient(rect().topLeft(), rect().topRight() + QPoint(1, 0));
-    gradient.setColorAt(0, QColor::fromRgbF(0, 0, 0, 0.85F));
-    gradient.setColorAt(1, QColor::fromRgbF(0.1F, 0.1F, 0.15F, 0.85F));
+    gradient.setColorAt(0, barGround(0));
+    gradient.setColorAt(1, barGround(1));
     QPainter(this).fillRect(rect(), gradient);
 }
 

@@ -1,5 +1,7 @@
 #include "overlay/DraggableNSScrollView.h"
 
+#include "overlay/SoftEdge.h"
+
 #include <QCursor>
 #include <QGuiApplication>
 #include <QLineF>
@@ -20,7 +22,10 @@ constexpr double wheelNotch = 48;
 
 } // namespace
 
-DraggableNSScrollView::DraggableNSScrollView(QWidget* parent) : QWidget(parent) {
+DraggableNSScrollView::DraggableNSScrollView(QWidget* parent)
+    : QWidget(parent),
+      leftEdge_(new SoftEdge(SoftEdge::Side::left, this)),
+      rightEdge_(new SoftEdge(SoftEdge::Side::right, this)) {
     decelerationTimer_.setTimerType(Qt::PreciseTimer);
     decelerationTimer_.setInterval(16ms);
     decelerationTimer_.callOnTimeout(this, [this] { handleDecelerationStep(); });
@@ -40,6 +45,7 @@ void DraggableNSScrollView::setDocumentView(QWidget* view) {
     delete documentView_;
     documentView_ = view;
     view->setParent(this);
+    view->lower(); // below the edges
     view->installEventFilter(this);
     view->resize(view->width(), height());
     view->show();
@@ -58,7 +64,9 @@ void DraggableNSScrollView::handleMouseEvent(const LocalMouseEvent& event) {
     // QRectF::contains() counts the far edges in; the point right of the last one is outside.
     const bool inside =
         point.x() >= 0 && point.x() < width() && point.y() >= 0 && point.y() < height();
-    if (!inside)
+    if (event.kind == Kind::leftMouseDown)
+        isPressed_ = inside;
+    if (!inside || !isPressed_)
         return;
     switch (event.kind) {
     case Kind::leftMouseDown:
@@ -115,6 +123,8 @@ void DraggableNSScrollView::handleDecelerationStep() {
 
 void DraggableNSScrollView::scrollToPoint(double x) {
     offset_ = std::max(std::min(x, maxOffset()), 0.0);
+    leftEdge_->setHiddenWidth(offset_);
+    rightEdge_->setHiddenWidth(maxOffset() - offset_);
     if (!documentView_)
         return;
     const int slack = std::max(width() - documentView_->width(), 0);

@@ -8,8 +8,11 @@
 
 namespace velmora {
 
+class SoftEdge;
+
 /// A horizontal strip without scrollers that is dragged like a sheet of paper and coasts on when
 /// let go while moving. It watches presses, never consumes them: what lies inside keeps its clicks.
+/// Where there is more than it shows, its end is a soft edge.
 /// All positions in points of the strip's own coordinates, origin at the top left.
 class DraggableNSScrollView : public QWidget {
     Q_OBJECT
@@ -47,8 +50,8 @@ public:
     /// One tick of coasting.
     void handleDecelerationStep();
 
-    /// What the strip does on an event of the application; those of other windows or outside the
-    /// strip change nothing.
+    /// What the strip does on an event of the application. Those of other windows or outside the
+    /// strip scroll nothing, nor does a drag that began there.
     void handleMouseEvent(const LocalMouseEvent& event);
 
 protected:
@@ -66,10 +69,13 @@ private:
     double currentVelocity_ = 0;
     QPointF lastDragPoint_;
     QPointF mouseDownPoint_;
+    bool isPressed_ = false; ///< the last press was in the strip
     bool isDraggingMode_ = false;
     std::optional<LocalMouseMonitor> mouseEventMonitor_;
 
     QWidget* documentView_ = nullptr;
+    SoftEdge* leftEdge_;
+    SoftEdge* rightEdge_;
     Alignment alignment_ = Alignment::leading;
     double offset_ = 0;
 };

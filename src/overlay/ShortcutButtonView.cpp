@@ -73,7 +73,7 @@ QPainterPath continuousRoundedRect(const QRectF& rect, double corner) {
 } // namespace
 
 ShortcutButtonView::ShortcutButtonView(const ShortcutButton& shortcut, QWidget* parent)
-    : PlainButton(parent), shortcut_(shortcut), titleWidthLimit_(maximumTitleWidth) {
+    : PlainButton(parent), shortcut_(shortcut) {
     // The bar never takes the keyboard focus.
     setFocusPolicy(Qt::NoFocus);
     measure();
@@ -97,23 +97,12 @@ void ShortcutButtonView::measure() {
     setAccessibleName(shortcut_.title.isEmpty() ? help() : shortcut_.title);
 }
 
-void ShortcutButtonView::setTitleWidthLimit(int limit) {
-    if (limit == titleWidthLimit_)
-        return;
-    titleWidthLimit_ = limit;
-    update();
-}
-
-int ShortcutButtonView::labelWidth(int titleWidth) const {
-    const int symbol = hasSymbol_ ? Symbols::sideLength(symbolFontSize) : 0;
-    const int spacing = hasSymbol_ && titleWidth > 0 ? labelSpacing : 0;
-    return symbol + spacing + titleWidth + 2 * horizontalPadding;
-}
-
 QSize ShortcutButtonView::sizeHint() const {
+    const int symbol = hasSymbol_ ? Symbols::sideLength(symbolFontSize) : 0;
+    const int spacing = hasSymbol_ && titleWidth_ > 0 ? labelSpacing : 0;
     // Whatever the title's font: those of some scripts ask for more than their glyphs take.
     const int height = Symbols::sideLength(symbolFontSize) + 2 * verticalPadding;
-    return {labelWidth(shownTitleWidth()), height};
+    return {symbol + spacing + titleWidth_ + 2 * horizontalPadding, height};
 }
 
 QString ShortcutButtonView::help() const {
@@ -138,12 +127,12 @@ void ShortcutButtonView::paintEvent(QPaintEvent*) {
             foreground);
         x += side + labelSpacing;
     }
-    if (shownTitleWidth() == 0)
+    if (titleWidth_ == 0)
         return;
     const auto& [font, metrics] = titleFont();
-    const QString shown = titleWidth_ <= titleWidthLimit_ && titleWidth_ < maximumTitleWidth
+    const QString shown = titleWidth_ < maximumTitleWidth
                               ? title_
-                              : metrics.elidedText(title_, Qt::ElideRight, shownTitleWidth());
+                              : metrics.elidedText(title_, Qt::ElideRight, titleWidth_);
     painter.setFont(font);
     painter.setPen(foreground);
     painter.setLayoutDirection(Qt::LayoutDirectionAuto);

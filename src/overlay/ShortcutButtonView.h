@@ -16,14 +16,8 @@ public:
     /// Shows `shortcut` from now on; nothing happens when every field is as before.
     void setShortcut(const ShortcutButton& shortcut);
 
-    /// Width in points of the title as it stands; 4096 at most, longer ones end in an ellipsis.
-    int titleWidth() const { return titleWidth_; }
-    /// Gives the title at most `limit` points of width; it ends in an ellipsis if it needs more.
-    void setTitleWidthLimit(int limit);
-
-    /// Width in points that the label asks for with its title unshortened.
-    int naturalWidth() const { return labelWidth(titleWidth_); }
-    /// The size that the label asks for. The height is the same for every button.
+    /// The size in points that the label asks for. The height is the same for every button; a title
+    /// wider than 4096 ends in an ellipsis.
     QSize sizeHint() const override;
     QString help() const override;
 
@@ -32,13 +26,10 @@ protected:
 
 private:
     void measure();
-    int labelWidth(int titleWidth) const;
-    int shownTitleWidth() const { return std::min(titleWidth_, titleWidthLimit_); }
 
     ShortcutButton shortcut_;
     QString title_; ///< in one line
     int titleWidth_ = 0;
-    int titleWidthLimit_;
     bool hasSymbol_ = false;
 };
 

@@ -3,6 +3,7 @@
 
 #include "session/Session.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gmock/gmock.h>
 #include <xcb/xinput.h>
@@ -186,6 +187,53 @@ TEST_F(Strip, AFlickCoastsAsFarOnAnyMouse) {
             expected += tick;
         EXPECT_GE(travelled, 0.7 * expected);
         EXPECT_LE(travelled, 1.3 * expected);
+    }
+}
+
+TEST(CrowdedBar, GivesEveryButtonToDragAndWheelWithoutANotch) {
+    constexpr int count = 80;
+    QList<ShortcutButton> shortcuts;
+    for (int number = 1; number <= count; ++number)
+        shortcuts.append(
+            {u"m"_s.repeated(number % 9 + 1), u"star"_s,
+             ExecuteShellCommand{u"echo %1"_s.arg(number)},
+             number <= count / 2 ? ButtonAlignment::left : ButtonAlignment::right});
+    Session session({.screen = {1280, 800}, .shortcuts = shortcuts});
+    session.launch();
+    Hand hand;
+    // Scrolls until the button at that end of a strip runs the command of that number.
+    const auto reaches = [&](int end, int number, const std::function<void()>& scroll) {
+        for (int i = 0; i < 30; ++i) {
+            session.driver().move(end, barMiddle);
+            scroll();
+            const auto ran = [&] { return session.log().filter(u"🚀"_s); };
+            const auto before = ran().size();
+            const auto buttons = session.buttons();
+            const auto nearest = std::ranges::min_element(
+                buttons, {}, [end](const QRect& at) { return std::abs(at.center().x() - end); });
+            session.driver().move(nearest->center().x(), barMiddle);
+            session.driver().click();
+            // It may have gone between two buttons when the strip was still moving.
+            if (waitFor([&] { return ran().size() > before; }, 1000) &&
+                ran().last().endsWith(u" %1"_s.arg(number)))
+                return true;
+        }
+        return false;
+    };
+    const auto wheel = [&](uint8_t direction) {
+        for (int notch = 0; notch < 10; ++notch)
+            session.driver().click(direction);
+    };
+    const struct {
+        int start, end; // of the strip, in pixels
+        int first, last;
+    } strips[] = {{54, 649, 1, count / 2}, {673, 1268, count / 2 + 1, count}};
+    ASSERT_TRUE(waitFor([&] { return session.isBarShown(); }));
+    for (const auto& [start, end, first, last] : strips) {
+        EXPECT_TRUE(
+            reaches(end - 9, last, [&] { hand.stroke(end - 50, start + 50, 40, 125, 40); }));
+        EXPECT_TRUE(reaches(start + 9, first, [&] { wheel(4); }));
+        EXPECT_TRUE(reaches(end - 9, last, [&] { wheel(5); }));
     }
 }
 

@@ -50,13 +50,12 @@ protected:
         return *view;
     }
 
+    DraggableNSScrollView& strip(ButtonAlignment side) const {
+        return *view->findChildren<DraggableNSScrollView*>()[side == left ? 0 : 1];
+    }
     /// The buttons of one side from left to right.
     QList<ShortcutButtonView*> buttons(ButtonAlignment side) const {
-        if (auto* standard = view->findChild<StandardLayout*>())
-            return (side == left ? standard->leftRow() : standard->rightRow()).buttons();
-        auto* notched = view->findChild<NotchAwareLayout*>();
-        auto& strip = side == left ? notched->leftStrip() : notched->rightStrip();
-        return static_cast<ButtonRow*>(strip.documentView())->buttons();
+        return static_cast<ButtonRow*>(strip(side).documentView())->buttons();
     }
     ShortcutButtonView* button(int index) const { return buttons(ButtonAlignment::left)[index]; }
 
@@ -100,9 +99,8 @@ TEST_F(ContentViewTest, LeavesTheMiddleToANotchAndIsOneRowWithoutOne) {
     show();
     EXPECT_THAT(titles(left), ElementsAre("A", "B"));
     EXPECT_THAT(titles(right), ElementsAre("C"));
-    const auto* layout = view->findChild<NotchAwareLayout*>();
-    EXPECT_EQ(inBar(layout->leftStrip()), QRect(0, 4, 650, 24));
-    EXPECT_EQ(inBar(layout->rightStrip()), QRect(862, 4, 638, 24));
+    EXPECT_EQ(inBar(strip(left)), QRect(0, 4, 650, 24));
+    EXPECT_EQ(inBar(strip(right)), QRect(862, 4, 638, 24));
     EXPECT_FALSE(cachedMenuIcon().isNull()) << "the icon ships with the program";
     const auto* menu = view->findChild<MenuButton*>();
     EXPECT_THAT(gaps({menu, button(0), button(1)}).first(3), ElementsAre(0, 6, 6));
@@ -197,15 +195,30 @@ TEST_F(ContentViewTest, TheMenuSendsItsMessages) {
     menu->close();
 }
 
-TEST_F(ContentViewTest, ACrowdedRowKeepsEveryButtonInside) {
+TEST_F(ContentViewTest, ACrowdedRowIsTwoStripsWhoseSoftEdgesTellThatThereIsMore) {
     for (int i = 0; i < 24; ++i)
         add(u"A title of some length %1"_s.arg(i), i % 2 ? left : right);
     show(false);
-    EXPECT_GE(gaps({buttons(right).last()}).last(), 12);
-    EXPECT_GE(gaps({buttons(left).last(), buttons(right).first()})[1], 24);
+    const int width = button(0)->width();
+    EXPECT_EQ(inBar(strip(left)).right() + 25, inBar(strip(right)).left());
+    EXPECT_EQ(inBar(strip(right)).right(), view->width() - 1 - 12);
+    strip(left).scrollBy(-200);
+    const QImage picture = view->grab().toImage();
+    const auto light = [&](const DraggableNSScrollView& seen, int place) {
+        const int x = inBar(seen).left() + (place < 0 ? seen.width() : 0) + place;
+        return qGray(picture.pixel(x, 3)) - qGray(picture.pixel(x, 0));
+    };
+    // At the ends nothing is left of the buttons: only the left end of the right strip is one.
+    EXPECT_LE(light(strip(left), 0), 1);
+    EXPECT_LE(light(strip(left), -1), 1);
+    EXPECT_GT(light(strip(right), 8), 15);
+    EXPECT_LE(light(strip(right), -1), 1);
+
     view->resize(8000, 24);
-    EXPECT_EQ(button(0)->width(), button(0)->titleWidth() + 38) << "titles return with the room";
-    // Without strips a click may wander inside the button.
+    EXPECT_EQ(button(0)->width(), width);
+    EXPECT_EQ(strip(left).maxOffset(), 0);
+    EXPECT_GT(qGray(view->grab().toImage().pixel(inBar(strip(left)).left() + 8, 3)), 15);
+    // Where nothing scrolls, a click may wander inside the button.
     test::Mouse mouse(*view);
     mouse.press(centre(*button(0)) - QPointF(30, 0));
     mouse.release(centre(*button(0)) + QPointF(30, 0));
@@ -232,12 +245,17 @@ TEST(ShortcutButtonView, TakesRoomOnlyForWhatItShowsAndSaysWhatItDoes) {
     QToolTip::hideText();
 }
 
-TEST(StandardLayout, ShortensTheLongestTitlesFirst) {
-    // The longest alone, the two longest, all three, and nothing left.
-    for (const auto& [excess, limit] : {std::pair(20, 30), {21, 29}, {60, 10}, {90, 0}, {500, 0}})
-        EXPECT_EQ(titleWidthLimit({10, 50, 30}, excess), limit) << excess;
-    EXPECT_GE(titleWidthLimit({10, 50, 30}, 0), 50);
-    EXPECT_EQ(titleWidthLimit({}, 5), 0);
+TEST(StandardLayout, TwoStripsShareTheRoomByNeed) {
+    const struct {
+        int room, left, right;
+        StripWidths shared;
+    } cases[] = {
+        {100, 40, 60, {40, 60}},  {100, 20, 0, {20, 0}},    {100, 41, 60, {41, 59}},
+        {100, 500, 30, {70, 30}}, {100, 50, 900, {50, 50}}, {101, 500, 900, {50, 51}},
+        {100, 0, 900, {0, 100}},  {100, 900, 0, {100, 0}},  {0, 500, 900, {0, 0}},
+    };
+    for (const auto& [room, left, right, shared] : cases)
+        EXPECT_EQ(sharedRoom(room, left, right), shared) << room << ' ' << left << ' ' << right;
 }
 
 } // namespace

@@ -131,6 +131,10 @@ TEST_F(DraggableScrollTest, EventsOfOtherWindowsOrOutsideChangeNothing) {
     EXPECT_FALSE(strip.isCoasting());
     press(10);
     EXPECT_FALSE(strip.isDraggingMode());
+    press(-20);
+    drag(10);
+    drag(5);
+    EXPECT_EQ(strip.offset(), 20) << "a drag that began beside the strip is not its own";
 }
 
 TEST_F(DraggableScrollTest, ScrollsWithWheelAndTouchpad) {
