@@ -3,6 +3,7 @@
 #include "foundation/ActionMessages.h"
 #include "foundation/Bundle.h"
 #include "foundation/LocalizedString.h"
+#include "model/Preferences.h"
 #include "viewkit/PngFile.h"
 #include "viewkit/PopupMenu.h"
 
@@ -29,7 +30,10 @@ void showMenu(MenuButton& button) {
     auto* menu = new PopupMenu(&button);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setAccessibleName(localizedString("menu_help"));
-    menu->addItem(localizedString("menu_toggle"), {}, sending(u"toggleOverlayMenu"_s));
+    // After a tab stands what looks like a key equivalent but is none: the hot key is matched by
+    // position, in an open menu as well.
+    const QString hotKey = u'\t' + Preferences::shared().hotKey().name();
+    menu->addItem(localizedString("menu_toggle") + hotKey, {}, sending(u"toggleOverlayMenu"_s));
     menu->addSeparator();
     menu->addItem(
         localizedString("menu_settings"), Qt::CTRL | Qt::Key_Comma, sending(u"showSettings"_s));

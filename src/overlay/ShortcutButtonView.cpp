@@ -106,7 +106,8 @@ QSize ShortcutButtonView::sizeHint() const {
 }
 
 QString ShortcutButtonView::help() const {
-    return displayName(shortcut_.action);
+    const QString action = displayName(shortcut_.action);
+    return shortcut_.title.isEmpty() ? action : shortcut_.title + u'\n' + action;
 }
 
 void ShortcutButtonView::paintEvent(QPaintEvent*) {

@@ -180,11 +180,12 @@ TEST_F(ContentViewTest, APressExecutesTheActionAsItIsNowUnlessItBecameADrag) {
     EXPECT_THAT(executed, ElementsAre("Button 0")) << "5 points are still a click";
 }
 
-TEST_F(ContentViewTest, TheMenuSendsItsMessages) {
+TEST_F(ContentViewTest, TheMenuNamesTheHotKeyAndSendsItsMessages) {
     show();
     test::Mouse(*view).click(centre(*view->findChild<MenuButton*>()));
     auto* menu = qobject_cast<PopupMenu*>(QApplication::activePopupWidget());
     ASSERT_TRUE(menu);
+    EXPECT_TRUE(menu->actions()[0]->text().endsWith(u"\tAlt+M"_s));
     QStringList sent;
     for (const QString& name : {u"toggleOverlayMenu"_s, u"showSettings"_s, u"quitApp"_s}) {
         ActionMessages::shared().setHandler(name, [&sent, name] { sent << name; });
@@ -237,11 +238,13 @@ TEST(ShortcutButtonView, TakesRoomOnlyForWhatItShowsAndSaysWhatItDoes) {
     ShortcutButtonView view(ShortcutButton({}, u"key"_s, OpenUrl{u"<b>x</b>"_s}));
     const auto* interface = QAccessible::queryAccessibleInterface(&view);
     EXPECT_EQ(interface->role(), QAccessible::Button);
-    EXPECT_EQ(interface->text(QAccessible::Name), view.help());
+    EXPECT_EQ(interface->text(QAccessible::Name), displayName(OpenUrl{u"<b>x</b>"_s}));
+    view.setShortcut(ShortcutButton(u"R&D <i>"_s, u"key"_s, OpenUrl{u"<b>x</b>"_s}));
     view.show();
     QHelpEvent request(QEvent::ToolTip, {5, 5}, view.mapToGlobal(QPoint(5, 5)));
     QCoreApplication::sendEvent(&view, &request);
-    EXPECT_TRUE(QToolTip::text().contains(ToolTip::markup(displayName(OpenUrl{u"<b>x</b>"_s}))));
+    EXPECT_TRUE(QToolTip::text().contains(
+        ToolTip::markup(u"R&D <i>\n"_s + displayName(OpenUrl{u"<b>x</b>"_s}))));
     QToolTip::hideText();
 }
 
