@@ -56,7 +56,8 @@ void openAndLoad(benchmark::State& state) {
         QFile::copy(original, file);
         state.ResumeTiming();
         UserDefaults defaults(file);
-        const ShortcutManager manager(defaults);
+        EditHistory history;
+        const ShortcutManager manager(defaults, history);
         benchmark::DoNotOptimize(manager.shortcuts().size());
         state.PauseTiming();
         QFile::remove(file);
@@ -69,7 +70,8 @@ void editAndSave(benchmark::State& state) {
     const QTemporaryDir folder;
     UserDefaults defaults(folder.path() + u"/velmora.conf"_s);
     defaults.setData(u"SavedShortcuts"_s, encodedList(manyButtons()));
-    ShortcutManager manager(defaults);
+    EditHistory history;
+    ShortcutManager manager(defaults, history);
     for (auto _ : state) {
         ShortcutButton button = manager.shortcuts()[500];
         button.title = QString::number(state.iterations());

@@ -83,6 +83,22 @@
         <source></source>
         <translation>Bearbeiten</translation>
     </message>
+    <message id="edit_add_format">
+        <source></source>
+        <translation>„%1“ hinzufügen</translation>
+    </message>
+    <message id="edit_change_format">
+        <source></source>
+        <translation>„%1“ bearbeiten</translation>
+    </message>
+    <message id="edit_move_format">
+        <source></source>
+        <translation>„%1“ verschieben</translation>
+    </message>
+    <message id="edit_remove_format">
+        <source></source>
+        <translation>„%1“ löschen</translation>
+    </message>
     <message id="file_not_regular">
         <source></source>
         <translation>Keine gewöhnliche Datei</translation>
@@ -156,6 +172,10 @@
         <source></source>
         <translation>Velmora beenden</translation>
     </message>
+    <message id="menu_redo_format">
+        <source></source>
+        <translation>Wiederholen: %1</translation>
+    </message>
     <message id="menu_settings">
         <source></source>
         <translation>Einstellungen …</translation>
@@ -163,6 +183,10 @@
     <message id="menu_toggle">
         <source></source>
         <translation>Leiste ein- oder ausblenden</translation>
+    </message>
+    <message id="menu_undo_format">
+        <source></source>
+        <translation>Rückgängig: %1</translation>
     </message>
     <message id="mouse_action_label">
         <source></source>

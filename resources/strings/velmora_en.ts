@@ -83,6 +83,22 @@
         <source></source>
         <translation>Edit</translation>
     </message>
+    <message id="edit_add_format">
+        <source></source>
+        <translation>Add “%1”</translation>
+    </message>
+    <message id="edit_change_format">
+        <source></source>
+        <translation>Edit “%1”</translation>
+    </message>
+    <message id="edit_move_format">
+        <source></source>
+        <translation>Move “%1”</translation>
+    </message>
+    <message id="edit_remove_format">
+        <source></source>
+        <translation>Delete “%1”</translation>
+    </message>
     <message id="file_not_regular">
         <source></source>
         <translation>Not a regular file</translation>
@@ -156,6 +172,10 @@
         <source></source>
         <translation>Quit Velmora</translation>
     </message>
+    <message id="menu_redo_format">
+        <source></source>
+        <translation>Redo %1</translation>
+    </message>
     <message id="menu_settings">
         <source></source>
         <translation>Settings…</translation>
@@ -163,6 +183,10 @@
     <message id="menu_toggle">
         <source></source>
         <translation>Hide or Show the Bar</translation>
+    </message>
+    <message id="menu_undo_format">
+        <source></source>
+        <translation>Undo %1</translation>
     </message>
     <message id="mouse_action_label">
         <source></source>

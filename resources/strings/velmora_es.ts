@@ -83,6 +83,22 @@
         <source></source>
         <translation>Editar</translation>
     </message>
+    <message id="edit_add_format">
+        <source></source>
+        <translation>Añadir «%1»</translation>
+    </message>
+    <message id="edit_change_format">
+        <source></source>
+        <translation>Editar «%1»</translation>
+    </message>
+    <message id="edit_move_format">
+        <source></source>
+        <translation>Mover «%1»</translation>
+    </message>
+    <message id="edit_remove_format">
+        <source></source>
+        <translation>Eliminar «%1»</translation>
+    </message>
     <message id="file_not_regular">
         <source></source>
         <translation>No es un archivo normal</translation>
@@ -156,6 +172,10 @@
         <source></source>
         <translation>Salir de Velmora</translation>
     </message>
+    <message id="menu_redo_format">
+        <source></source>
+        <translation>Rehacer: %1</translation>
+    </message>
     <message id="menu_settings">
         <source></source>
         <translation>Ajustes…</translation>
@@ -163,6 +183,10 @@
     <message id="menu_toggle">
         <source></source>
         <translation>Mostrar u ocultar la barra</translation>
+    </message>
+    <message id="menu_undo_format">
+        <source></source>
+        <translation>Deshacer: %1</translation>
     </message>
     <message id="mouse_action_label">
         <source></source>

@@ -83,6 +83,22 @@
         <source></source>
         <translation>Modifier</translation>
     </message>
+    <message id="edit_add_format">
+        <source></source>
+        <translation>Ajouter « %1 »</translation>
+    </message>
+    <message id="edit_change_format">
+        <source></source>
+        <translation>Modifier « %1 »</translation>
+    </message>
+    <message id="edit_move_format">
+        <source></source>
+        <translation>Déplacer « %1 »</translation>
+    </message>
+    <message id="edit_remove_format">
+        <source></source>
+        <translation>Supprimer « %1 »</translation>
+    </message>
     <message id="file_not_regular">
         <source></source>
         <translation>Ce n’est pas un fichier ordinaire</translation>
@@ -156,6 +172,10 @@
         <source></source>
         <translation>Quitter Velmora</translation>
     </message>
+    <message id="menu_redo_format">
+        <source></source>
+        <translation>Rétablir : %1</translation>
+    </message>
     <message id="menu_settings">
         <source></source>
         <translation>Réglages…</translation>
@@ -163,6 +183,10 @@
     <message id="menu_toggle">
         <source></source>
         <translation>Masquer ou afficher la barre</translation>
+    </message>
+    <message id="menu_undo_format">
+        <source></source>
+        <translation>Annuler : %1</translation>
     </message>
     <message id="mouse_action_label">
         <source></source>

@@ -83,6 +83,22 @@
         <source></source>
         <translation>編集</translation>
     </message>
+    <message id="edit_add_format">
+        <source></source>
+        <translation>「%1」を追加</translation>
+    </message>
+    <message id="edit_change_format">
+        <source></source>
+        <translation>「%1」を編集</translation>
+    </message>
+    <message id="edit_move_format">
+        <source></source>
+        <translation>「%1」を移動</translation>
+    </message>
+    <message id="edit_remove_format">
+        <source></source>
+        <translation>「%1」を削除</translation>
+    </message>
     <message id="file_not_regular">
         <source></source>
         <translation>通常のファイルではありません</translation>
@@ -156,6 +172,10 @@
         <source></source>
         <translation>Velmoraを終了</translation>
     </message>
+    <message id="menu_redo_format">
+        <source></source>
+        <translation>やり直す：%1</translation>
+    </message>
     <message id="menu_settings">
         <source></source>
         <translation>設定...</translation>
@@ -163,6 +183,10 @@
     <message id="menu_toggle">
         <source></source>
         <translation>バーの表示を切り替え</translation>
+    </message>
+    <message id="menu_undo_format">
+        <source></source>
+        <translation>取り消す：%1</translation>
     </message>
     <message id="mouse_action_label">
         <source></source>

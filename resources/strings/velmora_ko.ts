@@ -83,6 +83,22 @@
         <source></source>
         <translation>편집</translation>
     </message>
+    <message id="edit_add_format">
+        <source></source>
+        <translation>‘%1’ 추가</translation>
+    </message>
+    <message id="edit_change_format">
+        <source></source>
+        <translation>‘%1’ 편집</translation>
+    </message>
+    <message id="edit_move_format">
+        <source></source>
+        <translation>‘%1’ 이동</translation>
+    </message>
+    <message id="edit_remove_format">
+        <source></source>
+        <translation>‘%1’ 삭제</translation>
+    </message>
     <message id="file_not_regular">
         <source></source>
         <translation>일반 파일이 아닙니다</translation>
@@ -156,6 +172,10 @@
         <source></source>
         <translation>Velmora 종료</translation>
     </message>
+    <message id="menu_redo_format">
+        <source></source>
+        <translation>다시 실행: %1</translation>
+    </message>
     <message id="menu_settings">
         <source></source>
         <translation>설정...</translation>
@@ -163,6 +183,10 @@
     <message id="menu_toggle">
         <source></source>
         <translation>바 보이기/숨기기</translation>
+    </message>
+    <message id="menu_undo_format">
+        <source></source>
+        <translation>실행 취소: %1</translation>
     </message>
     <message id="mouse_action_label">
         <source></source>

@@ -83,6 +83,22 @@
         <source></source>
         <translation>编辑</translation>
     </message>
+    <message id="edit_add_format">
+        <source></source>
+        <translation>添加“%1”</translation>
+    </message>
+    <message id="edit_change_format">
+        <source></source>
+        <translation>编辑“%1”</translation>
+    </message>
+    <message id="edit_move_format">
+        <source></source>
+        <translation>移动“%1”</translation>
+    </message>
+    <message id="edit_remove_format">
+        <source></source>
+        <translation>删除“%1”</translation>
+    </message>
     <message id="file_not_regular">
         <source></source>
         <translation>不是普通文件</translation>
@@ -156,6 +172,10 @@
         <source></source>
         <translation>退出 Velmora</translation>
     </message>
+    <message id="menu_redo_format">
+        <source></source>
+        <translation>重做：%1</translation>
+    </message>
     <message id="menu_settings">
         <source></source>
         <translation>设置…</translation>
@@ -163,6 +183,10 @@
     <message id="menu_toggle">
         <source></source>
         <translation>显示或隐藏快捷栏</translation>
+    </message>
+    <message id="menu_undo_format">
+        <source></source>
+        <translation>撤销：%1</translation>
     </message>
     <message id="mouse_action_label">
         <source></source>

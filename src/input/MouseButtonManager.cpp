@@ -16,18 +16,18 @@ namespace velmora {
 
 MouseButtonManager& MouseButtonManager::shared() {
     static auto* instance = new MouseButtonManager(
-        UserDefaults::standard(), Session::current().inputGrants(),
+        UserDefaults::standard(), EditHistory::shared(), Session::current().inputGrants(),
         Session::current().accessibility(),
         [](const ShortcutAction& action) { ActionEngine::shared().execute(action); });
     return *instance;
 }
 
 MouseButtonManager::MouseButtonManager(
-    UserDefaults& defaults, InputGrants& inputGrants, Accessibility& accessibility, Execute execute,
-    std::chrono::milliseconds retryPeriod)
+    UserDefaults& defaults, EditHistory& history, InputGrants& inputGrants,
+    Accessibility& accessibility, Execute execute, std::chrono::milliseconds retryPeriod)
     : bindings_(
-          defaults, u"SavedMouseBindings"_s, readMouseButtonBinding,
-          [this] { Q_EMIT bindingsWillChange(); }),
+          defaults, history, u"SavedMouseBindings"_s, readMouseButtonBinding,
+          [this] { Q_EMIT bindingsWillChange(); }, [this] { watchBoundButtons(); }),
       inputGrants_(inputGrants),
       accessibility_(accessibility),
       execute_(std::move(execute)),
@@ -65,17 +65,14 @@ void MouseButtonManager::addBinding(const MouseButtonBinding& binding) {
         bindings_.append(binding);
     else
         bindings_.replace(same - bindings().cbegin(), binding);
-    watchBoundButtons();
 }
 
 void MouseButtonManager::removeBinding(qsizetype index) {
     bindings_.remove(index);
-    watchBoundButtons();
 }
 
 void MouseButtonManager::updateBinding(qsizetype index, const MouseButtonBinding& binding) {
     bindings_.replace(index, binding);
-    watchBoundButtons();
 }
 
 void MouseButtonManager::watchBoundButtons() {

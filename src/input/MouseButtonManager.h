@@ -24,12 +24,13 @@ public:
     /// first use, never destroyed.
     static MouseButtonManager& shared();
 
-    /// Loads the stored bindings. The services outlive the store. `execute` carries out the action
-    /// of a pressed button; `retryPeriod` is the time between two looks for the permission to watch
-    /// while it is missing.
+    /// Loads the stored bindings. History and services outlive the store. `execute` carries out the
+    /// action of a pressed button; `retryPeriod` is the time between two looks for the permission
+    /// to watch while it is missing.
     MouseButtonManager(
-        UserDefaults& defaults, InputGrants& inputGrants, Accessibility& accessibility,
-        Execute execute, std::chrono::milliseconds retryPeriod = TrustPoll::defaultPeriod);
+        UserDefaults& defaults, EditHistory& history, InputGrants& inputGrants,
+        Accessibility& accessibility, Execute execute,
+        std::chrono::milliseconds retryPeriod = TrustPoll::defaultPeriod);
 
     /// In display order; of several for one button the first is carried out.
     const QList<MouseButtonBinding>& bindings() const { return bindings_.records(); }

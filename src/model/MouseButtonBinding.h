@@ -30,6 +30,11 @@ private:
     QUuid id_;
 };
 
+/// What the user calls the binding: its button's name.
+inline QString titleOf(const MouseButtonBinding& binding) {
+    return binding.buttonDisplayName();
+}
+
 inline size_t qHash(const MouseButtonBinding& binding, size_t seed = 0) noexcept {
     return qHash(binding.id(), seed);
 }

@@ -27,7 +27,7 @@ HotKey Preferences::hotKey() const {
     try {
         return readHotKey(JsonReader(parsedJson(*stored)));
     } catch (const DecodingError& error) {
-        keepUnreadable(defaults_, hotKeyKey, *stored, error);
+        keepAside(defaults_, hotKeyKey, *stored, &error);
         return {};
     }
 }

@@ -24,4 +24,8 @@ ShortcutButton::ShortcutButton(
       alignment(side),
       id_(id) {}
 
+QString titleOf(const ShortcutButton& button) {
+    return button.title.isEmpty() ? displayName(button.action) : button.title;
+}
+
 } // namespace velmora

@@ -38,6 +38,9 @@ private:
     QUuid id_;
 };
 
+/// What the user calls the button: its title, else what it does.
+QString titleOf(const ShortcutButton& button);
+
 inline size_t qHash(const ShortcutButton& button, size_t seed = 0) noexcept {
     return qHash(button.id(), seed);
 }

@@ -7,13 +7,15 @@ using namespace Qt::StringLiterals;
 namespace velmora {
 
 ShortcutManager& ShortcutManager::shared() {
-    static auto* instance = new ShortcutManager(UserDefaults::standard());
+    static auto* instance = new ShortcutManager(UserDefaults::standard(), EditHistory::shared());
     return *instance;
 }
 
-ShortcutManager::ShortcutManager(UserDefaults& defaults)
+ShortcutManager::ShortcutManager(UserDefaults& defaults, EditHistory& history)
     : userDefaultsKey(u"SavedShortcuts"_s),
-      shortcuts_(defaults, userDefaultsKey, readButton, [this] { Q_EMIT shortcutsWillChange(); }) {
+      shortcuts_(defaults, history, userDefaultsKey, readButton, [this] {
+          Q_EMIT shortcutsWillChange();
+      }) {
     if (shortcuts().isEmpty())
         createDefaultShortcuts();
 }

@@ -8,16 +8,17 @@
 namespace velmora {
 
 /// The ordered list of bar buttons, kept in the user defaults and observable. Main thread only.
-/// Every successful operation changes the list and then saves it; an index or offset out of range
-/// changes nothing and saves nothing.
+/// Every successful operation changes the list and then saves it, and can be undone through the
+/// history; an index or offset out of range changes nothing and saves nothing.
 class ShortcutManager : public QObject {
     Q_OBJECT
 public:
     /// The process-wide list over the standard user defaults, made on first use, never destroyed.
     static ShortcutManager& shared();
 
-    /// Loads the stored list; without a usable one, creates and saves the four defaults.
-    explicit ShortcutManager(UserDefaults& defaults);
+    /// Loads the stored list; without a usable one, creates and saves the four defaults. Both
+    /// arguments outlive the list.
+    ShortcutManager(UserDefaults& defaults, EditHistory& history);
 
     const QString userDefaultsKey;
 

@@ -1,7 +1,10 @@
 #include "settings/MainMenuBar.h"
 
 #include "foundation/ActionMessages.h"
+#include "foundation/LocalizedString.h"
+#include "model/EditHistory.h"
 #include "viewkit/PopupMenu.h"
+#include "viewkit/TwoLineRow.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -13,12 +16,12 @@ using namespace Qt::StringLiterals;
 namespace velmora {
 namespace {
 
-/// The operation of a text field that answers an editing message; empty for other messages. Both
+/// The messages of editing. A text field's operations have their names without the colon; both
 /// kinds of field name theirs alike.
-QByteArray editOperation(const QString& message) {
+bool isEditing(const QString& message) {
     static const QStringList messages{u"undo:"_s, u"redo:"_s,  u"cut:"_s,
                                       u"copy:"_s, u"paste:"_s, u"selectAll:"_s};
-    return messages.contains(message) ? message.chopped(1).toLatin1() : QByteArray();
+    return messages.contains(message);
 }
 
 /// The text field with the keyboard focus, if any.
@@ -35,7 +38,7 @@ QString literal(QString title) {
 
 } // namespace
 
-MainMenuBar::MainMenuBar(const QList<MenuModel>& menus) {
+MainMenuBar::MainMenuBar(const QList<MenuModel>& menus, EditHistory& history) : history_(history) {
     // In the window, where its shortcuts belong, also on desktops that have a place for menus.
     setNativeMenuBar(false);
     setAccessibleName(u"Velmora"_s);
@@ -59,24 +62,45 @@ void MainMenuBar::addEntries(PopupMenu& menu, const QList<MenuEntry>& entries) {
             menu.addSeparator();
             continue;
         }
-        const QByteArray operation = editOperation(entry.actionMessage);
-        if (operation.isEmpty()) {
+        if (isEditing(entry.actionMessage))
+            addEditing(menu, entry);
+        else
             commands_.append(
                 menu.addItem(entry.title, entry.keyEquivalent, [message = entry.actionMessage] {
                     ActionMessages::shared().send(message);
                 }));
-            continue;
-        }
-        QAction* action = menu.addItem(entry.title, entry.keyEquivalent, [operation] {
+    }
+}
+
+void MainMenuBar::addEditing(PopupMenu& menu, const MenuEntry& entry) {
+    const bool isUndo = entry.actionMessage == "undo:"_L1;
+    const bool isRedo = entry.actionMessage == "redo:"_L1;
+    QAction* action = menu.addItem(
+        entry.title, entry.keyEquivalent,
+        [this, isUndo, isRedo, operation = entry.actionMessage.chopped(1).toLatin1()] {
             if (QWidget* field = focusedField())
                 QMetaObject::invokeMethod(field, operation.constData());
+            else if (isUndo)
+                history_.undo();
+            else if (isRedo)
+                history_.redo();
         });
-        // Off only while the menu is open, so that the key equivalent always reaches the field.
-        connect(&menu, &QMenu::aboutToShow, action, [action] {
-            action->setEnabled(focusedField() != nullptr);
-        });
-        connect(&menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); });
-    }
+    // Off only while the menu is open, so that the key equivalent always reaches the field.
+    connect(&menu, &QMenu::aboutToShow, action, [=, this, title = entry.title] {
+        const QString step = focusedField() ? QString()
+                             : isUndo       ? history_.undoName()
+                             : isRedo       ? history_.redoName()
+                                            : QString();
+        action->setEnabled(focusedField() || !step.isEmpty());
+        action->setText(step.isEmpty() ? title : literal(stepTitle(isUndo, step)));
+    });
+    connect(&menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); });
+}
+
+QString MainMenuBar::stepTitle(bool isUndo, const QString& step) const {
+    constexpr int widest = 400; // points: a button's title may be a page
+    return (isUndo ? localizedString("menu_undo_format") : localizedString("menu_redo_format"))
+        .arg(fontMetrics().elidedText(singleLine(step), Qt::ElideMiddle, widest));
 }
 
 } // namespace velmora

@@ -29,20 +29,20 @@ MouseSettingsView::MouseSettingsView(MouseButtonManager& mouseManager, InputGran
         localizedString("mouse_settings_title"),
         {.snapshot = [&store] { return snapshot(store.bindings(), describe); },
          .remove = [&store](qsizetype index) { store.removeBinding(index); },
-         .makeEditor = [&store, &inputGrants](qsizetype index, std::function<void()> close)
-             -> std::unique_ptr<QWidget> {
+         .makeEditor = [&store, &inputGrants](
+                           qsizetype index, RecordSource::Done done) -> std::unique_ptr<QWidget> {
              const bool isEditing = index >= 0 && index < store.bindings().size();
-             const auto onSave = [&store, index, isEditing,
-                                  close](const MouseButtonBinding& binding) {
-                 if (isEditing)
-                     store.updateBinding(index, binding);
+             const auto onSave = [&store, index, done](const MouseButtonBinding& binding) {
+                 const qsizetype position = positionOf(binding, store.bindings(), index);
+                 if (position >= 0)
+                     store.updateBinding(position, binding);
                  else
                      store.addBinding(binding);
-                 close();
+                 done(binding.id());
              };
              return std::make_unique<MouseBindingEditorView>(
                  isEditing ? std::optional(store.bindings().at(index)) : std::nullopt, onSave,
-                 close, inputGrants);
+                 [done] { done({}); }, inputGrants);
          }});
     connect(&store, &MouseButtonManager::bindingsWillChange, pane, &RecordListPane::scheduleReload);
     auto* stack = new QVBoxLayout(this);

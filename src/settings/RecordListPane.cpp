@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -68,6 +69,9 @@ RecordListPane::RecordListPane(const QString& title, RecordSource source)
 
     QPushButton* add = addButton(u"plus"_s, localizedString("add"));
     connect(add, &QPushButton::clicked, this, [this] { openEditor(-1); });
+    auto* addKey = new QShortcut(QKeySequence::New, this);
+    addKey->setAutoRepeat(false);
+    connect(addKey, &QShortcut::activated, this, [this] { openEditor(-1); });
     edit_ = addButton(u"pencil"_s, localizedString("edit"));
     connect(edit_, &QPushButton::clicked, this, &RecordListPane::editSelected);
     delete_ = addButton(u"trash"_s, localizedString("delete"));
@@ -125,6 +129,20 @@ void RecordListPane::reload() {
     isReloading_ = false;
 }
 
+bool RecordListPane::knows(const QUuid& record) const {
+    return model_.indexOf(record).isValid() || source_.snapshot().ids.contains(record);
+}
+
+void RecordListPane::reveal(const QUuid& record) {
+    const bool isThere = source_.snapshot().ids.contains(record);
+    if (isThere || selection_ == record)
+        setSelection(isThere ? std::optional(record) : std::nullopt);
+    reload();
+    list_->setFocus();
+    if (isThere)
+        list_->scrollTo(model_.indexOf(record));
+}
+
 void RecordListPane::setSelection(std::optional<QUuid> selection) {
     selection_ = selection;
     // A button that is switched off hands the focus on; the list is where the user was.
@@ -157,10 +175,14 @@ void RecordListPane::remove(qsizetype index) {
 void RecordListPane::openEditor(qsizetype index) {
     if (editor_)
         return;
-    editor_ = &Sheet::present(*this, source_.makeEditor(index, [this] {
+    const bool isNew = index < 0;
+    const auto done = [this, isNew](std::optional<QUuid> saved) {
         if (editor_)
             editor_->accept();
-    }));
+        if (saved && isNew)
+            reveal(*saved);
+    };
+    editor_ = &Sheet::present(*this, source_.makeEditor(index, done));
 }
 
 } // namespace velmora

@@ -22,13 +22,21 @@ struct RecordSource {
     std::function<void(qsizetype index)> remove;
     /// Moves a record to an insertion position counted before the move; empty: rows stay put.
     std::function<void(qsizetype source, qsizetype destination)> move = {};
-    /// The editor for the record at `index`, or for a new one when no record is there; `close`
-    /// closes its sheet.
-    std::function<std::unique_ptr<QWidget>(qsizetype index, std::function<void()> close)>
-        makeEditor;
+    /// Closes the editor's sheet; `saved` is the record that was saved, if any.
+    using Done = std::function<void(std::optional<QUuid> saved)>;
+    /// The editor for the record at `index`, or for a new one when no record is there.
+    std::function<std::unique_ptr<QWidget>(qsizetype index, Done done)> makeEditor;
 };
 
-/// A tab's title, the list of records, and the buttons that add, edit and delete one.
+/// The position in `records` of the one with the id of `record`: `before`, where it was once,
+/// unless the list has changed since; -1 when it has gone.
+template<typename Record>
+qsizetype positionOf(const Record& record, const QList<Record>& records, qsizetype before) {
+    const bool isThere = before >= 0 && before < records.size() && records.at(before) == record;
+    return isThere ? before : records.indexOf(record);
+}
+
+/// A tab's title, the list of records, and the buttons that add, edit and delete one. Ctrl+N adds.
 class RecordListPane : public QWidget {
     Q_OBJECT
 public:
@@ -36,6 +44,11 @@ public:
 
     /// Reads the records again in the next turn of the event loop, once for any number of calls.
     void scheduleReload();
+
+    /// Whether `record` is in the list, or was until its latest change.
+    bool knows(const QUuid& record) const;
+    /// Selects `record` and brings it into sight; one that has gone is no longer selected.
+    void reveal(const QUuid& record);
 
     /// Appends a button to the bar, `leadingPadding` points further from the one before.
     QPushButton* addButton(const QString& symbol, const QString& title, int leadingPadding = 0);

@@ -1,7 +1,9 @@
 #include "settings/SettingsView.h"
 
 #include "foundation/LocalizedString.h"
+#include "model/EditHistory.h"
 #include "settings/MouseSettingsView.h"
+#include "settings/RecordListPane.h"
 #include "viewkit/SymbolIcon.h"
 #include "viewkit/Symbols.h"
 #include "viewkit/WindowTheme.h"
@@ -30,6 +32,18 @@ SettingsView::SettingsView(const SettingsServices& services) {
     addTab(
         new MouseSettingsView(services.mouseManager, services.inputGrants),
         symbolIcon(u"computermouse"_s), localizedString("settings_tab_mouse"));
+    connect(&services.history, &EditHistory::stepped, this, &SettingsView::reveal);
+}
+
+void SettingsView::reveal(const QUuid& record) {
+    for (int tab = 0; tab < count(); ++tab) {
+        const auto panes = widget(tab)->findChildren<RecordListPane*>();
+        if (panes.isEmpty() || !panes.first()->knows(record))
+            continue;
+        setCurrentIndex(tab);
+        panes.first()->reveal(record);
+        return;
+    }
 }
 
 } // namespace velmora

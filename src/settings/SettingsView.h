@@ -6,12 +6,14 @@
 
 namespace velmora {
 
+class EditHistory;
 class MouseButtonManager;
 
 /// What the settings work on; all of it outlives them.
 struct SettingsServices {
     ShortcutManager& shortcutManager;
     MouseButtonManager& mouseManager;
+    EditHistory& history; ///< of both
     InputGrants& inputGrants;
     std::optional<QVariantMap> infoDictionary;
     int barHeight = 0; ///< points that the bar covers at the top of the primary screen
@@ -26,6 +28,10 @@ public:
     static constexpr QSize contentSize{600, 500}; ///< points; the least, and at first
 
     QSize sizeHint() const override { return contentSize; }
+
+private:
+    /// Shows `record` in the list that it is in, or was.
+    void reveal(const QUuid& record);
 };
 
 } // namespace velmora

@@ -5,6 +5,7 @@
 #include "foundation/Log.h"
 #include "foundation/UserDefaults.h"
 #include "input/MouseButtonManager.h"
+#include "model/EditHistory.h"
 #include "model/ShortcutManager.h"
 #include "overlay/ScreenManager.h"
 #include "platform/Session.h"
@@ -86,6 +87,7 @@ SettingsWindow& SettingsWindow::shared() {
             return SettingsServices{
                 .shortcutManager = ShortcutManager::shared(),
                 .mouseManager = MouseButtonManager::shared(),
+                .history = EditHistory::shared(),
                 .inputGrants = Session::current().inputGrants(),
                 .infoDictionary = Bundle::infoDictionary(),
                 .barHeight = qCeil(ScreenManager::shared().getMenuBarHeight())};
@@ -124,12 +126,12 @@ void SettingsWindow::makeWindow() {
     window_->setWindowTitle(u"Velmora 設定"_s);
     WindowTheme::follow(*window_);
     new HeldKeys(window_.get());
-    auto* menuBar = new MainMenuBar(mainMenu_);
+    const SettingsServices services = services_();
+    auto* menuBar = new MainMenuBar(mainMenu_, services.history);
     window_->addActions(menuBar->commands());
     auto* close = new QShortcut(QKeySequence(u"Ctrl+W"_s), window_.get());
     close->setAutoRepeat(false);
     connect(close, &QShortcut::activated, window_.get(), &QWidget::close);
-    const SettingsServices services = services_();
     auto* view = new SettingsView(services);
     auto* layout = new QVBoxLayout(window_.get());
     layout->setContentsMargins(0, 0, 0, 0);

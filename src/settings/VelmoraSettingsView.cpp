@@ -42,19 +42,20 @@ VelmoraSettingsView::VelmoraSettingsView(
         {.snapshot = [&store] { return snapshot(store.shortcuts(), describe); },
          .remove = [&store](qsizetype index) { store.removeShortcut(index); },
          .move = [&store](qsizetype from, qsizetype to) { store.moveShortcut(from, to); },
-         .makeEditor = [&store, &inputGrants](qsizetype index, std::function<void()> close)
-             -> std::unique_ptr<QWidget> {
+         .makeEditor = [&store, &inputGrants](
+                           qsizetype index, RecordSource::Done done) -> std::unique_ptr<QWidget> {
              const bool isEditing = index >= 0 && index < store.shortcuts().size();
-             const auto onSave = [&store, index, isEditing, close](const ShortcutButton& button) {
-                 if (isEditing)
-                     store.updateShortcut(index, button);
+             const auto onSave = [&store, index, done](const ShortcutButton& button) {
+                 const qsizetype position = positionOf(button, store.shortcuts(), index);
+                 if (position >= 0)
+                     store.updateShortcut(position, button);
                  else
                      store.addShortcut(button);
-                 close();
+                 done(button.id());
              };
              return std::make_unique<ShortcutEditorView>(
                  isEditing ? std::optional(store.shortcuts().at(index)) : std::nullopt, onSave,
-                 close, inputGrants);
+                 [done] { done({}); }, inputGrants);
          }});
     connect(&store, &ShortcutManager::shortcutsWillChange, pane, &RecordListPane::scheduleReload);
     QPushButton* restart =

@@ -34,7 +34,7 @@ protected:
         if (!stored.isEmpty())
             defaults_.setData(key, encodedList(stored));
         return manager_.emplace(
-            defaults_, inputGrants_, accessibility_,
+            defaults_, history_, inputGrants_, accessibility_,
             [this](const ShortcutAction& action) { opened_ << std::get<OpenUrl>(action).url; },
             1ms);
     }
@@ -57,6 +57,7 @@ protected:
 
     const QTemporaryDir root_;
     UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
+    EditHistory history_;
     test::FakeAccessibility accessibility_;
     test::FakeInputGrants inputGrants_;
     QStringList opened_;

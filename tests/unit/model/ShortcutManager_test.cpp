@@ -2,6 +2,7 @@
 
 #include "foundation/UserDefaults.h"
 #include "model/StoredForm.h"
+#include "support/KeyTexts.h"
 #include "support/LogCapture.h"
 
 #include <QTemporaryDir>
@@ -37,10 +38,11 @@ protected:
 
     const QTemporaryDir root_;
     UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
+    EditHistory history_;
 };
 
 TEST_F(ShortcutManagerTest, FirstStartMakesTheFourDefaults) {
-    const ShortcutManager manager(defaults_);
+    const ShortcutManager manager(defaults_, history_);
     QByteArray json = encodedList(manager.shortcuts());
     EXPECT_EQ(stored(), json);
     for (const ShortcutButton& button : manager.shortcuts()) {
@@ -80,7 +82,7 @@ TEST_F(ShortcutManagerTest, NothingUsableBringsTheDefaultsBack) {
         SCOPED_TRACE(bytes.constData());
         const test::LogCapture log;
         store(bytes);
-        const ShortcutManager manager(defaults_);
+        const ShortcutManager manager(defaults_, history_);
         EXPECT_EQ(manager.shortcuts().size(), 4);
         EXPECT_EQ(stored(), encodedList(manager.shortcuts()));
         ASSERT_EQ(log.lines().size(), told.isEmpty() ? 0 : 1);
@@ -92,31 +94,50 @@ TEST_F(ShortcutManagerTest, NothingUsableBringsTheDefaultsBack) {
     EXPECT_EQ(copies, QStringList());
 
     // Another hand, while the list is in use.
-    ShortcutManager manager(defaults_);
+    ShortcutManager manager(defaults_, history_);
     UserDefaults(root_.path() + u"/velmora.conf"_s).setData(u"SavedShortcuts"_s, "[broken"_ba);
     manager.removeShortcut(0);
     EXPECT_EQ(defaults_.data(copyKey + u"-4"_s), "[broken"_ba);
     EXPECT_EQ(stored(), encodedList(manager.shortcuts()));
+    const QByteArray others = encodedList(QList{named(u"o"_s)});
+    UserDefaults(root_.path() + u"/velmora.conf"_s).setData(u"SavedShortcuts"_s, others);
+    history_.undo();
+    EXPECT_EQ(defaults_.data(u"SavedShortcuts.replaced"_s), others);
+    EXPECT_EQ(stored(), encodedList(manager.shortcuts()));
 }
 
 TEST_F(ShortcutManagerTest, OperationsAnnounceChangeAndSave) {
+    const test::KeyTexts texts;
     struct Case {
         const char* name;
         std::function<void(ShortcutManager&)> operation;
         QString after;
         QStringList seenBefore; ///< the titles at each announcement
+        QString step = {};      ///< what the history calls it
     };
     const ShortcutButton other = named(u"X"_s);
     const auto move = [](qsizetype source, qsizetype destination) {
         return [=](ShortcutManager& manager) { manager.moveShortcut(source, destination); };
     };
     const Case cases[] = {
-        {"add", [](auto& m) { m.addShortcut(named(u"E"_s)); }, u"ABCDE"_s, {u"ABCD"_s}},
-        {"remove", [](auto& m) { m.removeShortcut(3); }, u"ABC"_s, {u"ABCD"_s}},
-        {"update", [&](auto& m) { m.updateShortcut(0, other); }, u"XBCD"_s, {u"ABCD"_s}},
-        {"0 to 2", move(0, 2), u"BACD"_s, {u"ABCD"_s, u"BCD"_s}},
-        {"0 to end", move(0, 4), u"BCDA"_s, {u"ABCD"_s, u"BCD"_s}},
-        {"3 to 0", move(3, 0), u"DABC"_s, {u"ABCD"_s, u"ABC"_s}},
+        {"add",
+         [](auto& m) { m.addShortcut(named(u"E"_s)); },
+         u"ABCDE"_s,
+         {u"ABCD"_s},
+         u"edit_add_format E."_s},
+        {"remove",
+         [](auto& m) { m.removeShortcut(3); },
+         u"ABC"_s,
+         {u"ABCD"_s},
+         u"edit_remove_format D."_s},
+        {"update",
+         [&](auto& m) { m.updateShortcut(0, other); },
+         u"XBCD"_s,
+         {u"ABCD"_s},
+         u"edit_change_format A."_s},
+        {"0 to 2", move(0, 2), u"BACD"_s, {u"ABCD"_s, u"BCD"_s}, u"edit_move_format A."_s},
+        {"0 to end", move(0, 4), u"BCDA"_s, {u"ABCD"_s, u"BCD"_s}, u"edit_move_format A."_s},
+        {"3 to 0", move(3, 0), u"DABC"_s, {u"ABCD"_s, u"ABC"_s}, u"edit_move_format D."_s},
         {"1 to 2", move(1, 2), u"ABCD"_s, {u"ABCD"_s, u"ACD"_s}},
         {"remove beyond", [](auto& m) { m.removeShortcut(4); }, u"ABCD"_s, {}},
         {"update beyond", [&](auto& m) { m.updateShortcut(4, other); }, u"ABCD"_s, {}},
@@ -127,7 +148,8 @@ TEST_F(ShortcutManagerTest, OperationsAnnounceChangeAndSave) {
     for (const Case& one : cases) {
         SCOPED_TRACE(one.name);
         storeTitles(u"ABCD"_s);
-        ShortcutManager manager(defaults_);
+        EditHistory history;
+        ShortcutManager manager(defaults_, history);
         store("[]"_ba);
         QStringList seen;
         QObject::connect(&manager, &ShortcutManager::shortcutsWillChange, &manager, [&] {
@@ -139,6 +161,17 @@ TEST_F(ShortcutManagerTest, OperationsAnnounceChangeAndSave) {
         EXPECT_EQ(manager.shortcuts().contains(other), one.after.contains(u'X')) << "by its id";
         EXPECT_EQ(seen, one.seenBefore);
         EXPECT_EQ(stored(), one.seenBefore.isEmpty() ? "[]"_ba : encodedList(manager.shortcuts()));
+
+        seen.clear();
+        EXPECT_EQ(history.undoName(), one.step);
+        for (const auto& [step, result] :
+             {std::pair(&EditHistory::undo, u"ABCD"_s), {&EditHistory::redo, one.after}}) {
+            store("[]"_ba);
+            (history.*step)();
+            EXPECT_EQ(titles(manager), result);
+            EXPECT_EQ(manager.shortcuts().contains(other), result.contains(u'X'));
+            EXPECT_EQ(stored(), one.step.isEmpty() ? "[]"_ba : encodedList(manager.shortcuts()));
+        }
     }
 }
 

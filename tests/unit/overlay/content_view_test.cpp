@@ -86,7 +86,8 @@ protected:
     const ButtonAlignment right = ButtonAlignment::right;
     QTemporaryDir folder;
     UserDefaults defaults{folder.filePath(u"velmora.conf"_s)};
-    ShortcutManager store{defaults};
+    EditHistory history;
+    ShortcutManager store{defaults, history};
     bool hasNotch = true;
     std::vector<std::string> executed;
     std::unique_ptr<ContentView> view;

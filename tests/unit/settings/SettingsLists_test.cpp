@@ -1,11 +1,14 @@
-// The list of buttons over a real store: selection, the commands by button, key, menu and drag.
+// The lists over real stores: selection, the commands by button, key, menu and drag.
 
 #include "foundation/UserDefaults.h"
+#include "input/MouseButtonManager.h"
+#include "model/EditHistory.h"
 #include "model/ShortcutManager.h"
 #include "settings/RecordListView.h"
 #include "settings/RecordRowDelegate.h"
+#include "settings/SettingsView.h"
 #include "settings/ShortcutEditorView.h"
-#include "settings/VelmoraSettingsView.h"
+#include "support/FakeAccessibility.h"
 #include "support/FakeInputGrants.h"
 #include "support/Named.h"
 #include "support/TestDisplay.h"
@@ -35,18 +38,21 @@ protected:
         view_.resize(600, 500);
         view_.show();
         QApplication::setActiveWindow(&view_);
+        list().setFocus();
         EXPECT_TRUE(waitFor([&] { return list().hasFocus(); }));
         shown();
     }
 
-    RecordListView& list() { return *view_.findChild<RecordListView*>(); }
+    RecordListView& list() { return *view_.currentWidget()->findChild<RecordListView*>(); }
     /// The editor's sheet while it is open.
     Sheet* editor() { return view_.findChild<Sheet*>(); }
     QPoint rowCentre(int row) { return list().visualRect(list().model()->index(row, 0)).center(); }
     void clickRow(int row) {
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, rowCentre(row));
     }
-    QPushButton* button(const QString& text) { return &test::named<QPushButton>(view_, text); }
+    QPushButton* button(const QString& text) {
+        return &test::named<QPushButton>(*view_.currentWidget(), text);
+    }
     void press(int key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(&list(), Qt::Key(key), modifiers);
     }
@@ -81,9 +87,18 @@ protected:
 
     const QTemporaryDir root_;
     UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
-    ShortcutManager store_{defaults_};
+    EditHistory history_;
+    ShortcutManager store_{defaults_, history_};
     test::FakeInputGrants inputGrants_;
-    VelmoraSettingsView view_{store_, inputGrants_, {}};
+    test::FakeAccessibility accessibility_;
+    MouseButtonManager mouse_{
+        defaults_, history_, inputGrants_, accessibility_, [](const ShortcutAction&) {}};
+    SettingsView view_{
+        {.shortcutManager = store_,
+         .mouseManager = mouse_,
+         .history = history_,
+         .inputGrants = inputGrants_,
+         .infoDictionary = {}}};
 };
 
 TEST_F(SettingsListsTest, TheSelectionIsARecordAndGoesOnlyWithIt) {
@@ -155,7 +170,46 @@ TEST_F(SettingsListsTest, EditorsWorkOnTheStore) {
     for (int click = 0; click < 2; ++click)
         QTest::mouseClick(&form->saveButton(), Qt::LeftButton);
     EXPECT_EQ(shown(), u"abcZeN"_s) << "once for a double click";
-    EXPECT_EQ(selectedRow(), u"Z"_s);
+    EXPECT_EQ(selectedRow(), u"N"_s);
+}
+
+TEST_F(SettingsListsTest, WhatComesBackIsSelectedAndSeen) {
+    const auto isSeen = [&] {
+        const QModelIndexList rows = list().selectionModel()->selectedIndexes();
+        return !rows.isEmpty() && list().viewport()->rect().contains(list().visualRect(rows[0]));
+    };
+    for (int i = 0; i < 40; ++i)
+        store_.addShortcut({u"z"_s, u"star"_s, OpenUrl{u"x:"_s}});
+    mouse_.addBinding({4, OpenUrl{u"x:"_s}});
+    shown();
+    clickRow(1);
+    press(Qt::Key_Delete);
+    press(Qt::Key_End);
+    view_.setCurrentIndex(1);
+    history_.undo();
+    EXPECT_EQ(view_.currentIndex(), 0) << "where it happened";
+    EXPECT_TRUE(list().hasFocus());
+    EXPECT_EQ(shown().left(5), u"abcde"_s);
+    EXPECT_EQ(selectedRow(), u"b"_s);
+    EXPECT_TRUE(isSeen());
+    history_.redo();
+    EXPECT_FALSE(button(u"edit"_s)->isEnabled()) << "it has gone again, and its selection";
+    history_.undo();
+    history_.undo();
+    EXPECT_EQ(view_.currentIndex(), 1);
+    EXPECT_EQ(list().model()->rowCount(), 0);
+
+    view_.setCurrentIndex(0);
+    QTest::keyClick(&list(), Qt::Key_N, Qt::ControlModifier);
+    ASSERT_TRUE(editor());
+    for (QLineEdit* field : editor()->findChildren<QLineEdit*>())
+        field->setText(u"N"_s);
+    // The list may become another meanwhile.
+    store_.removeShortcut(0);
+    editor()->findChild<ShortcutEditorView*>()->requestSave();
+    ASSERT_TRUE(waitFor([&] { return !editor(); }));
+    EXPECT_EQ(selectedRow(), u"N"_s);
+    EXPECT_TRUE(isSeen());
 }
 
 TEST_F(SettingsListsTest, RowsMoveByDragAndByKey) {

@@ -12,6 +12,7 @@
 #include "settings/SettingsWindow.h"
 #include "support/FakeAccessibility.h"
 #include "support/FakeInputGrants.h"
+#include "support/KeyTexts.h"
 #include "support/TestDisplay.h"
 #include "viewkit/Sheet.h"
 #include "viewkit/Style.h"
@@ -45,16 +46,18 @@ class SettingsWindowTest : public testing::Test {
 protected:
     const QTemporaryDir root_;
     UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
+    EditHistory history_;
     test::FakeInputGrants inputGrants_;
     test::FakeAccessibility accessibility_;
-    ShortcutManager shortcuts_{defaults_};
+    ShortcutManager shortcuts_{defaults_, history_};
     MouseButtonManager mouse_{
-        defaults_, inputGrants_, accessibility_, [](const ShortcutAction&) {}};
+        defaults_, history_, inputGrants_, accessibility_, [](const ShortcutAction&) {}};
     FakeActivation activation_;
     SettingsWindow window_{defaults_, activation_, [this] {
                                return SettingsServices{
                                    .shortcutManager = shortcuts_,
                                    .mouseManager = mouse_,
+                                   .history = history_,
                                    .inputGrants = inputGrants_,
                                    .infoDictionary = Bundle::infoDictionary()};
                            }};
@@ -90,7 +93,10 @@ TEST_F(SettingsWindowTest, IsMadeOnceAndDroppedWhenItCloses) {
 TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
     window_.setMainMenu(
         {{u""_s, {{u"Tom & Jerry"_s, u"testMessage:"_s, QKeySequence(u"Ctrl+T"_s)}}},
-         {u"Edit"_s, {{u"Select All"_s, u"selectAll:"_s, {}}}}});
+         {u"Edit"_s,
+          {{u"Select All"_s, u"selectAll:"_s, {}},
+           {u"Undo"_s, u"undo:"_s, QKeySequence(u"Ctrl+Z"_s)},
+           {u"Redo"_s, u"redo:"_s, QKeySequence(u"Ctrl+Shift+Z"_s)}}}});
     int sent = 0;
     ActionMessages::shared().setHandler(u"testMessage:"_s, [&] { ++sent; });
     window_.show();
@@ -125,6 +131,25 @@ TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
     selectAll->trigger();
     EXPECT_EQ(field.selectedText(), u"text"_s);
 
+    // Undo is the field's while there is one, else the lists', with what it would do.
+    const test::KeyTexts texts;
+    const QAction* undo = edit->actions()[1];
+    const QString undoTitle = u"menu_undo_format edit_remove_format A && B.."_s;
+    shortcuts_.addShortcut({u"A & B"_s, {}, OpenUrl{u"u"_s}});
+    shortcuts_.removeShortcut(4);
+    Q_EMIT edit->aboutToShow();
+    EXPECT_EQ(undo->text(), u"Undo"_s);
+    QApplication::setActiveWindow(&window);
+    tabs().setFocus();
+    Q_EMIT edit->aboutToShow();
+    EXPECT_EQ(undo->text(), undoTitle);
+    EXPECT_FALSE(edit->actions()[2]->isEnabled());
+    Q_EMIT edit->aboutToHide();
+    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(shortcuts_.shortcuts().size(), 5);
+    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(shortcuts_.shortcuts().size(), 4);
+
     for (int i = 0; i < 2; ++i)
         window_.showAboutPanel();
     EXPECT_EQ(window.findChildren<AboutView*>().size(), 1);
@@ -132,6 +157,8 @@ TEST_F(SettingsWindowTest, TheMenuBarSendsMessagesAndEditsTheFocusedField) {
     QApplication::setActiveWindow(sheet);
     QTest::keyClick(sheet, Qt::Key_T, Qt::ControlModifier);
     EXPECT_EQ(sent, 2);
+    QTest::keyClick(sheet, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(shortcuts_.shortcuts().size(), 4) << "the list is held by the sheet";
     ActionMessages::shared().setHandler(u"testMessage:"_s, {});
 }
 
