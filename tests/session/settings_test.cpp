@@ -25,6 +25,14 @@ protected:
             key(position);
     }
 
+    void chord(std::initializer_list<QByteArray> modifiers, const QByteArray& position) {
+        for (const QByteArray& modifier : modifiers)
+            session_.driver().pressKey(modifier);
+        key(position);
+        for (const QByteArray& modifier : modifiers)
+            session_.driver().releaseKey(modifier);
+    }
+
     /// Opens the window from the bar's menu, and gives it when it has the focus.
     xcb_window_t openSettings() {
         Driver& driver = session_.driver();
@@ -97,7 +105,7 @@ protected:
              {u"shell"_s, u"star"_s, ExecuteShellCommand{u"true"_s}}}}};
 };
 
-TEST_F(SettingsTest, AnAddedButtonIsOnTheBarAtOnceAndOutlivesACrash) {
+TEST_F(SettingsTest, AnAddedButtonIsOnTheBarAtOnceComesBackAndOutlivesACrash) {
     ASSERT_TRUE(waitForButtons(2));
     const xcb_window_t settings = openSettings();
     keys({"TAB", "SPCE"}); // from the list to Add
@@ -114,15 +122,25 @@ TEST_F(SettingsTest, AnAddedButtonIsOnTheBarAtOnceAndOutlivesACrash) {
     EXPECT_TRUE(storedText().contains(u"\"docs\""_s)) << qPrintable(storedText());
     EXPECT_TRUE(storedText().contains(u"{\"openURL\":{\"url\":\"https://se.se\"}}"_s));
 
+    keys({"END", "DELE"});
+    ASSERT_TRUE(waitForButtons(2));
+    EXPECT_FALSE(storedText().contains(u"docs"_s));
+    chord({"LCTL"}, "AB01"); // Z
+    ASSERT_TRUE(waitForButtons(3));
+    chord({"LCTL", "LFSH"}, "AB01");
+    ASSERT_TRUE(waitForButtons(2));
+    // A closed window forgets nothing.
+    chord({"LCTL"}, "AD02"); // W
+    ASSERT_TRUE(waitFor([&] { return inputFocus(session_.client()) != settings; }));
+    openSettings();
+    chord({"LCTL"}, "AB01");
+    ASSERT_TRUE(waitForButtons(3));
+
     session_.program().kill();
     ASSERT_TRUE(waitFor([&] { return !session_.bar(); }));
     session_.launch();
     ASSERT_TRUE(waitForButtons(3));
-
-    openSettings();
-    keys({"END", "DELE"});
-    ASSERT_TRUE(waitForButtons(2));
-    EXPECT_FALSE(storedText().contains(u"docs"_s));
+    EXPECT_TRUE(storedText().contains(u"docs"_s));
 }
 
 TEST_F(SettingsTest, AHeldKeyActsOnceAndTheRecorderIsLeftByKeys) {
