@@ -11,6 +11,7 @@
 #include "foundation/MainQueue.h"
 #include "foundation/SystemRoom.h"
 #include "foundation/UserDefaults.h"
+#include "model/Preferences.h"
 #include "model/ShortcutManager.h"
 #include "overlay/ContentView.h"
 #include "overlay/ScreenManager.h"
@@ -50,7 +51,8 @@ bool hasRoomForWindows() {
 } // namespace
 
 AppDelegate::AppDelegate(RemoteControl& remoteControl)
-    : overlayController(ScreenManager::shared(), Session::current().panels()),
+    : overlayController(
+          ScreenManager::shared(), Preferences::shared(), Session::current().panels()),
       hotKeyManager(HotKeyManager::shared()),
       mouseButtonManager(MouseButtonManager::shared()),
       statusBarController(

@@ -7,6 +7,7 @@
 
 namespace velmora {
 
+class Preferences;
 class ScreenManager;
 
 /// Makes the bar's panel once at start-up and shows or hides it on request. Held weakly through
@@ -15,8 +16,9 @@ class OverlayController : public QObject {
     Q_OBJECT
 
 public:
-    /// Makes no window yet. Both services outlive the controller.
-    OverlayController(const ScreenManager& screenManager, Panels& panels);
+    /// Makes no window yet. All of them outlive the controller.
+    OverlayController(
+        const ScreenManager& screenManager, const Preferences& preferences, Panels& panels);
 
     /// Puts a panel filled with `view` over the menu-bar strip of the primary screen, in place of
     /// any earlier one.
@@ -31,6 +33,7 @@ public:
 
 private:
     const ScreenManager& screenManager_;
+    const Preferences& preferences_;
     Panels& panels_;
 };
 

@@ -11,6 +11,10 @@ struct PanelRequest {
     double height = 0; ///< points
     /// Seen, and feeling clicks; else neither, though its window stays where it is.
     bool presented = true;
+    /// Below what the desktop's own panels reserve there, else at the very edge.
+    bool belowDocks = true;
+    /// While presented it keeps maximised windows below itself.
+    bool reservesStrip = false;
 
     bool operator==(const PanelRequest&) const = default;
 };
@@ -21,8 +25,9 @@ class Panel {
 public:
     virtual ~Panel() = default;
 
-    /// Carries out all of the request at once, on the primary screen as it is now; without a screen
-    /// the panel is not seen. Nothing is seen before the first request.
+    /// Carries out all of the request at once, on the primary screen as it is now, and follows the
+    /// screen and the desktop's panels from then on; without a screen the panel is not seen.
+    /// Nothing is seen before the first request.
     virtual void request(const PanelRequest& request) = 0;
 };
 

@@ -30,6 +30,9 @@ public:
         }
     }
 
+    /// What the newest panel was asked for last.
+    const PanelRequest& lastRequest() const { return panels_.back()->wanted; }
+
     std::unique_ptr<Panel> create(std::unique_ptr<QWidget> view) override {
         return std::make_unique<FakePanel>(*this, std::move(view));
     }

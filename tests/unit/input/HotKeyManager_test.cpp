@@ -41,7 +41,7 @@ protected:
     test::FakeScreens screens_;
     ScreenManager screenManager_{screens_};
     test::FakePanels panels_{screens_};
-    OverlayController controller_{screenManager_, panels_};
+    OverlayController controller_{screenManager_, preferences_, panels_};
     test::FakeAccessibility accessibility_;
     test::FakeInputGrants inputGrants_;
     HotKeyManager manager_{preferences_, inputGrants_, accessibility_, 1ms};

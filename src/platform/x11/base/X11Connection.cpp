@@ -6,6 +6,7 @@
 #include <QAbstractEventDispatcher>
 #include <cstdlib>
 #include <poll.h>
+#include <vector>
 #include <xcb/randr.h>
 #include <xcb/shape.h>
 #include <xcb/xinput.h>
@@ -79,16 +80,24 @@ X11Connection::~X11Connection() {
 }
 
 xcb_atom_t X11Connection::atom(const QByteArray& name) {
-    const auto known = atoms_.constFind(name);
-    if (known != atoms_.constEnd())
-        return *known;
-    const auto cookie =
-        xcb_intern_atom(connection_, false, static_cast<uint16_t>(name.size()), name.constData());
-    const XcbOwned<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection_, cookie, nullptr));
-    const xcb_atom_t atom = reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-    atoms_.insert(name, atom);
-    return atom;
+    prepareAtoms({name});
+    return atoms_.value(name);
+}
+
+void X11Connection::prepareAtoms(const QByteArrayList& names) {
+    std::vector<std::pair<QByteArray, xcb_intern_atom_cookie_t>> questions;
+    for (const QByteArray& name : names) {
+        if (!atoms_.contains(name))
+            questions.emplace_back(
+                name,
+                xcb_intern_atom(
+                    connection_, false, static_cast<uint16_t>(name.size()), name.constData()));
+    }
+    for (const auto& [name, question] : questions) {
+        const XcbOwned<xcb_intern_atom_reply_t> reply(
+            xcb_intern_atom_reply(connection_, question, nullptr));
+        atoms_.insert(name, reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE));
+    }
 }
 
 xcb_window_t X11Connection::makeHiddenWindow() {

@@ -2,7 +2,7 @@
 
 #include "platform/x11/base/Xcb.h"
 
-#include <QByteArray>
+#include <QByteArrayList>
 #include <QHash>
 #include <QSocketNotifier>
 #include <functional>
@@ -32,6 +32,8 @@ public:
 
     /// The atom called `name`, asked for once.
     xcb_atom_t atom(const QByteArray& name);
+    /// Asks for several atoms with one wait.
+    void prepareAtoms(const QByteArrayList& names);
 
     /// Called for each event, on the main thread. Errors of unchecked requests go to the log: where
     /// one is to be expected (a window of another client may have gone), use a checked request.

@@ -16,6 +16,16 @@ QRect panelPlace(const QRect& screen, int height, const QList<TopStrut>& docks) 
     return QRect(screen.left(), screen.top() + reserved, screen.width(), height) & screen;
 }
 
+std::optional<TopStrut> panelStrut(const QRect& place, const QList<QRect>& screens) {
+    const bool isBelowAnother = std::ranges::any_of(screens, [&](const QRect& screen) {
+        return screen.bottom() < place.top() && screen.left() <= place.right() &&
+               screen.right() >= place.left();
+    });
+    if (isBelowAnother)
+        return {};
+    return TopStrut{place.bottom() + 1, place.left(), place.right()};
+}
+
 QRect panelPoints(const QRect& pixels, QPoint screenOrigin, double ratio) {
     // What a quotient leaves is far below a pixel.
     const auto pointBefore = [ratio](int pixel) {

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QRect>
+#include <optional>
 
 namespace velmora {
 
@@ -19,8 +20,12 @@ struct TopStrut {
 /// Pixels of the root window.
 QRect panelPlace(const QRect& screen, int height, const QList<TopStrut>& docks);
 
-/// The same extent in Qt's coordinates, in which a screen keeps its place in pixels and counts
-/// whole points of `ratio` pixels from there: the least extent of whole points that covers
+/// What a panel at `place` reserves, from the desktop's edge to its own lower one. Nothing where
+/// another one of `screens` lies above: it would be taken from that one.
+std::optional<TopStrut> panelStrut(const QRect& place, const QList<QRect>& screens);
+
+/// The same extent as `pixels` in Qt's coordinates, in which a screen keeps its place in pixels and
+/// counts whole points of `ratio` pixels from there: the least extent of whole points that covers
 /// `pixels`.
 QRect panelPoints(const QRect& pixels, QPoint screenOrigin, double ratio);
 

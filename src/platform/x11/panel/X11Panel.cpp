@@ -2,7 +2,9 @@
 
 #include "platform/x11/base/QtConnection.h"
 #include "platform/x11/panel/PanelPlacement.h"
+#include "platform/x11/panel/X11Docks.h"
 #include "platform/x11/panel/X11StackKeeper.h"
+#include "platform/x11/panel/X11StripReservation.h"
 #include "platform/x11/screens/X11Screens.h"
 
 #include <QApplication>
@@ -39,10 +41,10 @@ X11Panel::~X11Panel() = default;
 
 void X11Panel::request(const PanelRequest& request) {
     const std::optional<PanelRequest> before = std::exchange(request_, request);
-    if (!before || before->height != request.height)
+    if (!before || before->height != request.height || before->belowDocks != request.belowDocks)
         place();
     else
-        applyShapes();
+        present();
     if (request.presented && stackKeeper_)
         stackKeeper_->raiseNow();
 }
@@ -50,11 +52,15 @@ void X11Panel::request(const PanelRequest& request) {
 void X11Panel::place() {
     if (!request_)
         return;
+    if (!request_->belowDocks)
+        docks_.reset();
+    else if (!docks_)
+        docks_ = std::make_unique<X11Docks>(connection_, [this] { place(); });
     const auto screen = screens_.primary();
     extent_ = {};
     if (screen) {
         const int height = static_cast<int>(std::lround(request_->height * screen->ratio));
-        extent_ = panelPlace(screen->pixels, height, {});
+        extent_ = panelPlace(screen->pixels, height, docks_ ? docks_->struts() : QList<TopStrut>());
     }
     if (!extent_.isEmpty()) {
         window_.setGeometry(panelPoints(extent_, screen->pixels.topLeft(), screen->ratio));
@@ -64,7 +70,27 @@ void X11Panel::place() {
         window_.show();
         keepAbove();
     }
+    present();
+}
+
+void X11Panel::present() {
     applyShapes();
+    reserve();
+}
+
+void X11Panel::reserve() {
+    const bool wanted = request_->reservesStrip && isSeen();
+    const QRect place = wanted ? extent_ : QRect();
+    if (std::exchange(reserved_, place) == place)
+        return;
+    const auto strut = wanted ? panelStrut(place, X11Screens::all()) : std::nullopt;
+    // The new one first: windows would grow for a moment.
+    reservation_ =
+        strut ? std::make_unique<X11StripReservation>(connection_, place, *strut) : nullptr;
+}
+
+bool X11Panel::isSeen() const {
+    return request_->presented && !extent_.isEmpty();
 }
 
 void X11Panel::keepAbove() {
@@ -99,9 +125,8 @@ void X11Panel::applyShapes() {
     if (!window_.isVisible())
         return;
     const auto window = static_cast<xcb_window_t>(window_.winId());
-    const bool seen = request_->presented && !extent_.isEmpty();
     for (const xcb_shape_kind_t kind : {XCB_SHAPE_SK_BOUNDING, XCB_SHAPE_SK_INPUT}) {
-        if (seen)
+        if (isSeen())
             xcb_shape_mask(qtConnection(), XCB_SHAPE_SO_SET, kind, window, 0, 0, XCB_NONE);
         else
             xcb_shape_rectangles(

@@ -11,8 +11,10 @@
 namespace velmora {
 
 class X11Connection;
+class X11Docks;
 class X11Screens;
 class X11StackKeeper;
+class X11StripReservation;
 
 /// An override-redirect window: no window manager moves, covers or focuses it. Unseen it has an
 /// empty shape; it stays mapped, with or without a compositor.
@@ -27,8 +29,12 @@ private:
     /// Keeps from Qt what extent the window really has: it would leave out the point that the
     /// screen's end cuts.
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
-    /// Follows the screen.
+    /// Follows the screen and the docks.
     void place();
+    /// Carries out whether it is seen.
+    void present();
+    void reserve();
+    bool isSeen() const;
     void applyExtent();
     /// Gives the window the shapes that its state asks for: empty ones, or its whole extent.
     void applyShapes();
@@ -41,6 +47,9 @@ private:
     QWidget window_;
     WId keptWindow_ = 0;
     std::unique_ptr<X11StackKeeper> stackKeeper_; ///< of `keptWindow_`
+    std::unique_ptr<X11Docks> docks_;             ///< while it lies below them
+    std::unique_ptr<X11StripReservation> reservation_;
+    QRect reserved_; ///< what `reservation_` is for
 };
 
 /// Makes the session's panels. Needs a QApplication on the X server of `connection`.

@@ -70,6 +70,15 @@ std::optional<X11Screens::Primary> X11Screens::primary() const {
     return Primary{{screen->geometry().topLeft(), pixels}, ratio, output};
 }
 
+QList<QRect> X11Screens::all() {
+    QList<QRect> screens;
+    for (const QScreen* const screen : QGuiApplication::screens())
+        screens.emplace_back(
+            screen->geometry().topLeft(),
+            (QSizeF(screen->size()) * screen->devicePixelRatio()).toSize());
+    return screens;
+}
+
 std::optional<Screen> X11Screens::mainScreen() const {
     const auto screen = primary();
     if (!screen)

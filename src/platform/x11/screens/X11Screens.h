@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QElapsedTimer>
+#include <QList>
 #include <QRect>
 #include <QTimer>
 #include <functional>
@@ -38,6 +39,8 @@ public:
     std::optional<Screen> mainScreen() const override;
     /// Nothing while no output is connected.
     std::optional<Primary> primary() const;
+    /// Of all screens, in pixels of the root window.
+    static QList<QRect> all();
 
 private:
     static QByteArray deviceTreeNames();
