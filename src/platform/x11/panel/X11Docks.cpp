@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <iterator>
 
 namespace velmora {
 namespace {
@@ -71,27 +72,51 @@ X11Docks::X11Docks(X11Connection& connection, std::function<void()> changed)
       subscription_(
           connection.subscribe([this](const xcb_generic_event_t& event) { handle(event); })) {
     connection.prepareAtoms({kClientList, kPartialStrut, kStrut, kType, kDock});
-    alsoSelectEvents(connection, connection.root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
+    alsoSelectEvents(
+        connection, connection.root(),
+        static_cast<xcb_event_mask_t>(
+            XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY));
     readClients();
+    readFrames();
     collect();
 }
 
 void X11Docks::handle(const xcb_generic_event_t& event) {
-    if ((event.response_type & ~0x80) != XCB_PROPERTY_NOTIFY)
+    switch (event.response_type & ~0x80) {
+    case XCB_PROPERTY_NOTIFY:
+        handleProperty(reinterpret_cast<const xcb_property_notify_event_t&>(event));
+        break;
+    case XCB_REPARENT_NOTIFY: {
+        const auto& framed = reinterpret_cast<const xcb_reparent_notify_event_t&>(event);
+        if (framed.event != connection_.root() || framed.parent == connection_.root())
+            return;
+        readNew({framed.window});
+        break;
+    }
+    case XCB_UNMAP_NOTIFY: {
+        // What is on the list stays there for as long as it reserves something.
+        const auto& gone = reinterpret_cast<const xcb_unmap_notify_event_t&>(event);
+        if (gone.event != gone.window || clients_.contains(gone.window))
+            return;
+        docks_.erase(gone.window);
+        break;
+    }
+    default:
         return;
-    const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+    }
+    const QList<TopStrut> before = struts_;
+    collect();
+    if (struts_ != before)
+        changed_();
+}
+
+void X11Docks::handleProperty(const xcb_property_notify_event_t& change) {
     if (change.window == connection_.root() && change.atom == connection_.atom(kClientList))
         readClients();
     else if (
         docks_.contains(change.window) &&
         (change.atom == connection_.atom(kPartialStrut) || change.atom == connection_.atom(kStrut)))
         docks_[change.window] = DockQuery(connection_, change.window).answer().value_or(TopStrut());
-    else
-        return;
-    const QList<TopStrut> before = struts_;
-    collect();
-    if (struts_ != before)
-        changed_();
 }
 
 void X11Docks::readClients() {
@@ -99,18 +124,43 @@ void X11Docks::readClients() {
         readProperty(connection_, connection_.root(), kClientList, XCB_ATOM_WINDOW);
     const std::unordered_set<xcb_window_t> known =
         std::exchange(clients_, {windows.begin(), windows.end()});
-    std::erase_if(docks_, [this](const auto& dock) { return !clients_.contains(dock.first); });
+    std::erase_if(docks_, [&](const auto& dock) {
+        return known.contains(dock.first) && !clients_.contains(dock.first);
+    });
     std::vector<xcb_window_t> fresh;
-    const auto* const setup = xcb_get_setup(connection_);
-    for (const xcb_window_t window : clients_) {
-        const bool isOurs = (window & ~setup->resource_id_mask) == setup->resource_id_base;
-        if (!known.contains(window) && !isOurs)
-            fresh.push_back(window);
-    }
+    std::ranges::copy_if(clients_, std::back_inserter(fresh), [&](xcb_window_t window) {
+        return !known.contains(window);
+    });
     readNew(fresh);
 }
 
-void X11Docks::readNew(const std::vector<xcb_window_t>& windows) {
+void X11Docks::readFrames() {
+    const auto ask = [this](xcb_window_t window) { return xcb_query_tree(connection_, window); };
+    const auto children = [this](xcb_query_tree_cookie_t question) -> std::vector<xcb_window_t> {
+        const XcbOwned<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(connection_, question, nullptr));
+        if (!tree)
+            return {};
+        const auto* const first = xcb_query_tree_children(tree.get());
+        return {first, first + xcb_query_tree_children_length(tree.get())};
+    };
+    std::vector<xcb_query_tree_cookie_t> questions;
+    for (const xcb_window_t frame : children(ask(connection_.root())))
+        questions.push_back(ask(frame));
+    std::vector<xcb_window_t> unlisted;
+    for (const xcb_query_tree_cookie_t question : questions) {
+        std::ranges::copy_if(
+            children(question), std::back_inserter(unlisted),
+            [this](xcb_window_t window) { return !clients_.contains(window); });
+    }
+    readNew(unlisted);
+}
+
+void X11Docks::readNew(std::vector<xcb_window_t> windows) {
+    const auto* const setup = xcb_get_setup(connection_);
+    std::erase_if(windows, [setup](xcb_window_t window) {
+        return (window & ~setup->resource_id_mask) == setup->resource_id_base; // ours
+    });
     const auto forEach = [this](const std::vector<xcb_window_t>& asked, const auto& use) {
         std::vector<DockQuery> queries;
         for (const xcb_window_t window : asked)
@@ -123,7 +173,10 @@ void X11Docks::readNew(const std::vector<xcb_window_t>& windows) {
     std::vector<xcb_window_t> docks;
     forEach(windows, [&](xcb_window_t window, const TopStrut&) { docks.push_back(window); });
     for (const xcb_window_t dock : docks)
-        alsoSelectEvents(connection_, dock, XCB_EVENT_MASK_PROPERTY_CHANGE);
+        alsoSelectEvents(
+            connection_, dock,
+            static_cast<xcb_event_mask_t>(
+                XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY));
     // Again, now that changes are told.
     forEach(docks, [this](xcb_window_t window, const TopStrut& strut) { docks_[window] = strut; });
 }

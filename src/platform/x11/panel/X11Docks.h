@@ -22,8 +22,11 @@ public:
 
 private:
     void handle(const xcb_generic_event_t& event);
+    void handleProperty(const xcb_property_notify_event_t& change);
     void readClients();
-    void readNew(const std::vector<xcb_window_t>& windows);
+    /// Some window managers frame docks and leave them out of their list.
+    void readFrames();
+    void readNew(std::vector<xcb_window_t> windows);
     void collect();
 
     X11Connection& connection_;

@@ -11,7 +11,8 @@ namespace {
 constexpr std::uint32_t kAllDesktops = 0xffffffff;
 // WM_HINTS: 9 numbers of which the first says which others count, as XSetWMHints() writes them.
 constexpr std::uint32_t kInputHint = 1;
-// WM_NORMAL_HINTS: 18 numbers, likewise.
+// WM_NORMAL_HINTS: 18 numbers, likewise. The place and size in it are said to be obsolete, but
+// there are window managers that go by them.
 constexpr std::uint32_t kUserPlace = 1, kUserSize = 2, kLeastSize = 16, kLargestSize = 32;
 
 } // namespace
@@ -43,8 +44,9 @@ X11StripReservation::X11StripReservation(
     set(XCB_ATOM_WM_HINTS, XCB_ATOM_WM_HINTS, std::array<std::uint32_t, 9>{kInputHint, 0});
     set(XCB_ATOM_WM_NORMAL_HINTS, XCB_ATOM_WM_SIZE_HINTS,
         std::array<std::uint32_t, 18>{
-            kUserPlace | kUserSize | kLeastSize | kLargestSize, 0, 0, 0, 0, width, height, width,
-            height});
+            kUserPlace | kUserSize | kLeastSize | kLargestSize,
+            static_cast<std::uint32_t>(place.x()), static_cast<std::uint32_t>(place.y()), width,
+            height, width, height, width, height});
     set(connection.atom("_NET_WM_WINDOW_TYPE"), XCB_ATOM_ATOM,
         std::array{connection.atom("_NET_WM_WINDOW_TYPE_DOCK")});
     set(connection.atom("_NET_WM_DESKTOP"), XCB_ATOM_CARDINAL, std::array{kAllDesktops});
