@@ -208,15 +208,4 @@ TEST_F(LateSwitcher, IsClosed) {
     expectClosed();
 }
 
-TEST_F(LateSwitcher, WhoTakesTheKeyboardAfterACombinationThatIsNobodysIsLeftAlone) {
-    manager.leaveCombination();
-    typeAltTab(service, [&] { manager.openSwitcher(); });
-    const QDeadlineTimer threeLooks(300);
-    EXPECT_TRUE(waitFor([&] {
-        EXPECT_FALSE(manager.work());
-        return threeLooks.hasExpired();
-    }));
-    EXPECT_FALSE(isKeyboardFree(client));
-}
-
 } // namespace

@@ -264,14 +264,5 @@ TEST_F(UserDefaultsTest, AFileThatDoesNotParseIsKeptAsideEachTime) {
     }
 }
 
-TEST_F(UserDefaultsTest, ARelativeConfigurationFolderIsIgnored) {
-    inChild([this] {
-        qputenv("XDG_CONFIG_HOME", "relative");
-        qputenv("HOME", QFile::encodeName(root_.path()));
-        UserDefaults::standard().setBoolean(u"flag"_s, true);
-        EXPECT_TRUE(QFileInfo::exists(path(u".config/velmora/velmora.conf"_s)));
-    });
-}
-
 } // namespace
 } // namespace velmora

@@ -130,17 +130,5 @@ TEST_F(MouseButtonManagerTest, AnEditCountsFromTheNextPress) {
     EXPECT_FALSE(swallowed_);
 }
 
-TEST_F(MouseButtonManagerTest, WorksOnceTrusted) {
-    accessibility_.trusted = false;
-    MouseButtonManager& manager = start();
-    manager.startMonitoring();
-    ASSERT_TRUE(test::waitFor([&] { return accessibility_.questions >= 3; }));
-    EXPECT_TRUE(inputGrants_.grants.empty());
-    manager.addBinding(bound(3, u"a"_s));
-    accessibility_.trusted = true;
-    ASSERT_TRUE(test::waitFor([&] { return !inputGrants_.grants.empty(); }));
-    EXPECT_EQ(openedBy(3), QStringList{u"a"_s});
-}
-
 } // namespace
 } // namespace velmora

@@ -1,4 +1,4 @@
-// The rows of the application chooser: the first-20 rule, the search, and the marks.
+// The rows of the application chooser: the first-20 rule and the search.
 
 #include "settings/applications/AppListModel.h"
 
@@ -27,15 +27,4 @@ TEST(AppListModel, OffersAllFromTheTwentyFirstAndSearchesThroughAll) {
         EXPECT_EQ(model.rowCount(), count);
         EXPECT_TRUE(count == 0 || model.app(model.index(count - 1)));
     }
-}
-
-TEST(AppListModel, TheSearchIgnoresCaseOnly) {
-    const QString pairs = u"com.apple.Safari=safari Ärger=ÄR Ärger=a\u0308rger STRAẞE=strasse "
-                          "İstanbul=istanbul Işık=ışık Ｗｉｄｔｈ=width ﾒﾓ帳=メモ"_s;
-    const auto contains = [](const QString& text, const QString& search) {
-        return foldedForSearch(text).contains(foldedForSearch(search));
-    };
-    for (const QString& pair : pairs.split(u' '))
-        EXPECT_TRUE(contains(pair.section(u'=', 0, 0), pair.section(u'=', 1))) << qPrintable(pair);
-    EXPECT_FALSE(contains(u"Ärger"_s, u"arger"_s));
 }
