@@ -165,16 +165,6 @@ void Session::pressHotKey() {
     driver_->tapChord("LALT", "AB07");
 }
 
-void Session::settle() {
-    // An event that came before a question is in the program's socket when it reads the next one,
-    // and what it leaves for the next turn of the loop is done when it answers the one after.
-    const auto window = bar();
-    for (int round = 0; round < 3; ++round) {
-        if (!window || !ping(*client_, window->id))
-            throw std::runtime_error("the program does not answer");
-    }
-}
-
 QString Session::activeTitle() {
     const auto cookie = xcb_get_property(
         *client_, 0, activeWindow(*client_), client_->atom("_NET_WM_NAME"),

@@ -76,10 +76,6 @@ public:
 
     void pressHotKey();
 
-    /// Returns when the program has handled everything that reached it before, so that what has not
-    /// happened by then does not happen any more. Needs the bar.
-    void settle();
-
     /// The title of the active window, empty without one.
     QString activeTitle();
     /// Waits until the settings window is the active one and has the keyboard focus.

@@ -139,33 +139,6 @@ uint8_t inputDevice(const XClient& client, uint16_t type) {
     throw std::runtime_error("the display lacks a device");
 }
 
-bool ping(const XClient& client, xcb_window_t window) {
-    const uint32_t events = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
-    xcb_change_window_attributes(client, client.root(), XCB_CW_EVENT_MASK, &events);
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = window;
-    message.type = client.atom("WM_PROTOCOLS");
-    message.data.data32[0] = client.atom("_NET_WM_PING");
-    message.data.data32[2] = window;
-    xcb_send_event(client, false, window, 0, reinterpret_cast<const char*>(&message));
-    client.sync();
-    // The answer is the message itself, sent to the root window.
-    const bool isAnswered = waitFor([&] {
-        while (const Reply<xcb_generic_event_t> event{xcb_poll_for_event(client)}) {
-            const auto& answer = reinterpret_cast<const xcb_client_message_event_t&>(*event);
-            if ((event->response_type & 0x7f) == XCB_CLIENT_MESSAGE &&
-                answer.data.data32[0] == message.data.data32[0])
-                return true;
-        }
-        return false;
-    });
-    const uint32_t none = 0;
-    xcb_change_window_attributes(client, client.root(), XCB_CW_EVENT_MASK, &none);
-    return isAnswered;
-}
-
 bool isAnythingDown(const XClient& client) {
     const Reply<xcb_query_keymap_reply_t> keys(
         xcb_query_keymap_reply(client, xcb_query_keymap(client), nullptr));

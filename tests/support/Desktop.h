@@ -54,9 +54,6 @@ KeyboardState keyboardState(const XClient& client);
 
 /// The first input device of a type (XCB_INPUT_DEVICE_TYPE_…) that is not XTEST's own.
 uint8_t inputDevice(const XClient& client, uint16_t type);
-/// Asks the program of a window whether it still lives, as window managers do, and waits for the
-/// answer: it has then handled what its toolkit was sent before.
-bool ping(const XClient& client, xcb_window_t window);
 /// Whether any key or button is down on the session's keyboard and pointer.
 bool isAnythingDown(const XClient& client);
 /// Whether another client could grab the keyboard now: no switcher or menu holds it.

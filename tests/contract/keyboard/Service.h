@@ -10,8 +10,13 @@ namespace velmora::test {
 
 /// A session's keyboard events, as the program has them.
 struct Service {
-    std::unique_ptr<X11Session> session = X11Session::open();
-    KeyboardEvents& events = session->keyboardEvents();
+    /// Those of a running session, or of `fake`.
+    explicit Service(KeyboardEvents* fake = nullptr)
+        : session(fake ? nullptr : X11Session::open()),
+          events(fake ? *fake : session->keyboardEvents()) {}
+
+    std::unique_ptr<X11Session> session;
+    KeyboardEvents& events;
     std::unique_ptr<EventSource> source =
         events.createEventSource(EventSourceState::combinedSessionState);
 

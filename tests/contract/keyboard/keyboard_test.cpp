@@ -5,6 +5,7 @@
 #include "platform/x11/keyboard/KeyPositions.h"
 #include "support/Desktop.h"
 #include "support/Driver.h"
+#include "support/FakeKeyboardEvents.h"
 #include "support/TestDisplay.h"
 #include "support/Witness.h"
 
@@ -79,7 +80,30 @@ protected:
 const std::vector<Key> keys = {{0, "AC01"},  {6, "AB01"},  {12, "AD01"}, {18, "AE01"},
                                {29, "AE10"}, {36, "RTRN"}, {46, "AB07"}, {119, "END"}};
 
-TEST_F(Keyboard, PressesThePositionWithExactlyTheFlagsInEveryLayout) {
+/// What the session and the fake promise both.
+class KeyboardContract : public Keyboard, public testing::WithParamInterface<bool> {
+protected:
+    std::vector<Seen> typed() {
+        std::vector<Seen> typed = seen();
+        const auto group = static_cast<uint16_t>(keyboardState(client).group << 13);
+        for (const KeyboardEvent& event : std::exchange(fake.posted, {})) {
+            const auto key = std::ranges::find(keys, event.keyCode, &Key::code);
+            typed.push_back(
+                {uint8_t(event.keyDown ? XCB_KEY_PRESS : XCB_KEY_RELEASE),
+                 key == keys.end() ? uint8_t(0) : driver.keycode(key->position),
+                 static_cast<uint16_t>(maskOf(event.flags) | group)});
+        }
+        return typed;
+    }
+
+    FakeKeyboardEvents fake;
+    Service either{GetParam() ? &fake : nullptr};
+};
+INSTANTIATE_TEST_SUITE_P(Layers, KeyboardContract, testing::Bool(), [](const auto& isFake) {
+    return std::string(isFake.param ? "fake" : "x11");
+});
+
+TEST_P(KeyboardContract, PressesThePositionWithExactlyTheFlagsInEveryLayout) {
     const std::pair<QString, uint8_t> layouts[] = {
         {u"us"_s, 0}, {u"fr"_s, 0}, {u"jp"_s, 0}, {u"us,ru"_s, 1}, {u"dvorak"_s, 0}};
     for (const auto& [layout, group] : layouts) {
@@ -89,10 +113,10 @@ TEST_F(Keyboard, PressesThePositionWithExactlyTheFlagsInEveryLayout) {
         const KeyboardState untouched = keyboardState(client);
         for (const Key& key : keys) {
             for (EventFlags flags = 0; flags < 16 << 17; flags += 1 << 17) {
-                service.tap(key.code, flags);
+                either.tap(key.code, flags);
                 EXPECT_THAT(
-                    seen(), ElementsAreArray(pressAndRelease(
-                                key, static_cast<uint16_t>(maskOf(flags) | group << 13))));
+                    typed(), ElementsAreArray(pressAndRelease(
+                                 key, static_cast<uint16_t>(maskOf(flags) | group << 13))));
             }
         }
         EXPECT_EQ(keyboardState(client), untouched);
@@ -142,12 +166,12 @@ TEST_F(Keyboard, AKeyThatIsHeldAlreadyIsPressedAnew) {
     driver.releaseKey("AB07", physical);
 }
 
-TEST_F(Keyboard, UnknownKeysGiveNoEvent) {
+TEST_P(KeyboardContract, UnknownKeysGiveNoEvent) {
     for (const KeyCode code : {52, 127, 128, 200, 0xffff})
-        EXPECT_FALSE(service.post(code, true, 0)) << code;
+        EXPECT_FALSE(either.post(code, true, 0)) << code;
     // An event made by hand instead.
-    service.events.post({0xffff, true, 0});
-    EXPECT_THAT(seen(), IsEmpty());
+    either.events.post({0xffff, true, 0});
+    EXPECT_THAT(typed(), IsEmpty());
 }
 
 /// How many services on this display are watched over. A watcher that a test before left no time to
