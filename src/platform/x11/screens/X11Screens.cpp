@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 /// One change comes as several events.
 constexpr auto kOneChange = 20ms;
 /// Longer than what lies between the changes of an output that flaps.
-constexpr auto kCalm = 150ms;
+constexpr auto kCalm = 250ms;
 
 } // namespace
 
