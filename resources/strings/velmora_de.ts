@@ -91,6 +91,10 @@
         <source></source>
         <translation>„%1“ bearbeiten</translation>
     </message>
+    <message id="edit_import">
+        <source></source>
+        <translation>Importieren</translation>
+    </message>
     <message id="edit_move_format">
         <source></source>
         <translation>„%1“ verschieben</translation>
@@ -98,6 +102,26 @@
     <message id="edit_remove_format">
         <source></source>
         <translation>„%1“ löschen</translation>
+    </message>
+    <message id="exchange_export">
+        <source></source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message id="exchange_export_failed">
+        <source></source>
+        <translation>Die Datei wurde nicht geschrieben.</translation>
+    </message>
+    <message id="exchange_import">
+        <source></source>
+        <translation>Importieren …</translation>
+    </message>
+    <message id="exchange_import_failed">
+        <source></source>
+        <translation>Es wurde nichts importiert.</translation>
+    </message>
+    <message id="exchange_title">
+        <source></source>
+        <translation>Knöpfe und Einstellungen</translation>
     </message>
     <message id="file_not_regular">
         <source></source>

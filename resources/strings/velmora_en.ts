@@ -91,6 +91,10 @@
         <source></source>
         <translation>Edit “%1”</translation>
     </message>
+    <message id="edit_import">
+        <source></source>
+        <translation>Import</translation>
+    </message>
     <message id="edit_move_format">
         <source></source>
         <translation>Move “%1”</translation>
@@ -98,6 +102,26 @@
     <message id="edit_remove_format">
         <source></source>
         <translation>Delete “%1”</translation>
+    </message>
+    <message id="exchange_export">
+        <source></source>
+        <translation>Export…</translation>
+    </message>
+    <message id="exchange_export_failed">
+        <source></source>
+        <translation>The file was not written.</translation>
+    </message>
+    <message id="exchange_import">
+        <source></source>
+        <translation>Import…</translation>
+    </message>
+    <message id="exchange_import_failed">
+        <source></source>
+        <translation>Nothing was imported.</translation>
+    </message>
+    <message id="exchange_title">
+        <source></source>
+        <translation>Buttons and Preferences</translation>
     </message>
     <message id="file_not_regular">
         <source></source>

@@ -91,6 +91,10 @@
         <source></source>
         <translation>Editar «%1»</translation>
     </message>
+    <message id="edit_import">
+        <source></source>
+        <translation>Importar</translation>
+    </message>
     <message id="edit_move_format">
         <source></source>
         <translation>Mover «%1»</translation>
@@ -98,6 +102,26 @@
     <message id="edit_remove_format">
         <source></source>
         <translation>Eliminar «%1»</translation>
+    </message>
+    <message id="exchange_export">
+        <source></source>
+        <translation>Exportar…</translation>
+    </message>
+    <message id="exchange_export_failed">
+        <source></source>
+        <translation>No se escribió el archivo.</translation>
+    </message>
+    <message id="exchange_import">
+        <source></source>
+        <translation>Importar…</translation>
+    </message>
+    <message id="exchange_import_failed">
+        <source></source>
+        <translation>No se importó nada.</translation>
+    </message>
+    <message id="exchange_title">
+        <source></source>
+        <translation>Botones y preferencias</translation>
     </message>
     <message id="file_not_regular">
         <source></source>

@@ -91,6 +91,10 @@
         <source></source>
         <translation>Modifier « %1 »</translation>
     </message>
+    <message id="edit_import">
+        <source></source>
+        <translation>Importer</translation>
+    </message>
     <message id="edit_move_format">
         <source></source>
         <translation>Déplacer « %1 »</translation>
@@ -98,6 +102,26 @@
     <message id="edit_remove_format">
         <source></source>
         <translation>Supprimer « %1 »</translation>
+    </message>
+    <message id="exchange_export">
+        <source></source>
+        <translation>Exporter…</translation>
+    </message>
+    <message id="exchange_export_failed">
+        <source></source>
+        <translation>Le fichier n’a pas été écrit.</translation>
+    </message>
+    <message id="exchange_import">
+        <source></source>
+        <translation>Importer…</translation>
+    </message>
+    <message id="exchange_import_failed">
+        <source></source>
+        <translation>Rien n’a été importé.</translation>
+    </message>
+    <message id="exchange_title">
+        <source></source>
+        <translation>Boutons et préférences</translation>
     </message>
     <message id="file_not_regular">
         <source></source>

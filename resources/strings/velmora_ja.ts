@@ -91,6 +91,10 @@
         <source></source>
         <translation>「%1」を編集</translation>
     </message>
+    <message id="edit_import">
+        <source></source>
+        <translation>読み込み</translation>
+    </message>
     <message id="edit_move_format">
         <source></source>
         <translation>「%1」を移動</translation>
@@ -98,6 +102,26 @@
     <message id="edit_remove_format">
         <source></source>
         <translation>「%1」を削除</translation>
+    </message>
+    <message id="exchange_export">
+        <source></source>
+        <translation>書き出す…</translation>
+    </message>
+    <message id="exchange_export_failed">
+        <source></source>
+        <translation>ファイルは書き出されませんでした。</translation>
+    </message>
+    <message id="exchange_import">
+        <source></source>
+        <translation>読み込む…</translation>
+    </message>
+    <message id="exchange_import_failed">
+        <source></source>
+        <translation>何も読み込まれませんでした。</translation>
+    </message>
+    <message id="exchange_title">
+        <source></source>
+        <translation>ボタンと環境設定</translation>
     </message>
     <message id="file_not_regular">
         <source></source>

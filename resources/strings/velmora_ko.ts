@@ -91,6 +91,10 @@
         <source></source>
         <translation>‘%1’ 편집</translation>
     </message>
+    <message id="edit_import">
+        <source></source>
+        <translation>가져오기</translation>
+    </message>
     <message id="edit_move_format">
         <source></source>
         <translation>‘%1’ 이동</translation>
@@ -98,6 +102,26 @@
     <message id="edit_remove_format">
         <source></source>
         <translation>‘%1’ 삭제</translation>
+    </message>
+    <message id="exchange_export">
+        <source></source>
+        <translation>내보내기…</translation>
+    </message>
+    <message id="exchange_export_failed">
+        <source></source>
+        <translation>파일을 쓰지 못했습니다.</translation>
+    </message>
+    <message id="exchange_import">
+        <source></source>
+        <translation>가져오기…</translation>
+    </message>
+    <message id="exchange_import_failed">
+        <source></source>
+        <translation>가져온 것이 없습니다.</translation>
+    </message>
+    <message id="exchange_title">
+        <source></source>
+        <translation>버튼과 환경설정</translation>
     </message>
     <message id="file_not_regular">
         <source></source>

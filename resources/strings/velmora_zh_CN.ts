@@ -91,6 +91,10 @@
         <source></source>
         <translation>编辑“%1”</translation>
     </message>
+    <message id="edit_import">
+        <source></source>
+        <translation>导入</translation>
+    </message>
     <message id="edit_move_format">
         <source></source>
         <translation>移动“%1”</translation>
@@ -98,6 +102,26 @@
     <message id="edit_remove_format">
         <source></source>
         <translation>删除“%1”</translation>
+    </message>
+    <message id="exchange_export">
+        <source></source>
+        <translation>导出…</translation>
+    </message>
+    <message id="exchange_export_failed">
+        <source></source>
+        <translation>文件未写入。</translation>
+    </message>
+    <message id="exchange_import">
+        <source></source>
+        <translation>导入…</translation>
+    </message>
+    <message id="exchange_import_failed">
+        <source></source>
+        <translation>未导入任何内容。</translation>
+    </message>
+    <message id="exchange_title">
+        <source></source>
+        <translation>按钮与偏好设置</translation>
     </message>
     <message id="file_not_regular">
         <source></source>

@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "actions/ActionEngine.h"
+#include "app/ExchangeCommand.h"
 #include "app/MainMenu.h"
 #include "app/RemoteControl.h"
 #include "app/TermsOfServiceView.h"
@@ -19,6 +20,7 @@
 #include "platform/Appearance.h"
 #include "platform/Screens.h"
 #include "platform/Session.h"
+#include "settings/Exchange.h"
 #include "settings/SettingsWindow.h"
 #include "viewkit/PopupMenu.h"
 #include "viewkit/WindowTheme.h"
@@ -62,10 +64,13 @@ AppDelegate::AppDelegate(RemoteControl& remoteControl)
 void AppDelegate::applicationDidFinishLaunching() {
     setupMainMenu();
     checkTermsAndStart();
-    remoteControl_.listen([self = QPointer(this)](const QByteArray& name) {
-        const auto command = remoteCommand(name);
-        if (self && command)
-            self->carryOut(*command);
+    remoteControl_.listen([self = QPointer(this)](const QByteArray& bytes) -> RemoteAnswer {
+        const auto request = decodedRequest(bytes);
+        if (self && request && request->isExchange())
+            return carryOutExchange(*request, Exchange::shared());
+        if (self && request)
+            self->carryOut(request->command);
+        return {};
     });
 }
 
@@ -134,6 +139,9 @@ void AppDelegate::carryOut(RemoteCommand command) {
         return setOverlayVisible(false);
     case RemoteCommand::quit:
         return quitApp();
+    case RemoteCommand::importSetup:
+    case RemoteCommand::exportSetup:
+        return;
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "foundation/Bundle.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 #include <algorithm>
 #include <string_view>
@@ -15,6 +17,7 @@ struct Option {
     std::string_view name;
     RemoteCommand command;
     const char* meaning;
+    bool takesFile = false;
 };
 
 constexpr Option options[] = {
@@ -23,12 +26,24 @@ constexpr Option options[] = {
     {"hide", RemoteCommand::hide, "hide the bar"},
     {"settings", RemoteCommand::settings, "open the settings"},
     {"quit", RemoteCommand::quit, "end Velmora"},
+    {"import", RemoteCommand::importSetup, "take all buttons and preferences from FILE", true},
+    {"export", RemoteCommand::exportSetup, "write them to FILE", true},
 };
 
+/// The command by its option's name; nothing for any other name.
+const Option* optionOf(std::string_view name) {
+    const auto option = std::ranges::find(options, name, &Option::name);
+    return option == std::end(options) ? nullptr : option;
+}
+
+constexpr char endOfName = '/'; ///< an absolute path begins with it
+
 QString helpLine(std::string_view name, const char* meaning) {
-    constexpr int nameWidth = 12;
-    return u"  --"_s + QLatin1StringView(name.data()).toString().leftJustified(nameWidth) +
-           QString::fromLatin1(meaning);
+    constexpr int nameWidth = 14;
+    const Option* option = optionOf(name);
+    const QString shown =
+        QLatin1StringView(name.data()) + (option && option->takesFile ? u" FILE"_s : QString());
+    return u"  --"_s + shown.leftJustified(nameWidth) + QString::fromLatin1(meaning);
 }
 
 QString help() {
@@ -54,34 +69,47 @@ QString version() {
 
 } // namespace
 
-std::optional<RemoteCommand> remoteCommand(const QByteArray& name) {
-    if (name.isEmpty())
-        return RemoteCommand::comeForward;
-    const auto option = std::ranges::find(options, std::string_view(name), &Option::name);
-    return option == std::end(options) ? std::nullopt : std::optional(option->command);
+QByteArray encoded(const RemoteRequest& request) {
+    const auto option = std::ranges::find(options, request.command, &Option::command);
+    const QByteArray name(option == std::end(options) ? "" : option->name.data());
+    return name + QFile::encodeName(request.file);
 }
 
-QByteArray remoteCommandName(RemoteCommand command) {
-    const auto option = std::ranges::find(options, command, &Option::command);
-    return option == std::end(options) ? QByteArray() : QByteArray(option->name.data());
+std::optional<RemoteRequest> decodedRequest(const QByteArray& bytes) {
+    if (bytes.isEmpty())
+        return RemoteRequest();
+    const qsizetype end = bytes.indexOf(endOfName);
+    const QByteArray name = end < 0 ? bytes : bytes.left(end);
+    const Option* option = optionOf(std::string_view(name));
+    if (!option || option->takesFile != (end >= 0))
+        return {};
+    return RemoteRequest{
+        option->command, end < 0 ? QString() : QFile::decodeName(bytes.sliced(end))};
 }
 
 CommandLine readCommandLine(std::span<char* const> arguments) {
     CommandLine line;
-    for (const QByteArray argument :
-         arguments.subspan(std::min<std::size_t>(1, arguments.size()))) {
+    for (std::size_t index = 1; index < arguments.size(); ++index) {
+        const QByteArray argument = arguments[index];
         if (!argument.startsWith("--"))
             continue;
         const QByteArray name = argument.mid(2);
-        if (name == "help")
+        const Option* option = optionOf(std::string_view(name));
+        if (name == "help") {
             line.answer = help();
-        else if (name == "version")
+        } else if (name == "version") {
             line.answer = version();
-        else if (const auto command = remoteCommand(name); command && !name.isEmpty())
-            line.command = *command;
-        else
+        } else if (!option) {
             line.error = u"velmora: unknown option “%1”; “velmora --help” lists them."_s.arg(
                 QString::fromLocal8Bit(argument));
+        } else if (!option->takesFile) {
+            line.request = {option->command};
+        } else if (++index < arguments.size() && *arguments[index]) {
+            const QString file = QFile::decodeName(arguments[index]);
+            line.request = {option->command, QFileInfo(file).absoluteFilePath()};
+        } else {
+            line.error = u"velmora: %1 takes a file."_s.arg(QString::fromLocal8Bit(argument));
+        }
     }
     return line;
 }

@@ -8,16 +8,32 @@
 namespace velmora {
 
 /// What a launch asks of the instance that runs, or of itself when it is the first.
-enum class RemoteCommand { comeForward, toggle, show, hide, settings, quit };
+enum class RemoteCommand {
+    comeForward,
+    toggle,
+    show,
+    hide,
+    settings,
+    quit,
+    importSetup,
+    exportSetup
+};
 
-/// The command by its name on the command line without the hyphens; nothing for any other name.
-std::optional<RemoteCommand> remoteCommand(const QByteArray& name);
-/// The reverse; empty for comeForward, which has no option.
-QByteArray remoteCommandName(RemoteCommand command);
+struct RemoteRequest {
+    RemoteCommand command = RemoteCommand::comeForward;
+    QString file{}; ///< of an import or an export, with its absolute path
+
+    bool isExchange() const { return !file.isEmpty(); }
+};
+
+/// The form in which one launch hands it to the other; has no zero byte.
+QByteArray encoded(const RemoteRequest& request);
+/// The reverse; nothing for what is no request.
+std::optional<RemoteRequest> decodedRequest(const QByteArray& bytes);
 
 /// What the program's arguments ask for.
 struct CommandLine {
-    RemoteCommand command = RemoteCommand::comeForward;
+    RemoteRequest request{};
     /// Text for standard output, after which the launch is done: --help and --version.
     QString answer{};
     /// Why the arguments make no sense, for standard error; empty when they do.

@@ -18,9 +18,10 @@ using namespace Qt::StringLiterals;
 namespace velmora {
 namespace {
 
-constexpr int longestCommand = 4096;
+constexpr int longestCommand = 8192; ///< bytes; the longest path takes half of them
 constexpr int mostCallers = 32;
-constexpr char done = '1'; ///< the answer to a command that was carried out
+constexpr char endOfCommand = 0;
+constexpr char endOfStatus = '\n'; ///< in an answer; the text behind it goes on to the end
 
 /// How long to wait before looking once more whether an instance that is ending has ended.
 constexpr int pauseBetweenLooks = 5; // milliseconds
@@ -111,23 +112,35 @@ void RemoteControl::openSocket() {
         socket_.reset();
 }
 
-bool RemoteControl::ask(const QByteArray& command, const QDeadlineTimer& deadline) const {
+bool RemoteControl::ask(const QByteArray& command, const QDeadlineTimer& deadline) {
     const FileDescriptor socket = makeSocket(0);
     const sockaddr_un address = addressOf(folder_, name_);
-    const QByteArray line = command + '\n';
+    const QByteArray sent = command + endOfCommand;
     if (::connect(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
-        ::send(socket.get(), line.constData(), static_cast<size_t>(line.size()), MSG_NOSIGNAL) !=
-            line.size())
+        ::send(socket.get(), sent.constData(), static_cast<size_t>(sent.size()), MSG_NOSIGNAL) !=
+            sent.size())
         return false;
-    pollfd answer{socket.get(), POLLIN, 0};
-    while (::poll(&answer, 1, static_cast<int>(deadline.remainingTime())) < 0 && errno == EINTR) {
+    QByteArray received;
+    for (;;) {
+        pollfd answer{socket.get(), POLLIN, 0};
+        while (::poll(&answer, 1, static_cast<int>(deadline.remainingTime())) < 0 &&
+               errno == EINTR) {
+        }
+        char buffer[1024];
+        const ssize_t count =
+            answer.revents ? ::recv(socket.get(), buffer, sizeof buffer, MSG_DONTWAIT) : -1;
+        if (count <= 0)
+            break;
+        received.append(buffer, count);
     }
-    char received = 0;
-    return answer.revents != 0 && ::recv(socket.get(), &received, 1, MSG_DONTWAIT) == 1 &&
-           received == done;
+    const qsizetype end = received.indexOf(endOfStatus);
+    if (end < 0)
+        return false;
+    answer_ = {received.left(end).toInt(), QString::fromUtf8(received.sliced(end + 1))};
+    return true;
 }
 
-void RemoteControl::listen(std::function<void(const QByteArray&)> handler) {
+void RemoteControl::listen(std::function<RemoteAnswer(const QByteArray&)> handler) {
     handler_ = std::move(handler);
     if (!socket_)
         return;
@@ -164,7 +177,7 @@ void RemoteControl::read(std::list<Caller>::iterator caller) {
     const ssize_t count = ::recv(caller->socket.get(), buffer, sizeof buffer, 0);
     if (count > 0)
         caller->received.append(buffer, count);
-    const qsizetype end = caller->received.indexOf('\n');
+    const qsizetype end = caller->received.indexOf(endOfCommand);
     if (end < 0 && count > 0 && caller->received.size() < longestCommand)
         return;
     // Taken out first: the command may end the program.
@@ -174,8 +187,9 @@ void RemoteControl::read(std::list<Caller>::iterator caller) {
     taken.notifier.release()->deleteLater(); // this is called by it
     if (end < 0)
         return;
-    handler_(taken.received.left(end));
-    ::send(taken.socket.get(), &done, 1, MSG_NOSIGNAL);
+    const RemoteAnswer answer = handler_(taken.received.left(end));
+    const QByteArray sent = QByteArray::number(answer.status) + endOfStatus + answer.text.toUtf8();
+    ::send(taken.socket.get(), sent.constData(), static_cast<size_t>(sent.size()), MSG_NOSIGNAL);
 }
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 // Opens the session that the program was started in, and runs the application in it.
 
 #include "app/CommandLine.h"
+#include "app/ExchangeCommand.h"
 #include "app/LastWords.h"
 #include "app/RemoteControl.h"
 #include "app/VelmoraApp.h"
@@ -36,19 +37,24 @@ int main(int argc, char** argv) {
     if (!hasSystemRoom(startDescriptors, startMemory))
         endWithReason("too few files may be open, or too little memory is left.");
     const auto opened = openSession();
-    if (const auto* const reason = std::get_if<std::string>(&opened))
+    if (const auto* const reason = std::get_if<std::string>(&opened)) {
+        if (line.request.isExchange())
+            return printed(carryOutExchange(line.request));
         endWithReason(reason->c_str());
+    }
     Session::setCurrent(*std::get<std::unique_ptr<Session>>(opened));
     RemoteControl remoteControl(Session::current().name());
-    switch (remoteControl.claim(remoteCommandName(line.command))) {
+    switch (remoteControl.claim(encoded(line.request))) {
     case RemoteControl::Claim::handedOver:
-        return EXIT_SUCCESS;
+        return printed(remoteControl.answer());
     case RemoteControl::Claim::noAnswer:
         endWithReason("the instance that runs does not answer.");
     case RemoteControl::Claim::first:
         break;
     }
-    if (line.command == RemoteCommand::quit)
+    if (line.request.isExchange())
+        return printed(carryOutExchange(line.request));
+    if (line.request.command == RemoteCommand::quit)
         return EXIT_SUCCESS;
-    return VelmoraApp::main(argc, argv, remoteControl, line.command);
+    return VelmoraApp::main(argc, argv, remoteControl, line.request.command);
 }

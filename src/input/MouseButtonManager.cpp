@@ -26,7 +26,7 @@ MouseButtonManager::MouseButtonManager(
     UserDefaults& defaults, EditHistory& history, InputGrants& inputGrants,
     Accessibility& accessibility, Execute execute, std::chrono::milliseconds retryPeriod)
     : bindings_(
-          defaults, history, u"SavedMouseBindings"_s, readMouseButtonBinding,
+          defaults, history, MouseButtonBinding::userDefaultsKey, readMouseButtonBinding,
           [this] { Q_EMIT bindingsWillChange(); }, [this] { watchBoundButtons(); }),
       inputGrants_(inputGrants),
       accessibility_(accessibility),
@@ -73,6 +73,11 @@ void MouseButtonManager::removeBinding(qsizetype index) {
 
 void MouseButtonManager::updateBinding(qsizetype index, const MouseButtonBinding& binding) {
     bindings_.replace(index, binding);
+}
+
+void MouseButtonManager::replaceBindings(
+    const QList<MouseButtonBinding>& bindings, const QString& name) {
+    bindings_.replaceAll(bindings, name);
 }
 
 void MouseButtonManager::watchBoundButtons() {

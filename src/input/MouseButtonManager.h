@@ -48,6 +48,8 @@ public:
     /// Replaces the binding at `index`, its id included, even if that makes a second one for its
     /// button. Saves; an index out of range changes and saves nothing.
     void updateBinding(qsizetype index, const MouseButtonBinding& binding);
+    /// Takes other bindings in place of all; `name` says why in the history.
+    void replaceBindings(const QList<MouseButtonBinding>& bindings, const QString& name);
 
 Q_SIGNALS:
     /// Emitted synchronously before each change of the list.

@@ -69,6 +69,11 @@ std::int64_t JsonReader::integer() const {
     return integer;
 }
 
+bool JsonReader::boolean() const {
+    require(QJsonValue::Bool);
+    return value_.toBool();
+}
+
 QUuid JsonReader::uuid() const {
     const QString text = string();
     const QUuid uuid = QUuid::fromString(text);

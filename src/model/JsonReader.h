@@ -49,6 +49,7 @@ public:
     QString string() const;
     /// A number without a fraction that fits; 3.0 is the integer 3.
     std::int64_t integer() const;
+    bool boolean() const;
     /// From the canonical text form: 36 characters, hexadecimal digits of either case.
     QUuid uuid() const;
 

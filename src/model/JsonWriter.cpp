@@ -34,6 +34,11 @@ void JsonWriter::integer(std::int64_t integer) {
     text_ += QByteArray::number(static_cast<qlonglong>(integer));
 }
 
+void JsonWriter::boolean(bool boolean) {
+    separate();
+    text_ += boolean ? "true" : "false";
+}
+
 void JsonWriter::string(QStringView string) {
     separate();
     text_ += '"';

@@ -20,6 +20,7 @@ public:
     /// Any string reads back as it was, unpaired surrogates included.
     void string(QStringView string);
     void integer(std::int64_t integer);
+    void boolean(bool boolean);
 
     const QByteArray& text() const { return text_; }
 

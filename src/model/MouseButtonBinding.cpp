@@ -17,6 +17,8 @@ QString successor(std::int64_t number) {
 
 } // namespace
 
+const QString MouseButtonBinding::userDefaultsKey = u"SavedMouseBindings"_s;
+
 MouseButtonBinding::MouseButtonBinding(std::int64_t number, ShortcutAction boundAction, QUuid id)
     : buttonNumber(number), action(std::move(boundAction)), id_(id) {}
 

@@ -15,6 +15,9 @@ public:
     MouseButtonBinding(
         std::int64_t number, ShortcutAction boundAction, QUuid id = QUuid::createUuid());
 
+    /// Where the list of bindings is stored.
+    static const QString userDefaultsKey;
+
     /// Identity for the binding's whole life, also across saves.
     const QUuid& id() const { return id_; }
 

@@ -57,6 +57,16 @@ void Preferences::setKeepsWindowsBelow(bool keeps) {
     set(kWindowsBehindBar, !keeps);
 }
 
+PreferenceValues Preferences::values() const {
+    return {hotKey(), barAtTopEdge(), keepsWindowsBelow()};
+}
+
+void Preferences::take(const PreferenceValues& values) {
+    setHotKey(values.hotKey.value_or(hotKey()));
+    setBarAtTopEdge(values.barAtTopEdge.value_or(barAtTopEdge()));
+    setKeepsWindowsBelow(values.keepsWindowsBelow.value_or(keepsWindowsBelow()));
+}
+
 void Preferences::set(const QString& key, bool value) {
     if (defaults_.boolean(key) == value)
         return;

@@ -3,10 +3,18 @@
 #include "model/HotKey.h"
 
 #include <QObject>
+#include <optional>
 
 namespace velmora {
 
 class UserDefaults;
+
+/// All preferences at once; those without a value stay as they are.
+struct PreferenceValues {
+    std::optional<HotKey> hotKey;
+    std::optional<bool> barAtTopEdge;
+    std::optional<bool> keepsWindowsBelow;
+};
 
 /// What the user has chosen for the bar, kept beside the lists. Main thread only.
 class Preferences : public QObject {
@@ -30,6 +38,9 @@ public:
     /// Whether maximised windows stay below the bar while it is shown; they do at first.
     bool keepsWindowsBelow() const;
     void setKeepsWindowsBelow(bool keeps);
+
+    PreferenceValues values() const;
+    void take(const PreferenceValues& values);
 
 Q_SIGNALS:
     /// After a change of any of them.

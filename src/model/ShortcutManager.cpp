@@ -47,6 +47,10 @@ void ShortcutManager::moveShortcut(qsizetype source, qsizetype destination) {
     shortcuts_.move(source, destination);
 }
 
+void ShortcutManager::replaceShortcuts(const QList<ShortcutButton>& buttons, const QString& name) {
+    shortcuts_.replaceAll(buttons, name);
+}
+
 void ShortcutManager::saveShortcuts() {
     shortcuts_.save();
 }

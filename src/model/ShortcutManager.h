@@ -33,6 +33,8 @@ public:
     /// Moves one button to immediately before the one at `destination`, an offset into the list as
     /// it stands before the move, up to the list's length. Announced as two changes, saved once.
     void moveShortcut(qsizetype source, qsizetype destination);
+    /// Takes other buttons in place of all; `name` says why in the history.
+    void replaceShortcuts(const QList<ShortcutButton>& buttons, const QString& name);
     /// Writes the whole list to the user defaults.
     void saveShortcuts();
 

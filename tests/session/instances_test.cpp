@@ -144,6 +144,46 @@ TEST(Instances, CommandsReachTheOneThatRuns) {
     EXPECT_TRUE(session.program().waitForFinished(10000));
 }
 
+// From one that runs to one that does not, and to one that runs, each with a home of its own.
+TEST(Instances, WhatOneExportsAnotherImports) {
+    const auto stored = [](const Session& session) {
+        return QSettings(session.settingsFile(), QSettings::IniFormat)
+            .value(u"SavedShortcuts"_s)
+            .toByteArray();
+    };
+    const auto run = [](Session& session, const QStringList& arguments, int status = 0) {
+        const auto launch = session.launchAnother(arguments);
+        launch->expectStatus(status);
+        EXPECT_TRUE(launch->waitForFinished(10000));
+    };
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"a\nname with ü"_s);
+    QByteArray exported;
+    {
+        Session from(
+            {.shortcuts = QList<ShortcutButton>{
+                 {u"ü"_s, u"star"_s, LaunchApp{u"Safari"_s, u"com.apple.Safari"_s}},
+                 {u"keys"_s, u"lock"_s, PressKeyCombo{{u"Command"_s}, u"L"_s}}}});
+        from.launch();
+        run(from, {u"--export"_s, file});
+        exported = stored(from);
+    }
+    Session to;
+    run(to, {u"--import"_s, file});
+    EXPECT_EQ(stored(to), exported);
+    to.launch();
+    EXPECT_TRUE(waitFor([&] { return to.buttons().size() == 2; }));
+    const QByteArray text = Session::readFile(file);
+    const QString wrong = to.writeFile(u"wrong"_s, QByteArray(text).replace("pressKeyCombo", "x"));
+    run(to, {u"--import"_s, wrong}, 1);
+    EXPECT_EQ(stored(to), exported);
+    const QByteArray rest = "\n],\"mouseBindings\":[],\"preferences\":{}}";
+    const QString fewer = to.writeFile(u"fewer"_s, text.left(text.lastIndexOf(",\n{")) + rest);
+    run(to, {u"--import"_s, fewer});
+    EXPECT_TRUE(waitFor([&] { return to.buttons().size() == 1; }));
+    run(to, {u"--import"_s}, 2);
+}
+
 TEST(Instances, ASecondLaunchBringsTheSettingsBeforeAnotherApplication) {
     for (const QString& windowManager : {u"openbox"_s, u"xfwm4"_s}) {
         SCOPED_TRACE(windowManager.toStdString());

@@ -44,12 +44,19 @@ TEST_F(RemoteControlTest, HandsEachCommandToTheInstanceAndWaitsUntilItIsCarriedO
     std::vector<QByteArray> carriedOut;
     std::atomic<int> answered = 0;
     std::jthread launches([&] {
-        for (const char* const command : {"", "toggle", "settings"})
-            answered += launch().claim(command) == Claim::handedOver;
+        for (const char* const command : {"", "toggle", "settings"}) {
+            RemoteControl launched = launch();
+            answered += launched.claim(command) == Claim::handedOver &&
+                        launched.answer().status == 3 &&
+                        launched.answer().text == QString(5000, u'ß') + QLatin1StringView(command);
+        }
     });
     QTest::qWait(20); // asked before anyone listens: kept
     EXPECT_EQ(answered, 0);
-    first.listen([&](const QByteArray& command) { carriedOut.push_back(command); });
+    first.listen([&](const QByteArray& command) {
+        carriedOut.push_back(command);
+        return RemoteAnswer{3, QString(5000, u'ß') + QString::fromUtf8(command)};
+    });
     EXPECT_TRUE(QTest::qWaitFor([&] { return answered == 3; }));
     EXPECT_EQ(carriedOut, std::vector<QByteArray>({"", "toggle", "settings"}));
 }
