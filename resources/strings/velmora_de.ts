@@ -59,6 +59,22 @@
         <source></source>
         <translation>Diesen Shell-Befehl speichern?</translation>
     </message>
+    <message id="bar_keeps_windows_below">
+        <source></source>
+        <translation>Fenster unterhalb der Leiste halten</translation>
+    </message>
+    <message id="bar_place">
+        <source></source>
+        <translation>Platz der Leiste</translation>
+    </message>
+    <message id="bar_place_below_panel">
+        <source></source>
+        <translation>Unter der Leiste des Desktops</translation>
+    </message>
+    <message id="bar_place_top_edge">
+        <source></source>
+        <translation>Am oberen Rand</translation>
+    </message>
     <message id="button_cancel">
         <source></source>
         <translation>Abbrechen</translation>
@@ -151,6 +167,38 @@
         <source></source>
         <translation>Darstellung</translation>
     </message>
+    <message id="hotkey_change">
+        <source></source>
+        <translation>Ändern …</translation>
+    </message>
+    <message id="hotkey_change_name">
+        <source></source>
+        <translation>Tastenkürzel ändern</translation>
+    </message>
+    <message id="hotkey_hint">
+        <source></source>
+        <translation>Blendet die Leiste in jedem Programm ein und aus.</translation>
+    </message>
+    <message id="hotkey_recording">
+        <source></source>
+        <translation>Drücken Sie die neue Kombination. Esc lässt alles, wie es ist.</translation>
+    </message>
+    <message id="hotkey_refused">
+        <source></source>
+        <translation>Ein Tastenkürzel braucht Strg, Alt oder Super zusammen mit einer weiteren Taste.</translation>
+    </message>
+    <message id="hotkey_reset">
+        <source></source>
+        <translation>Standard</translation>
+    </message>
+    <message id="hotkey_reset_name">
+        <source></source>
+        <translation>Standard-Tastenkürzel</translation>
+    </message>
+    <message id="hotkey_title">
+        <source></source>
+        <translation>Tastenkürzel</translation>
+    </message>
     <message id="key_capture_leave">
         <source></source>
         <translation>Zweimal Tab oder Umschalt+Tab: unverändert verlassen</translation>
@@ -186,6 +234,22 @@
     <message id="list_empty">
         <source></source>
         <translation>Noch nichts vorhanden. „Hinzufügen“ legt den ersten Eintrag an.</translation>
+    </message>
+    <message id="login_failed_format">
+        <source></source>
+        <translation>Das konnte nicht gespeichert werden: %1</translation>
+    </message>
+    <message id="login_start">
+        <source></source>
+        <translation>Bei der Anmeldung starten</translation>
+    </message>
+    <message id="login_switched_off">
+        <source></source>
+        <translation>In den Einstellungen des Desktops ist es ausgeschaltet.</translation>
+    </message>
+    <message id="login_title">
+        <source></source>
+        <translation>Start</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -339,6 +403,10 @@
     <message id="settings_not_stored_format">
         <source></source>
         <translation>Änderungen werden nicht gespeichert, gelten aber bis zum Ende von Velmora: %1</translation>
+    </message>
+    <message id="settings_tab_general">
+        <source></source>
+        <translation>Allgemein</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>

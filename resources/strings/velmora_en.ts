@@ -59,6 +59,22 @@
         <source></source>
         <translation>Save this shell command?</translation>
     </message>
+    <message id="bar_keeps_windows_below">
+        <source></source>
+        <translation>Keep windows below the bar</translation>
+    </message>
+    <message id="bar_place">
+        <source></source>
+        <translation>Place of the bar</translation>
+    </message>
+    <message id="bar_place_below_panel">
+        <source></source>
+        <translation>Below the desktop’s panel</translation>
+    </message>
+    <message id="bar_place_top_edge">
+        <source></source>
+        <translation>At the top edge</translation>
+    </message>
     <message id="button_cancel">
         <source></source>
         <translation>Cancel</translation>
@@ -151,6 +167,38 @@
         <source></source>
         <translation>Appearance</translation>
     </message>
+    <message id="hotkey_change">
+        <source></source>
+        <translation>Change…</translation>
+    </message>
+    <message id="hotkey_change_name">
+        <source></source>
+        <translation>Change the hot key</translation>
+    </message>
+    <message id="hotkey_hint">
+        <source></source>
+        <translation>Shows and hides the bar in every application.</translation>
+    </message>
+    <message id="hotkey_recording">
+        <source></source>
+        <translation>Press the new combination. Esc leaves everything as it is.</translation>
+    </message>
+    <message id="hotkey_refused">
+        <source></source>
+        <translation>A hot key needs Ctrl, Alt or Super together with another key.</translation>
+    </message>
+    <message id="hotkey_reset">
+        <source></source>
+        <translation>Default</translation>
+    </message>
+    <message id="hotkey_reset_name">
+        <source></source>
+        <translation>Default hot key</translation>
+    </message>
+    <message id="hotkey_title">
+        <source></source>
+        <translation>Hot key</translation>
+    </message>
     <message id="key_capture_leave">
         <source></source>
         <translation>Tab or Shift+Tab twice: leave unchanged</translation>
@@ -186,6 +234,22 @@
     <message id="list_empty">
         <source></source>
         <translation>Nothing here yet. Choose “Add” to make the first.</translation>
+    </message>
+    <message id="login_failed_format">
+        <source></source>
+        <translation>This could not be stored: %1</translation>
+    </message>
+    <message id="login_start">
+        <source></source>
+        <translation>Start at login</translation>
+    </message>
+    <message id="login_switched_off">
+        <source></source>
+        <translation>It is switched off in the desktop’s settings.</translation>
+    </message>
+    <message id="login_title">
+        <source></source>
+        <translation>Start</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -339,6 +403,10 @@
     <message id="settings_not_stored_format">
         <source></source>
         <translation>Changes are not stored, but hold until Velmora ends: %1</translation>
+    </message>
+    <message id="settings_tab_general">
+        <source></source>
+        <translation>General</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>

@@ -59,6 +59,22 @@
         <source></source>
         <translation>¿Guardar este comando?</translation>
     </message>
+    <message id="bar_keeps_windows_below">
+        <source></source>
+        <translation>Mantener las ventanas debajo de la barra</translation>
+    </message>
+    <message id="bar_place">
+        <source></source>
+        <translation>Posición de la barra</translation>
+    </message>
+    <message id="bar_place_below_panel">
+        <source></source>
+        <translation>Debajo del panel del escritorio</translation>
+    </message>
+    <message id="bar_place_top_edge">
+        <source></source>
+        <translation>En el borde superior</translation>
+    </message>
     <message id="button_cancel">
         <source></source>
         <translation>Cancelar</translation>
@@ -151,6 +167,38 @@
         <source></source>
         <translation>Apariencia</translation>
     </message>
+    <message id="hotkey_change">
+        <source></source>
+        <translation>Cambiar…</translation>
+    </message>
+    <message id="hotkey_change_name">
+        <source></source>
+        <translation>Cambiar el atajo de teclado</translation>
+    </message>
+    <message id="hotkey_hint">
+        <source></source>
+        <translation>Muestra y oculta la barra en cualquier aplicación.</translation>
+    </message>
+    <message id="hotkey_recording">
+        <source></source>
+        <translation>Pulse la nueva combinación. Esc lo deja todo como está.</translation>
+    </message>
+    <message id="hotkey_refused">
+        <source></source>
+        <translation>Un atajo necesita Ctrl, Alt o Súper junto con otra tecla.</translation>
+    </message>
+    <message id="hotkey_reset">
+        <source></source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message id="hotkey_reset_name">
+        <source></source>
+        <translation>Atajo de teclado predeterminado</translation>
+    </message>
+    <message id="hotkey_title">
+        <source></source>
+        <translation>Atajo de teclado</translation>
+    </message>
     <message id="key_capture_leave">
         <source></source>
         <translation>Tab o Mayús+Tab dos veces: salir sin cambios</translation>
@@ -186,6 +234,22 @@
     <message id="list_empty">
         <source></source>
         <translation>Aún no hay nada. «Añadir» crea el primer elemento.</translation>
+    </message>
+    <message id="login_failed_format">
+        <source></source>
+        <translation>No se pudo guardar: %1</translation>
+    </message>
+    <message id="login_start">
+        <source></source>
+        <translation>Iniciar al entrar en la sesión</translation>
+    </message>
+    <message id="login_switched_off">
+        <source></source>
+        <translation>Está desactivado en los ajustes del escritorio.</translation>
+    </message>
+    <message id="login_title">
+        <source></source>
+        <translation>Inicio</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -339,6 +403,10 @@
     <message id="settings_not_stored_format">
         <source></source>
         <translation>Los cambios no se guardan, pero valen hasta que Velmora se cierre: %1</translation>
+    </message>
+    <message id="settings_tab_general">
+        <source></source>
+        <translation>General</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>

@@ -59,6 +59,22 @@
         <source></source>
         <translation>Enregistrer cette commande ?</translation>
     </message>
+    <message id="bar_keeps_windows_below">
+        <source></source>
+        <translation>Garder les fenêtres sous la barre</translation>
+    </message>
+    <message id="bar_place">
+        <source></source>
+        <translation>Position de la barre</translation>
+    </message>
+    <message id="bar_place_below_panel">
+        <source></source>
+        <translation>Sous le panneau du bureau</translation>
+    </message>
+    <message id="bar_place_top_edge">
+        <source></source>
+        <translation>Au bord supérieur</translation>
+    </message>
     <message id="button_cancel">
         <source></source>
         <translation>Annuler</translation>
@@ -151,6 +167,38 @@
         <source></source>
         <translation>Apparence</translation>
     </message>
+    <message id="hotkey_change">
+        <source></source>
+        <translation>Modifier…</translation>
+    </message>
+    <message id="hotkey_change_name">
+        <source></source>
+        <translation>Modifier le raccourci clavier</translation>
+    </message>
+    <message id="hotkey_hint">
+        <source></source>
+        <translation>Affiche et masque la barre dans toutes les applications.</translation>
+    </message>
+    <message id="hotkey_recording">
+        <source></source>
+        <translation>Appuyez sur la nouvelle combinaison. Échap laisse tout en l’état.</translation>
+    </message>
+    <message id="hotkey_refused">
+        <source></source>
+        <translation>Un raccourci a besoin de Ctrl, Alt ou Super avec une autre touche.</translation>
+    </message>
+    <message id="hotkey_reset">
+        <source></source>
+        <translation>Par défaut</translation>
+    </message>
+    <message id="hotkey_reset_name">
+        <source></source>
+        <translation>Raccourci clavier par défaut</translation>
+    </message>
+    <message id="hotkey_title">
+        <source></source>
+        <translation>Raccourci clavier</translation>
+    </message>
     <message id="key_capture_leave">
         <source></source>
         <translation>Deux fois Tab ou Maj+Tab : quitter sans changement</translation>
@@ -186,6 +234,22 @@
     <message id="list_empty">
         <source></source>
         <translation>Rien ici pour l’instant. « Ajouter » crée le premier élément.</translation>
+    </message>
+    <message id="login_failed_format">
+        <source></source>
+        <translation>Impossible de l’enregistrer : %1</translation>
+    </message>
+    <message id="login_start">
+        <source></source>
+        <translation>Démarrer à l’ouverture de session</translation>
+    </message>
+    <message id="login_switched_off">
+        <source></source>
+        <translation>Désactivé dans les réglages du bureau.</translation>
+    </message>
+    <message id="login_title">
+        <source></source>
+        <translation>Démarrage</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -339,6 +403,10 @@
     <message id="settings_not_stored_format">
         <source></source>
         <translation>Les modifications ne sont pas enregistrées, mais restent valables jusqu’à la fermeture de Velmora : %1</translation>
+    </message>
+    <message id="settings_tab_general">
+        <source></source>
+        <translation>Général</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>

@@ -59,6 +59,22 @@
         <source></source>
         <translation>このシェルコマンドを保存しますか？</translation>
     </message>
+    <message id="bar_keeps_windows_below">
+        <source></source>
+        <translation>ウインドウをバーの下に収める</translation>
+    </message>
+    <message id="bar_place">
+        <source></source>
+        <translation>バーの位置</translation>
+    </message>
+    <message id="bar_place_below_panel">
+        <source></source>
+        <translation>デスクトップのパネルの下</translation>
+    </message>
+    <message id="bar_place_top_edge">
+        <source></source>
+        <translation>画面の上端</translation>
+    </message>
     <message id="button_cancel">
         <source></source>
         <translation>キャンセル</translation>
@@ -151,6 +167,38 @@
         <source></source>
         <translation>表示</translation>
     </message>
+    <message id="hotkey_change">
+        <source></source>
+        <translation>変更…</translation>
+    </message>
+    <message id="hotkey_change_name">
+        <source></source>
+        <translation>ホットキーを変更</translation>
+    </message>
+    <message id="hotkey_hint">
+        <source></source>
+        <translation>どのアプリケーションでもバーの表示と非表示を切り替えます。</translation>
+    </message>
+    <message id="hotkey_recording">
+        <source></source>
+        <translation>新しい組み合わせを押してください。Escで変更せずに終わります。</translation>
+    </message>
+    <message id="hotkey_refused">
+        <source></source>
+        <translation>ホットキーには、Ctrl、Alt、Superのいずれかとほかのキーが必要です。</translation>
+    </message>
+    <message id="hotkey_reset">
+        <source></source>
+        <translation>デフォルト</translation>
+    </message>
+    <message id="hotkey_reset_name">
+        <source></source>
+        <translation>デフォルトのホットキー</translation>
+    </message>
+    <message id="hotkey_title">
+        <source></source>
+        <translation>ホットキー</translation>
+    </message>
     <message id="key_capture_leave">
         <source></source>
         <translation>Tab または Shift+Tab を2回押すと変更せずに移動</translation>
@@ -186,6 +234,22 @@
     <message id="list_empty">
         <source></source>
         <translation>まだ何もありません。「追加」で最初の項目を作成できます。</translation>
+    </message>
+    <message id="login_failed_format">
+        <source></source>
+        <translation>保存できませんでした：%1</translation>
+    </message>
+    <message id="login_start">
+        <source></source>
+        <translation>ログイン時に起動</translation>
+    </message>
+    <message id="login_switched_off">
+        <source></source>
+        <translation>デスクトップの設定でオフになっています。</translation>
+    </message>
+    <message id="login_title">
+        <source></source>
+        <translation>起動</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -339,6 +403,10 @@
     <message id="settings_not_stored_format">
         <source></source>
         <translation>変更は保存されていませんが、Velmora を終了するまで有効です: %1</translation>
+    </message>
+    <message id="settings_tab_general">
+        <source></source>
+        <translation>一般</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>

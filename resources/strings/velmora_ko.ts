@@ -59,6 +59,22 @@
         <source></source>
         <translation>이 셸 명령을 저장할까요?</translation>
     </message>
+    <message id="bar_keeps_windows_below">
+        <source></source>
+        <translation>창을 바 아래에 두기</translation>
+    </message>
+    <message id="bar_place">
+        <source></source>
+        <translation>바 위치</translation>
+    </message>
+    <message id="bar_place_below_panel">
+        <source></source>
+        <translation>데스크톱 패널 아래</translation>
+    </message>
+    <message id="bar_place_top_edge">
+        <source></source>
+        <translation>화면 맨 위</translation>
+    </message>
     <message id="button_cancel">
         <source></source>
         <translation>취소</translation>
@@ -151,6 +167,38 @@
         <source></source>
         <translation>모양</translation>
     </message>
+    <message id="hotkey_change">
+        <source></source>
+        <translation>변경…</translation>
+    </message>
+    <message id="hotkey_change_name">
+        <source></source>
+        <translation>단축키 변경</translation>
+    </message>
+    <message id="hotkey_hint">
+        <source></source>
+        <translation>어떤 앱에서든 바를 표시하거나 숨깁니다.</translation>
+    </message>
+    <message id="hotkey_recording">
+        <source></source>
+        <translation>새 조합을 누르세요. Esc를 누르면 그대로 둡니다.</translation>
+    </message>
+    <message id="hotkey_refused">
+        <source></source>
+        <translation>단축키에는 Ctrl, Alt 또는 Super와 다른 키가 필요합니다.</translation>
+    </message>
+    <message id="hotkey_reset">
+        <source></source>
+        <translation>기본값</translation>
+    </message>
+    <message id="hotkey_reset_name">
+        <source></source>
+        <translation>기본 단축키</translation>
+    </message>
+    <message id="hotkey_title">
+        <source></source>
+        <translation>단축키</translation>
+    </message>
     <message id="key_capture_leave">
         <source></source>
         <translation>Tab 또는 Shift+Tab 두 번: 변경 없이 이동</translation>
@@ -186,6 +234,22 @@
     <message id="list_empty">
         <source></source>
         <translation>아직 아무것도 없습니다. ‘추가’를 선택해 첫 항목을 만드세요.</translation>
+    </message>
+    <message id="login_failed_format">
+        <source></source>
+        <translation>저장하지 못했습니다: %1</translation>
+    </message>
+    <message id="login_start">
+        <source></source>
+        <translation>로그인할 때 시작</translation>
+    </message>
+    <message id="login_switched_off">
+        <source></source>
+        <translation>데스크톱 설정에서 꺼져 있습니다.</translation>
+    </message>
+    <message id="login_title">
+        <source></source>
+        <translation>시작</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -339,6 +403,10 @@
     <message id="settings_not_stored_format">
         <source></source>
         <translation>변경 사항이 저장되지 않았지만 Velmora를 종료할 때까지 유지됩니다: %1</translation>
+    </message>
+    <message id="settings_tab_general">
+        <source></source>
+        <translation>일반</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>

@@ -59,6 +59,22 @@
         <source></source>
         <translation>要保存此 Shell 命令吗？</translation>
     </message>
+    <message id="bar_keeps_windows_below">
+        <source></source>
+        <translation>让窗口保持在快捷栏下方</translation>
+    </message>
+    <message id="bar_place">
+        <source></source>
+        <translation>快捷栏的位置</translation>
+    </message>
+    <message id="bar_place_below_panel">
+        <source></source>
+        <translation>桌面面板下方</translation>
+    </message>
+    <message id="bar_place_top_edge">
+        <source></source>
+        <translation>屏幕顶边</translation>
+    </message>
     <message id="button_cancel">
         <source></source>
         <translation>取消</translation>
@@ -151,6 +167,38 @@
         <source></source>
         <translation>外观</translation>
     </message>
+    <message id="hotkey_change">
+        <source></source>
+        <translation>更改…</translation>
+    </message>
+    <message id="hotkey_change_name">
+        <source></source>
+        <translation>更改快捷键</translation>
+    </message>
+    <message id="hotkey_hint">
+        <source></source>
+        <translation>在任何应用程序中显示和隐藏快捷栏。</translation>
+    </message>
+    <message id="hotkey_recording">
+        <source></source>
+        <translation>请按下新的组合键。按 Esc 保持不变。</translation>
+    </message>
+    <message id="hotkey_refused">
+        <source></source>
+        <translation>快捷键需要 Ctrl、Alt 或 Super 加上另一个键。</translation>
+    </message>
+    <message id="hotkey_reset">
+        <source></source>
+        <translation>默认</translation>
+    </message>
+    <message id="hotkey_reset_name">
+        <source></source>
+        <translation>默认快捷键</translation>
+    </message>
+    <message id="hotkey_title">
+        <source></source>
+        <translation>快捷键</translation>
+    </message>
     <message id="key_capture_leave">
         <source></source>
         <translation>按两次 Tab 或 Shift+Tab：不作更改并离开</translation>
@@ -186,6 +234,22 @@
     <message id="list_empty">
         <source></source>
         <translation>这里还没有内容。点按“添加”即可新建。</translation>
+    </message>
+    <message id="login_failed_format">
+        <source></source>
+        <translation>无法保存：%1</translation>
+    </message>
+    <message id="login_start">
+        <source></source>
+        <translation>登录时启动</translation>
+    </message>
+    <message id="login_switched_off">
+        <source></source>
+        <translation>已在桌面设置中关闭。</translation>
+    </message>
+    <message id="login_title">
+        <source></source>
+        <translation>启动</translation>
     </message>
     <message id="menu_help">
         <source></source>
@@ -339,6 +403,10 @@
     <message id="settings_not_stored_format">
         <source></source>
         <translation>更改尚未保存，但在 Velmora 退出前有效：%1</translation>
+    </message>
+    <message id="settings_tab_general">
+        <source></source>
+        <translation>通用</translation>
     </message>
     <message id="settings_tab_mouse">
         <source></source>

@@ -2,11 +2,15 @@
 
 #include "foundation/Bundle.h"
 
+#include <QDir>
 #include <QFile>
+#include <QStandardPaths>
 #include <csignal>
 #include <fcntl.h>
 #include <pwd.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace velmora::Environment {
 namespace {
@@ -46,6 +50,11 @@ void prepareForCommands() {
     appendHelperPath();
     for (const char* variable : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"})
         qunsetenv(variable);
+}
+
+QString configurationFolder() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return QDir::isAbsolutePath(folder) ? folder : QDir::homePath() + u"/.config"_s;
 }
 
 } // namespace velmora::Environment

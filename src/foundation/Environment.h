@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 /// What this process inherits from whoever started it, and hands on to what it starts.
 namespace velmora::Environment {
 
@@ -17,5 +19,9 @@ void repair();
 ///   of the system by the same name goes before. It is there once, after a relaunch, too.
 /// - Tokens for the start of this program alone are gone.
 void prepareForCommands();
+
+/// The folder of the user's configuration files. A relative XDG_CONFIG_HOME is none, by the XDG
+/// Base Directory Specification.
+QString configurationFolder();
 
 } // namespace velmora::Environment

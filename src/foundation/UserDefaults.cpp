@@ -1,12 +1,12 @@
 #include "foundation/UserDefaults.h"
 
+#include "foundation/Environment.h"
 #include "foundation/Log.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 #include <algorithm>
 #include <sys/stat.h>
 
@@ -21,13 +21,6 @@ constexpr qint64 sizeLimit = 64 * 1024 * 1024;
 
 constexpr std::chrono::milliseconds longestPause = 1min;
 
-/// The user's configuration folder. A relative $XDG_CONFIG_HOME is to be ignored, which
-/// QStandardPaths does not do.
-QString configurationFolder() {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return QDir::isAbsolutePath(folder) ? folder : QDir::homePath() + u"/.config"_s;
-}
-
 /// Makes the folder if it is missing, for the user's eyes only: a shell command may hold
 /// a secret. Whether it was made; that it cannot be is found out by who writes into it.
 bool makeFolder(const QString& folder) {
@@ -41,7 +34,8 @@ bool makeFolder(const QString& folder) {
 
 UserDefaults& UserDefaults::standard() {
     static auto* const instance = [] {
-        auto* const made = new UserDefaults(configurationFolder() + u"/velmora/velmora.conf"_s);
+        auto* const made =
+            new UserDefaults(Environment::configurationFolder() + u"/velmora/velmora.conf"_s);
         // The last chance of what could not be written so far.
         connect(qApp, &QCoreApplication::aboutToQuit, made, [made] {
             if (!made->unsaved_.isEmpty())

@@ -77,6 +77,7 @@ void KeyCaptureNSView::keyDown(const KeyInput& event) {
         leaveByTab();
         return;
     }
+    keyCode_ = event.keyCode;
     const Combination replaced =
         replacedByTab_.value_or(std::exchange(beforePreview_, {}).value_or(shown_));
     if (onKeyCapture)
@@ -103,14 +104,16 @@ void KeyCaptureNSView::setReplacedByTab(std::optional<Combination> replaced) {
 }
 
 void KeyCaptureNSView::flagsChanged(const KeyInput& event) {
-    if (hasCapture_)
-        return;
     const QStringList modifiers = CapturedKey::modifierNames(event.flags);
-    // Letting go of all modifiers leaves the last preview in place.
     if (modifiers.isEmpty()) {
-        beforePreview_.reset();
+        // The last preview stays in place.
+        if (!hasCapture_)
+            beforePreview_.reset();
+        Q_EMIT modifiersReleased();
         return;
     }
+    if (hasCapture_)
+        return;
     if (!beforePreview_)
         beforePreview_ = shown_;
     if (onKeyCapture)
@@ -146,9 +149,11 @@ void KeyCaptureNSView::handleWindowKey(QKeyEvent& event) {
     // The same press has come, or is about to come, through the grant.
     if (grantDelivers_)
         return;
-    const auto keyEvent = windowKeyEvent(event);
+    auto keyEvent = windowKeyEvent(event);
     if (!keyEvent || !isAnswer(*keyEvent))
         return;
+    if (keyEvent->keyCode == kNoKeyCode)
+        keyEvent->keyCode = inputGrants_.keyCode(event.nativeScanCode());
     if (keyEvent->kind == KeyInput::Kind::flagsChanged)
         flagsChanged(*keyEvent);
     else if (onDefaultKey && isDefaultKey(*keyEvent))

@@ -40,6 +40,8 @@ public:
 
     const QStringList& currentModifiers() const { return shown_.modifiers; }
     const QString& currentKey() const { return shown_.key; }
+    /// The position of the key captured last; kNoKeyCode for none that is known.
+    KeyCode currentKeyCode() const { return keyCode_; }
 
     /// The combination shown, to be read aloud: "Super+Shift+4"; empty for none.
     QString spokenText() const;
@@ -51,6 +53,8 @@ Q_SIGNALS:
     /// The keyboard focus came or went; hiding counts as losing it.
     void focusChanged(bool focused);
     void tabWayOutChanged();
+    /// The last modifier that was held has been let go of.
+    void modifiersReleased();
 
 protected:
     bool event(QEvent* event) override;
@@ -82,6 +86,7 @@ private:
     InputGrants& inputGrants_;
     bool hasCapture_ = false; ///< a key, not only modifiers, since the last reset
     Combination shown_;
+    KeyCode keyCode_ = kNoKeyCode;
     std::optional<Combination> beforePreview_; ///< what the modifiers held now have replaced
     std::optional<Combination> replacedByTab_; ///< while a Tab is what was recorded last
     std::unique_ptr<InputGrant> eventMonitor_;

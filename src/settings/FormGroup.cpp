@@ -63,6 +63,10 @@ FormGroup::addRow(const QString& label, const QList<QWidget*>& controls, QWidget
     return name;
 }
 
+void FormGroup::addRow(QWidget* control, Qt::Alignment alignment) {
+    rows_->addWidget(control, 0, alignment);
+}
+
 QLineEdit* textField(const QString& text, const QString& placeholder, const QString& name) {
     auto* field = new QLineEdit;
     field->setMaxLength(std::numeric_limits<int>::max());

@@ -23,6 +23,8 @@ public:
     QLabel* addRow(const QString& label, QWidget* control) {
         return addRow(label, {control}, control);
     }
+    /// Appends a row of a control alone, as wide as there is room unless aligned.
+    void addRow(QWidget* control, Qt::Alignment alignment = {});
 
     /// Height in points of a control of one line.
     static constexpr int controlHeight = 26;

@@ -2,6 +2,7 @@
 
 #include "foundation/LocalizedString.h"
 #include "model/EditHistory.h"
+#include "settings/GeneralSettingsView.h"
 #include "settings/MouseSettingsView.h"
 #include "settings/RecordListPane.h"
 #include "viewkit/SymbolIcon.h"
@@ -32,6 +33,10 @@ SettingsView::SettingsView(const SettingsServices& services) {
     addTab(
         new MouseSettingsView(services.mouseManager, services.inputGrants),
         symbolIcon(u"computermouse"_s), localizedString("settings_tab_mouse"));
+    addTab(
+        new GeneralSettingsView(
+            services.preferences, services.hotKeyManager, services.inputGrants, services.loginItem),
+        symbolIcon(u"gearshape"_s), localizedString("settings_tab_general"));
     connect(&services.history, &EditHistory::stepped, this, &SettingsView::reveal);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/LoginItem.h"
 #include "settings/VelmoraSettingsView.h"
 
 #include <QTabWidget>
@@ -7,19 +8,24 @@
 namespace velmora {
 
 class EditHistory;
+class HotKeyManager;
 class MouseButtonManager;
+class Preferences;
 
 /// What the settings work on; all of it outlives them.
 struct SettingsServices {
     ShortcutManager& shortcutManager;
     MouseButtonManager& mouseManager;
     EditHistory& history; ///< of both
+    Preferences& preferences;
+    HotKeyManager& hotKeyManager;
     InputGrants& inputGrants;
+    LoginItem loginItem;
     std::optional<QVariantMap> infoDictionary;
     int barHeight = 0; ///< points that the bar covers at the top of the primary screen
 };
 
-/// The content of the settings window: its two tabs.
+/// The content of the settings window: its three tabs.
 class SettingsView : public QTabWidget {
     Q_OBJECT
 public:

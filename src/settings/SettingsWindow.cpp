@@ -4,6 +4,7 @@
 #include "foundation/LocalizedString.h"
 #include "foundation/Log.h"
 #include "foundation/UserDefaults.h"
+#include "input/HotKeyManager.h"
 #include "input/MouseButtonManager.h"
 #include "model/EditHistory.h"
 #include "model/ShortcutManager.h"
@@ -88,7 +89,10 @@ SettingsWindow& SettingsWindow::shared() {
                 .shortcutManager = ShortcutManager::shared(),
                 .mouseManager = MouseButtonManager::shared(),
                 .history = EditHistory::shared(),
+                .preferences = Preferences::shared(),
+                .hotKeyManager = HotKeyManager::shared(),
                 .inputGrants = Session::current().inputGrants(),
+                .loginItem = LoginItem::ofThisProgram(),
                 .infoDictionary = Bundle::infoDictionary(),
                 .barHeight = qCeil(ScreenManager::shared().getMenuBarHeight())};
         });

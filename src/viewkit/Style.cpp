@@ -94,6 +94,9 @@ void Style::drawPrimitive(
     case PE_FrameFocusRect:
         Rounded::drawFocusRing(*painter, option->rect, Rounded::controlRadius);
         break;
+    case PE_IndicatorCheckBox:
+        paintCheckBox(*painter, *option);
+        break;
     case PE_PanelMenu:
         painter->fillRect(option->rect, colors.base);
         break;

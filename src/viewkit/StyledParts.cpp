@@ -23,6 +23,7 @@ constexpr int itemTrailing = 14;
 constexpr int itemVerticalPadding = 5;
 constexpr int separatorHeight = 9;
 constexpr int separatorMargin = 8;
+constexpr double checkBoxRadius = 3;
 constexpr int checkmarkSide = 12;
 constexpr int checkmarkRoom = 18; ///< in a menu of which an item can be checked
 
@@ -99,12 +100,24 @@ void paintChoice(QPainter& painter, const QStyleOptionButton& button) {
     painter.drawText(
         placed(button.rect.adjusted(choiceLeading, 0, -choiceTrailing, 0)),
         int(QStyle::visualAlignment(button.direction, Qt::AlignLeft | Qt::AlignVCenter)) |
-            Qt::TextHideMnemonic | Qt::TextSingleLine,
+            Qt::TextHideMnemonic | Qt::TextSingleLine | Qt::TextDontClip,
         button.text);
     QRect sign = button.rect;
     sign.setLeft(sign.right() - choiceTrailing);
     paintChevrons(painter, placed(sign).toRectF().center(), colour);
     painter.restore();
+}
+
+void paintCheckBox(QPainter& painter, const QStyleOption& box) {
+    const auto& colors = WindowTheme::colors();
+    const bool isChecked = has(box, QStyle::State_On);
+    const bool isPressed = has(box, QStyle::State_Sunken);
+    const QColor& fill = isChecked   ? isPressed ? colors.accentHover : colors.accent
+                         : isPressed ? colors.buttonPressed
+                                     : colors.button;
+    Rounded::fill(painter, box.rect, checkBoxRadius, fill, isChecked ? fill : colors.secondaryText);
+    if (isChecked)
+        Symbols::paint(painter, u"checkmark"_s, box.rect, Qt::white);
 }
 
 QRect tabArea(const QRect& room) {

@@ -15,6 +15,9 @@ QColor buttonTextColor(const QStyleOptionButton& button, bool isDestructive);
 void paintChoice(QPainter& painter, const QStyleOptionButton& button);
 inline constexpr int choicePadding = 36; ///< around the text, left and right together
 
+/// Draws the box of a check box, without its label.
+void paintCheckBox(QPainter& painter, const QStyleOption& box);
+
 /// Draws a tab as a segment of a row of joined ones.
 void paintTab(QPainter& painter, const QStyleOptionTab& tab);
 /// Where a tab is drawn in the room it has.

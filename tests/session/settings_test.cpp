@@ -143,6 +143,60 @@ TEST_F(SettingsTest, AnAddedButtonIsOnTheBarAtOnceComesBackAndOutlivesACrash) {
     EXPECT_TRUE(storedText().contains(u"docs"_s));
 }
 
+TEST_F(SettingsTest, ARecordedHotKeyCountsAtOnceAndIsNotTakenFromItsHolder) {
+    Driver& driver = session_.driver();
+    ASSERT_TRUE(waitForButtons(2));
+    openSettings();
+    keys({"TAB"}); // away from the list
+    chord({"LCTL"}, "TAB");
+    chord({"LCTL"}, "TAB");
+    const auto record = [&](const QByteArray& modifier, const QByteArray& position) {
+        key("SPCE");
+        EXPECT_TRUE(waitForKeyboard(false));
+        chord({modifier}, position);
+        EXPECT_TRUE(waitForKeyboard(true));
+    };
+    record("LALT", "AB07"); // the present one: it toggles nothing meanwhile
+    record("LWIN", "SPCE");
+    EXPECT_TRUE(session_.isBarShown());
+    Witness front(QRect(0, 700, 300, 200));
+    ASSERT_TRUE(waitForFocus(front.window()));
+    for (const QString& layout : {u"us"_s, u"fr"_s}) {
+        setLayout(layout);
+        for (const bool isShown : {false, true}) {
+            driver.tapChord("LWIN", "SPCE");
+            EXPECT_TRUE(waitFor([&] { return session_.isBarShown() == isShown; }));
+        }
+        front.clear();
+        session_.pressHotKey();
+        EXPECT_TRUE(waitFor([&] {
+            return std::ranges::any_of(front.keys(), [&](const Witness::Event& event) {
+                return event.type == XCB_KEY_PRESS && event.detail == driver.keycode("AB07");
+            });
+        })) << "the one before is free";
+    }
+    setLayout(u"us"_s);
+    {
+        const XClient other;
+        xcb_grab_key(
+            other, false, other.root(), XCB_MOD_MASK_CONTROL, driver.keycode("AC07"),
+            XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+        other.sync();
+        session_.launchAnother()->waitForFinished();
+        EXPECT_TRUE(session_.waitForSettings());
+        record("LCTL", "AC07");
+        driver.tapChord("LCTL", "AC07");
+        EXPECT_TRUE(waitFor([&] {
+            return Reply<xcb_generic_event_t>(xcb_poll_for_event(other)) != nullptr;
+        })) << "it stays the other's";
+        EXPECT_TRUE(session_.isBarShown());
+    }
+    EXPECT_TRUE(waitFor([&] {
+        driver.tapChord("LCTL", "AC07");
+        return waitFor([&] { return !session_.isBarShown(); }, 300);
+    }));
+}
+
 TEST_F(SettingsTest, AHeldKeyActsOnceAndTheRecorderIsLeftByKeys) {
     const xcb_window_t settings = openSettings();
     key("HOME");

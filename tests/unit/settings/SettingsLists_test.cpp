@@ -1,6 +1,7 @@
 // The lists over real stores: selection, the commands by button, key, menu and drag.
 
 #include "foundation/UserDefaults.h"
+#include "input/HotKeyManager.h"
 #include "input/MouseButtonManager.h"
 #include "model/EditHistory.h"
 #include "model/ShortcutManager.h"
@@ -93,11 +94,16 @@ protected:
     test::FakeAccessibility accessibility_;
     MouseButtonManager mouse_{
         defaults_, history_, inputGrants_, accessibility_, [](const ShortcutAction&) {}};
+    Preferences preferences_{defaults_};
+    HotKeyManager hotKeyManager_{preferences_, inputGrants_, accessibility_};
     SettingsView view_{
         {.shortcutManager = store_,
          .mouseManager = mouse_,
          .history = history_,
+         .preferences = preferences_,
+         .hotKeyManager = hotKeyManager_,
          .inputGrants = inputGrants_,
+         .loginItem = {root_.path() + u"/velmora.desktop"_s, {}},
          .infoDictionary = {}}};
 };
 

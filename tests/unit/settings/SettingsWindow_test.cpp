@@ -3,6 +3,7 @@
 #include "foundation/ActionMessages.h"
 #include "foundation/Bundle.h"
 #include "foundation/UserDefaults.h"
+#include "input/HotKeyManager.h"
 #include "input/MouseButtonManager.h"
 #include "model/ShortcutManager.h"
 #include "platform/WindowActivation.h"
@@ -52,13 +53,18 @@ protected:
     ShortcutManager shortcuts_{defaults_, history_};
     MouseButtonManager mouse_{
         defaults_, history_, inputGrants_, accessibility_, [](const ShortcutAction&) {}};
+    Preferences preferences_{defaults_};
+    HotKeyManager hotKeyManager_{preferences_, inputGrants_, accessibility_};
     FakeActivation activation_;
     SettingsWindow window_{defaults_, activation_, [this] {
                                return SettingsServices{
                                    .shortcutManager = shortcuts_,
                                    .mouseManager = mouse_,
                                    .history = history_,
+                                   .preferences = preferences_,
+                                   .hotKeyManager = hotKeyManager_,
                                    .inputGrants = inputGrants_,
+                                   .loginItem = {root_.path() + u"/velmora.desktop"_s, {}},
                                    .infoDictionary = Bundle::infoDictionary()};
                            }};
 

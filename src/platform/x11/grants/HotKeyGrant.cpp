@@ -4,6 +4,7 @@
 #include "platform/x11/grants/ChordStates.h"
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +78,19 @@ bool HotKeyGrant::holdsPlainChord() const {
 void HotKeyGrant::grab(const std::vector<std::uint32_t>& states) {
     if (states.empty())
         return;
+    // Core grabs, which most window managers use, and those of XInput 2 do not conflict: whoever
+    // came last would have it, and nobody would know. Tried, and let go of again.
+    std::optional<xcb_void_cookie_t> coreGrab;
+    const auto plain = std::ranges::find_if(states, [this](std::uint32_t state) {
+        return isPlainChord(keyboard_.modifiers(), chord_.requiredFlags, state);
+    });
+    if (plain != states.end()) {
+        const auto mask = static_cast<std::uint16_t>(*plain);
+        coreGrab = xcb_grab_key_checked(
+            connection_, false, connection_.root(), mask, keycode_, XCB_GRAB_MODE_ASYNC,
+            XCB_GRAB_MODE_ASYNC);
+        xcb_ungrab_key(connection_, keycode_, connection_.root(), mask);
+    }
     constexpr std::uint32_t presses = XCB_INPUT_XI_EVENT_MASK_KEY_PRESS;
     const auto cookie = xcb_input_xi_passive_grab_device(
         connection_, XCB_CURRENT_TIME, connection_.root(), XCB_CURSOR_NONE, keycode_,
@@ -92,6 +106,9 @@ void HotKeyGrant::grab(const std::vector<std::uint32_t>& states) {
     const auto* refused = xcb_input_xi_passive_grab_device_modifiers(reply.get());
     for (int i = 0; i < xcb_input_xi_passive_grab_device_modifiers_length(reply.get()); ++i)
         held_.erase(refused[i].modifiers);
+    // Its answer came before that reply.
+    if (coreGrab && XcbOwned<xcb_generic_error_t>(xcb_request_check(connection_, *coreGrab)))
+        ungrab(held_);
 }
 
 void HotKeyGrant::ungrab(const std::set<std::uint32_t>& states) {

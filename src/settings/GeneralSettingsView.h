@@ -1,0 +1,28 @@
+#pragma once
+
+#include "foundation/LoginItem.h"
+
+#include <QWidget>
+
+namespace velmora {
+
+class FormGroup;
+class HotKeyManager;
+class InputGrants;
+class Preferences;
+
+/// The third tab: the hot key, the bar's place, and the start with the desktop session.
+class GeneralSettingsView : public QWidget {
+    Q_OBJECT
+public:
+    /// What is handed in by reference outlives the view.
+    GeneralSettingsView(
+        Preferences& preferences, HotKeyManager& hotKeyManager, InputGrants& inputGrants,
+        const LoginItem& loginItem);
+
+private:
+    FormGroup* makeBarGroup(Preferences& preferences);
+    FormGroup* makeLoginGroup(const LoginItem& loginItem);
+};
+
+} // namespace velmora
