@@ -3,6 +3,7 @@
 #include "app/AfterFirstPaint.h"
 #include "app/StatusItemIcon.h"
 #include "foundation/Bundle.h"
+#include "model/Preferences.h"
 #include "platform/TrayHost.h"
 #include "viewkit/PopupMenu.h"
 
@@ -13,6 +14,15 @@
 using namespace Qt::StringLiterals;
 
 namespace velmora {
+namespace {
+
+/// The given title names Option+M in AppKit's words; another hot key is named as keyboards here do.
+QString toggleTitle() {
+    const HotKey hotKey = Preferences::shared().hotKey();
+    return u"メニューバーを切り替え (%1)"_s.arg(hotKey == HotKey() ? u"Option+M"_s : hotKey.name());
+}
+
+} // namespace
 
 StatusBarController::StatusBarController(TrayHost& trayHost, std::function<void()> showSettings)
     : trayHost_(trayHost), showSettings_(std::move(showSettings)) {}
@@ -41,7 +51,10 @@ void StatusBarController::makeStatusItem() {
 void StatusBarController::setupMenu() {
     menu_ = std::make_unique<PopupMenu>();
     menu_->setAccessibleName(u"Velmora"_s);
-    menu_->addItem(u"メニューバーを切り替え (Option+M)"_s, {}, [this] { toggleOverlay(); });
+    QAction* toggle = menu_->addItem(toggleTitle(), {}, [this] { toggleOverlay(); });
+    connect(&Preferences::shared(), &Preferences::changed, toggle, [toggle] {
+        toggle->setText(toggleTitle());
+    });
     menu_->addSeparator();
     menu_->addItem(u"設定..."_s, QKeySequence(u"Ctrl+,"_s), [this] { openSettings(); });
     menu_->addSeparator();
