@@ -3,6 +3,7 @@
 #include "foundation/LocalizedString.h"
 #include "foundation/RegularFile.h"
 #include "model/Preferences.h"
+#include "settings/ExchangeButtons.h"
 #include "settings/FormGroup.h"
 #include "settings/HotKeyField.h"
 #include "viewkit/FormParts.h"
@@ -39,9 +40,12 @@ public:
 
 GeneralSettingsView::GeneralSettingsView(
     Preferences& preferences, HotKeyManager& hotKeyManager, InputGrants& inputGrants,
-    const LoginItem& loginItem) {
+    const LoginItem& loginItem, const Exchange& exchange) {
     auto* hotKey = new FormGroup(localizedString("hotkey_title"));
     hotKey->addRow(new HotKeyField(preferences, hotKeyManager, inputGrants));
+
+    auto* files = new FormGroup(localizedString("exchange_title"));
+    files->addRow(new ExchangeButtons(exchange));
 
     constexpr int padding = Theme::defaultPadding;
     auto* form = new QWidget;
@@ -51,6 +55,7 @@ GeneralSettingsView::GeneralSettingsView(
     groups->addWidget(hotKey);
     groups->addWidget(makeBarGroup(preferences));
     groups->addWidget(makeLoginGroup(loginItem));
+    groups->addWidget(files);
     groups->addStretch();
     auto* stack = new QVBoxLayout(this);
     stack->setContentsMargins(0, 0, 0, 0);

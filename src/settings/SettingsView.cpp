@@ -35,7 +35,8 @@ SettingsView::SettingsView(const SettingsServices& services) {
         symbolIcon(u"computermouse"_s), localizedString("settings_tab_mouse"));
     addTab(
         new GeneralSettingsView(
-            services.preferences, services.hotKeyManager, services.inputGrants, services.loginItem),
+            services.preferences, services.hotKeyManager, services.inputGrants, services.loginItem,
+            services.exchange),
         symbolIcon(u"gearshape"_s), localizedString("settings_tab_general"));
     connect(&services.history, &EditHistory::stepped, this, &SettingsView::reveal);
 }

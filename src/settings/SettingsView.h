@@ -8,6 +8,7 @@
 namespace velmora {
 
 class EditHistory;
+class Exchange;
 class HotKeyManager;
 class MouseButtonManager;
 class Preferences;
@@ -17,6 +18,7 @@ struct SettingsServices {
     ShortcutManager& shortcutManager;
     MouseButtonManager& mouseManager;
     EditHistory& history; ///< of both
+    const Exchange& exchange;
     Preferences& preferences;
     HotKeyManager& hotKeyManager;
     InputGrants& inputGrants;

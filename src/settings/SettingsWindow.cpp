@@ -12,6 +12,7 @@
 #include "platform/Session.h"
 #include "platform/WindowActivation.h"
 #include "settings/AboutView.h"
+#include "settings/Exchange.h"
 #include "settings/MainMenuBar.h"
 #include "settings/StorageNotice.h"
 #include "settings/WindowFrame.h"
@@ -89,6 +90,7 @@ SettingsWindow& SettingsWindow::shared() {
                 .shortcutManager = ShortcutManager::shared(),
                 .mouseManager = MouseButtonManager::shared(),
                 .history = EditHistory::shared(),
+                .exchange = Exchange::shared(),
                 .preferences = Preferences::shared(),
                 .hotKeyManager = HotKeyManager::shared(),
                 .inputGrants = Session::current().inputGrants(),

@@ -5,6 +5,7 @@
 #include "input/MouseButtonManager.h"
 #include "model/EditHistory.h"
 #include "model/ShortcutManager.h"
+#include "settings/Exchange.h"
 #include "settings/RecordListView.h"
 #include "settings/RecordRowDelegate.h"
 #include "settings/SettingsView.h"
@@ -89,6 +90,7 @@ protected:
     const QTemporaryDir root_;
     UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
     EditHistory history_;
+    Exchange exchange_{[] { return velmora::Setup(); }, [](const velmora::Setup&) {}};
     ShortcutManager store_{defaults_, history_};
     test::FakeInputGrants inputGrants_;
     test::FakeAccessibility accessibility_;
@@ -100,6 +102,7 @@ protected:
         {.shortcutManager = store_,
          .mouseManager = mouse_,
          .history = history_,
+         .exchange = exchange_,
          .preferences = preferences_,
          .hotKeyManager = hotKeyManager_,
          .inputGrants = inputGrants_,

@@ -8,6 +8,7 @@
 #include "model/ShortcutManager.h"
 #include "platform/WindowActivation.h"
 #include "settings/AboutView.h"
+#include "settings/Exchange.h"
 #include "settings/MainMenuBar.h"
 #include "settings/RecordListPane.h"
 #include "settings/SettingsWindow.h"
@@ -48,6 +49,7 @@ protected:
     const QTemporaryDir root_;
     UserDefaults defaults_{root_.path() + u"/velmora.conf"_s};
     EditHistory history_;
+    Exchange exchange_{[] { return velmora::Setup(); }, [](const velmora::Setup&) {}};
     test::FakeInputGrants inputGrants_;
     test::FakeAccessibility accessibility_;
     ShortcutManager shortcuts_{defaults_, history_};
@@ -61,6 +63,7 @@ protected:
                                    .shortcutManager = shortcuts_,
                                    .mouseManager = mouse_,
                                    .history = history_,
+                                   .exchange = exchange_,
                                    .preferences = preferences_,
                                    .hotKeyManager = hotKeyManager_,
                                    .inputGrants = inputGrants_,
