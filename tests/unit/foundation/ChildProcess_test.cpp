@@ -145,7 +145,8 @@ TEST(ChildProcess, RunsWaitForRoomInTheirOrderAndLeaveNothingBehind) {
     for (const Child& child : children) {
         ASSERT_EQ(child.outcome().startFailure, QString());
         const int process = child.output().toInt();
-        EXPECT_GT(process, last) << "started out of turn";
+        const bool hasWrapped = process + 10000 < last; // the system counts from the start again
+        EXPECT_TRUE(process > last || hasWrapped) << "started out of turn";
         last = process;
     }
     setLimit(lowestFree); // none is free, and there is nothing to wait for
