@@ -1,16 +1,18 @@
 #include "app/RemoteControl.h"
 
+#include "foundation/Environment.h"
 #include "foundation/Log.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
-#include <QStandardPaths>
+#include <QFileInfo>
 #include <cerrno>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/file.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 
 using namespace Qt::StringLiterals;
@@ -26,10 +28,11 @@ constexpr char endOfStatus = '\n'; ///< in an answer; the text behind it goes on
 /// How long to wait before looking once more whether an instance that is ending has ended.
 constexpr int pauseBetweenLooks = 5; // milliseconds
 
+/// The settings' folder, made for the user's eyes only where it is missing.
 QString settingsFolder() {
-    QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/velmora"_s;
-    QDir().mkpath(folder);
+    QString folder = Environment::configurationFolder() + u"/velmora"_s;
+    QDir().mkpath(QFileInfo(folder).path());
+    ::mkdir(QFile::encodeName(folder).constData(), 0700);
     return folder;
 }
 
@@ -86,7 +89,9 @@ RemoteControl::claim(const QByteArray& command, std::chrono::milliseconds patien
 
 bool RemoteControl::openLock() {
     const QByteArray lockName = name_.chopped(QByteArrayView("socket").size()) + "lock";
-    for (const QString& path : {qEnvironmentVariable("XDG_RUNTIME_DIR"), settingsFolder()}) {
+    for (const bool isFallback : {false, true}) {
+        const QString path =
+            isFallback ? settingsFolder() : qEnvironmentVariable("XDG_RUNTIME_DIR");
         if (!QDir::isAbsolutePath(path))
             continue;
         folder_ = openFolder(path);

@@ -2,7 +2,7 @@
 
 #include "app/RemoteControl.h"
 
-#include <QElapsedTimer>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 #include <array>
@@ -101,6 +101,20 @@ TEST_F(RemoteControlTest, AnInstanceThatDoesNotAnswerIsNotWaitedForForever) {
     ASSERT_EQ(stuck.claim({}), Claim::first);
     EXPECT_EQ(launch().claim({}, std::chrono::milliseconds(50)), Claim::noAnswer);
     EXPECT_EQ(RemoteControl(u":8"_s).claim({}), Claim::first) << "another display";
+}
+
+TEST(RemoteControlFolder, TheSettingsFolderIsMadeOnlyWhereItIsNeededAndForTheUserAlone) {
+    const QTemporaryDir folder;
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.filePath(u"config"_s)));
+    const QString settings = folder.filePath(u"config/velmora"_s);
+    for (const bool hasRuntimeFolder : {true, false}) {
+        qputenv("XDG_RUNTIME_DIR", hasRuntimeFolder ? QFile::encodeName(folder.path()) : "");
+        EXPECT_EQ(RemoteControl(u":7"_s).claim({}), Claim::first);
+        EXPECT_EQ(QFileInfo::exists(settings), !hasRuntimeFolder);
+    }
+    EXPECT_FALSE(
+        QFileInfo(settings).permissions() &
+        (QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther));
 }
 
 } // namespace
