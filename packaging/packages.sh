@@ -6,11 +6,12 @@ build_packages=(
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     libgl-dev libxcb1-dev libxcb-xkb-dev libxcb-xtest0-dev libxcb-xinput-dev libxcb-shape0-dev
     libxcb-randr0-dev libxkbcommon-dev libxkbcommon-x11-dev libglib2.0-dev libfontconfig-dev libpng-dev
+    libwayland-dev libwayland-bin wayland-protocols plasma-wayland-protocols qt6-base-private-dev
     bootstrap-icons
 )
 # To use it: the shell for commands, a font, the texts of Qt's own menus, default handlers.
 runtime_packages=(
-    zsh fonts-dejavu-core libqt6svg6 qt6-translations-l10n shared-mime-info desktop-file-utils
+    zsh fonts-dejavu-core libqt6svg6 qt6-wayland qt6-translations-l10n shared-mime-info desktop-file-utils
 )
 # For the guided session of ./run on a machine without a display.
 demo_packages=(xvfb openbox xdotool imagemagick x11-utils fonts-noto-cjk)
