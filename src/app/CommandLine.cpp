@@ -89,27 +89,41 @@ std::optional<RemoteRequest> decodedRequest(const QByteArray& bytes) {
 
 CommandLine readCommandLine(std::span<char* const> arguments) {
     CommandLine line;
+    QByteArray first; // of the commands
     for (std::size_t index = 1; index < arguments.size(); ++index) {
         const QByteArray argument = arguments[index];
-        if (!argument.startsWith("--"))
+        const QString shown = QString::fromLocal8Bit(argument);
+        if (!argument.startsWith("--")) {
+            const bool isQts = argument.startsWith('-');
+            if (!isQts)
+                line.error =
+                    u"velmora: “%1” is no option; “velmora --help” lists them."_s.arg(shown);
+            else if (index + 1 < arguments.size() && *arguments[index + 1] != '-')
+                ++index;
             continue;
+        }
         const QByteArray name = argument.mid(2);
         const Option* option = optionOf(std::string_view(name));
+        const bool isSecond = !first.isEmpty();
+        if (!isSecond)
+            first = argument;
         if (name == "help") {
             line.answer = help();
         } else if (name == "version") {
             line.answer = version();
         } else if (!option) {
-            line.error = u"velmora: unknown option “%1”; “velmora --help” lists them."_s.arg(
-                QString::fromLocal8Bit(argument));
+            line.error = u"velmora: unknown option “%1”; “velmora --help” lists them."_s.arg(shown);
         } else if (!option->takesFile) {
             line.request = {option->command};
         } else if (++index < arguments.size() && *arguments[index]) {
             const QString file = QFile::decodeName(arguments[index]);
             line.request = {option->command, QFileInfo(file).absoluteFilePath()};
         } else {
-            line.error = u"velmora: %1 takes a file."_s.arg(QString::fromLocal8Bit(argument));
+            line.error = u"velmora: %1 takes a file."_s.arg(shown);
         }
+        if (isSecond && line.error.isEmpty())
+            line.error = u"velmora: %1 and %2 do not go together."_s.arg(
+                QString::fromLocal8Bit(first), shown);
     }
     return line;
 }

@@ -40,8 +40,9 @@ struct CommandLine {
     QString error{};
 };
 
-/// Reads `arguments`, the program's name first. Arguments with one hyphen, and what follows them,
-/// are Qt's and left alone. Main thread, without an application object.
+/// Reads `arguments`, the program's name first; one command at most makes sense. Arguments with one
+/// hyphen, and what follows them, are Qt's and left alone. Main thread, without an application
+/// object.
 CommandLine readCommandLine(std::span<char* const> arguments);
 
 } // namespace velmora

@@ -101,7 +101,7 @@ IniText::IniText(const QByteArray& text) {
             ++end;
         if (end == start && text[start] == '[') {
             end = addSection(text, start);
-        } else if (end == start && text[start] != ';') {
+        } else if (end == start && text[start] != ';' && text[start] != '#') {
             end = addEntry(text, start);
         } else {
             if (end == start)

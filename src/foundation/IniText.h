@@ -7,8 +7,8 @@
 namespace velmora {
 
 /// The text of a settings file in the INI form of QSettings: the entries of its section [General],
-/// by key. Everything else (other sections, keys that nobody sets, comments) stays byte for byte as
-/// it is. Keys are ASCII without slashes.
+/// by key. Everything else (other sections, keys that nobody sets, comments, also those that begin
+/// with a number sign) stays byte for byte as it is. Keys are ASCII without slashes.
 class IniText {
 public:
     IniText() = default;

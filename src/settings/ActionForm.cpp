@@ -104,7 +104,6 @@ QWidget* ActionForm::makeAppParameter() {
         Q_EMIT fieldsChanged();
     });
     auto* select = new QPushButton(localizedString("button_select"));
-    select->setAutoDefault(false);
     select->setAccessibleDescription(appName_->accessibleName());
     connect(select, &QPushButton::clicked, this, &ActionForm::showAppPicker);
 

@@ -16,6 +16,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace velmora {
@@ -54,6 +55,12 @@ RecordEditor::RecordEditor(Kind kind, std::function<void()> onCancel, InputGrant
     save_->setAutoDefault(false);
     save_->setDefault(true);
     connect(save_, &QPushButton::clicked, this, &RecordEditor::requestSave);
+    // The command's field keeps Return to itself.
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* saveKey = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+        saveKey->setAutoRepeat(false);
+        connect(saveKey, &QShortcut::activated, this, &RecordEditor::requestSave);
+    }
     auto* buttons = new QHBoxLayout;
     buttons->setContentsMargins(padding, padding, padding, padding);
     buttons->addWidget(cancel);

@@ -58,7 +58,6 @@ public:
 
         const QString iconLabel = icon_->accessibleName();
         auto* select = new QPushButton(localizedString("button_select"));
-        select->setAutoDefault(false);
         select->setAccessibleDescription(iconLabel);
         const QList<QWidget*> iconControls{icon_, new SymbolPreview(*icon_), select};
         const QString hint = icon_->placeholderText();

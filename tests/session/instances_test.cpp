@@ -121,13 +121,15 @@ TEST(Instances, OneFollowsTheOtherWhenRestartedWithTheHotKeyGoingOn) {
 
 TEST(Instances, CommandsReachTheOneThatRuns) {
     Session session;
-    const auto run = [&](const QString& argument, int status = 0) {
-        const auto launch = session.launchAnother({argument});
+    const auto run = [&](const QStringList& arguments, int status = 0) {
+        const auto launch = session.launchAnother(arguments);
         launch->expectStatus(status);
         EXPECT_TRUE(launch->waitForFinished(10000));
     };
-    run(u"--quit"_s); // nobody is there
-    run(u"--togle"_s, 2);
+    run({u"--quit"_s}); // nobody is there
+    for (const QStringList& senseless : QList<QStringList>{
+             {u"--togle"_s}, {u"foo"_s}, {u"--hide"_s, u"--show"_s}, {u"--version"_s, u"--quit"_s}})
+        run(senseless, 2);
     session.launch();
     for (const auto& [argument, isShown] :
          {std::pair(u"--show"_s, true),
@@ -136,11 +138,11 @@ TEST(Instances, CommandsReachTheOneThatRuns) {
           {u"--toggle"_s, true},
           {u"--hide"_s, false},
           {u"--show"_s, true}}) {
-        run(argument);
+        run({argument});
         EXPECT_TRUE(waitFor([&] { return session.isBarShown() == isShown; }))
             << qPrintable(argument);
     }
-    run(u"--quit"_s);
+    run({u"--quit"_s});
     EXPECT_TRUE(session.program().waitForFinished(10000));
 }
 

@@ -72,6 +72,12 @@ TEST_F(IniTextTest, ReadsWhatAHandEditedAndKeepsTheRestOfIt) {
     EXPECT_TRUE(text.text().startsWith("\xEF\xBB\xBF"
                                        "a=x\\qy\\zz\n; a note\n"));
     EXPECT_TRUE(text.text().contains("; another note\nc="));
+
+    const QByteArray commented = "# no \"end\n[General]\n#e=2\n e=1\n";
+    IniText byHand(commented);
+    EXPECT_EQ(byHand.firstBadLine(), 0);
+    EXPECT_EQ(byHand.value("e"), "1"_ba);
+    EXPECT_EQ(byHand.text(), commented);
 }
 
 } // namespace

@@ -95,6 +95,13 @@ TEST_F(EditorTest, ANewButtonNeedsItsActionAndATitleOrSymbol) {
     QTest::keyClick(cancel, Qt::Key_Return);
     EXPECT_EQ(cancelled_, 1);
     EXPECT_TRUE(saved_.isEmpty());
+    QPushButton* chooseSymbol = &named<QPushButton>(editor, u"button_select"_s);
+    chooseSymbol->setFocus();
+    QTest::keyClick(chooseSymbol, Qt::Key_Return);
+    EXPECT_TRUE(saved_.isEmpty());
+    auto* chooser = sheet_->findChild<Sheet*>();
+    ASSERT_TRUE(chooser);
+    chooser->reject();
     app->setFocus();
     QTest::keyClick(app, Qt::Key_Return);
     ASSERT_EQ(saved_.size(), 1);
@@ -124,6 +131,8 @@ TEST_F(EditorTest, EditingKeepsTheIdAndWhatIsNotTouched) {
     ShortcutEditorView& editor = open(ShortcutButton(u"T"_s, {}, ExecuteShellCommand{command}));
     auto* text = editor.findChild<QPlainTextEdit*>();
     QTest::keyClicks(text, u"x"_s);
+    QTest::keyClick(text, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(sheet_->findChild<QDialog*>()) << "asks before it saves";
     EXPECT_EQ(editor.actionForm().fields().shellCommand, u'x' + command);
 }
 
