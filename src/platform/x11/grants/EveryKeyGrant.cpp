@@ -41,13 +41,15 @@ void EveryKeyGrant::obtain() {
     if (!view_)
         return;
     const auto window = static_cast<xcb_window_t>(view_->window()->winId());
+    // Before the grab: a modifier may go down, and come up, the moment it is there.
+    followModifiers(true);
     if (!grab(window)) {
+        followModifiers(false);
         retries_.noteRefusal(u"⌨️ The keyboard"_s);
         setState(State::pending, localizedString("grant_held_by_other"));
         return;
     }
     window_ = window;
-    followModifiers(true);
     keyboard_.labels(); // before the first key needs them
     retries_.noteSuccess();
     setState(State::granted);
